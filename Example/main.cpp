@@ -1,0 +1,201 @@
+// Grove is a host app of the catalogue: it says which app it is and shows that app's More screen.
+
+#include <TQFoundation/DesktopPlatform.h>
+#include <TQFoundation/TQApp.h>
+
+#include <QtCore/qcommandlineparser.h>
+#include <QtCore/qdir.h>
+#include <QtCore/qlocale.h>
+#include <QtCore/qmetaobject.h>
+#include <QtCore/qtextstream.h>
+#include <QtCore/qtranslator.h>
+#include <QtGui/qguiapplication.h>
+#include <QtGui/qpalette.h>
+#include <QtQml/qqmlapplicationengine.h>
+#include <QtQuick/qquickwindow.h>
+
+#include <cstdlib>
+#include <optional>
+#include <span>
+
+using namespace TQFoundation;
+
+namespace {
+
+struct Options
+{
+    TQApp app = TQApp::hazel;
+    std::optional<QString> storefront;
+    QString language;
+    bool dark = false;
+    QSize size{390, 844};
+    QString shots; // the folder for pictures; empty for a window
+};
+
+/// A desktop whose screen is the example's window and whose storefront is what the command line says.
+class GrovePlatform final : public DesktopPlatform
+{
+public:
+    explicit GrovePlatform(const Options &options) : m_size(options.size), m_storefront(options.storefront) {}
+
+    QSizeF screenBounds() const override { return m_size; }
+    std::optional<QString> storefrontCountryCode() const override { return m_storefront; }
+
+private:
+    QSizeF m_size;
+    std::optional<QString> m_storefront;
+};
+
+std::optional<TQApp> appNamed(const QString &name)
+{
+    bool known = false;
+    const int value = QMetaEnum::fromType<TQApp::Case>().keyToValue(name.toUtf8().constData(), &known);
+    return known ? std::optional<TQApp>(static_cast<TQApp::Case>(value)) : std::nullopt;
+}
+
+std::optional<QSize> sizeNamed(const QString &text)
+{
+    const QStringList sides = text.split(u'x');
+    const QSize size(sides.value(0).toInt(), sides.value(1).toInt());
+    return sides.size() == 2 && size.width() >= 240 && size.height() >= 240 ? std::optional(size) : std::nullopt;
+}
+
+[[noreturn]] void refuse(const QString &message)
+{
+    QTextStream(stderr) << "Grove: " << message << '\n';
+    std::exit(2);
+}
+
+Options parseOptions(const QStringList &arguments)
+{
+    const QCommandLineOption app(QStringLiteral("app"), QStringLiteral("Which app of the catalogue to be."),
+                                 QStringLiteral("case"), QStringLiteral("hazel"));
+    const QCommandLineOption storefront(QStringLiteral("storefront"),
+                                        QStringLiteral("The user's store: CHN, USA, ... or none."),
+                                        QStringLiteral("code"), QStringLiteral("none"));
+    const QCommandLineOption language(QStringLiteral("language"),
+                                      QStringLiteral("The user's language, such as zh-Hans."), QStringLiteral("tag"));
+    const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Dark appearance."));
+    const QCommandLineOption size(QStringLiteral("size"), QStringLiteral("The window's size in points."),
+                                  QStringLiteral("widthxheight"), QStringLiteral("390x844"));
+    const QCommandLineOption shots(QStringLiteral("shots"),
+                                   QStringLiteral("Walk through the screens off-screen and write pictures."),
+                                   QStringLiteral("folder"));
+    QCommandLineParser parser;
+    parser.addOptions({app, storefront, language, dark, size, shots});
+    const QCommandLineOption help = parser.addHelpOption();
+    if (!parser.parse(arguments))
+        refuse(parser.errorText());
+    if (parser.isSet(help)) {
+        QTextStream(stdout) << parser.helpText();
+        std::exit(0);
+    }
+
+    Options options;
+    const auto named = appNamed(parser.value(app));
+    if (!named)
+        refuse(QStringLiteral("no app is called '%1'").arg(parser.value(app)));
+    options.app = *named;
+    const auto windowSize = sizeNamed(parser.value(size));
+    if (!windowSize)
+        refuse(QStringLiteral("'%1' is no window size").arg(parser.value(size)));
+    options.size = *windowSize;
+    if (parser.value(storefront) != u"none")
+        options.storefront = parser.value(storefront);
+    options.language = parser.value(language);
+    options.dark = parser.isSet(dark);
+    options.shots = parser.value(shots);
+    if (parser.isSet(shots) && options.shots.isEmpty())
+        refuse(QStringLiteral("--shots needs a folder"));
+    return options;
+}
+
+void chooseDisplay(const Options &options)
+{
+    if (!options.shots.isEmpty()) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QUICK_BACKEND", "software");
+        if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR"))
+            qputenv("QT_SCALE_FACTOR", "2");
+        return;
+    }
+#ifdef Q_OS_LINUX
+    // Where no display answers, the last of the list is taken and pictures are made instead.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        const bool wayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+        qputenv("QT_QPA_PLATFORM", wayland ? "wayland;xcb;offscreen" : "xcb;offscreen");
+    }
+#endif
+}
+
+QPalette darkPalette()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, Qt::black);
+    palette.setColor(QPalette::WindowText, Qt::white);
+    return palette;
+}
+
+// Shows each screen without animation and writes what the window then holds.
+bool takePictures(QQuickWindow *window, const QString &folder)
+{
+    QTextStream out(stdout);
+    for (const char *screen : {"home", "more"}) {
+        window->setProperty("screenName", QLatin1String(screen));
+        QCoreApplication::processEvents();
+        const QString path = QDir(folder).filePath(QLatin1String(screen) + u".png");
+        if (!QDir().mkpath(folder) || !window->grabWindow().save(path)) {
+            QTextStream(stderr) << "Grove: cannot write " << path << '\n';
+            return false;
+        }
+        out << QDir(path).absolutePath() << '\n';
+    }
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QStringList arguments;
+    for (const char *argument : std::span(argv, static_cast<std::size_t>(argc)))
+        arguments += QString::fromLocal8Bit(argument);
+    Options options = parseOptions(arguments);
+    chooseDisplay(options);
+    installPlatform(std::make_unique<GrovePlatform>(options));
+    if (!options.language.isEmpty())
+        QLocale::setDefault(QLocale(options.language));
+
+    QGuiApplication application(argc, argv);
+    if (options.shots.isEmpty() && QGuiApplication::platformName() == u"offscreen")
+        options.shots = QDir::current().filePath(QStringLiteral("shots"));
+    if (options.dark)
+        QGuiApplication::setPalette(darkPalette());
+    QGuiApplication::setLayoutDirection(QLocale().textDirection());
+
+    QTranslator translator;
+    for (const QString &tag : QLocale().uiLanguages()) {
+        const QLocale locale(tag);
+        const QString language = QLocale::languageToCode(locale.language());
+        const QString path = QStringLiteral(":/Translations/Grove_");
+        if (translator.load(path + language + u'_' + QLocale::scriptToCode(locale.script()), {}, QStringLiteral("."))
+            || translator.load(path + language + u'_' + QLocale::territoryToCode(locale.territory()), {},
+                               QStringLiteral("."))
+            || translator.load(path + language, {}, QStringLiteral(".")))
+            break;
+    }
+    QCoreApplication::installTranslator(&translator);
+
+    QQmlApplicationEngine engine;
+    engine.setInitialProperties({{QStringLiteral("app"), QVariant::fromValue(options.app)},
+                                 {QStringLiteral("width"), options.size.width()},
+                                 {QStringLiteral("height"), options.size.height()},
+                                 {QStringLiteral("animated"), options.shots.isEmpty()}});
+    engine.load(QUrl(QStringLiteral("qrc:/Grove/Main.qml")));
+    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+    if (!window)
+        return 1;
+    if (!options.shots.isEmpty())
+        return takePictures(window, options.shots) ? 0 : 1;
+    return QGuiApplication::exec();
+}

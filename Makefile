@@ -1,0 +1,64 @@
+# The front door. Everything below is CMake with the presets of CMakePresets.json.
+.DEFAULT_GOAL := help
+.PHONY: help run test lint bench install pictures format clean
+
+PREFIX ?= /usr/local
+ARGS ?=
+release := build/release
+sources = $(shell git ls-files '*.cpp' '*.h')
+# clang-tidy reads one compiler's command line and generated headers, so it comes after a build.
+units = $(shell git ls-files 'Sources/*.cpp' 'Example/*.cpp')
+
+help:
+	@echo "make run        build and start the example (ARGS=\"--app birch --dark\"); pictures where there is no display"
+	@echo "make test       check the formatting and the QML files, build, run all tests"
+	@echo "make lint       clang-tidy and clazy"
+	@echo "make bench      measure; prints tables"
+	@echo "make install    install to PREFIX ($(PREFIX))"
+	@echo "make pictures   write the pictures of the documentation anew"
+	@echo "make format     format all sources"
+	@echo "make clean      remove what was built"
+
+run:
+	tools/install-packages build run
+	cmake --preset release -DTQFOUNDATION_TESTS=OFF
+	cmake --build --preset release
+	$(release)/Example/Grove $(ARGS)
+
+test:
+	tools/install-packages build run test
+	clang-format --dry-run --Werror $(sources)
+	cmake --preset release -DTQFOUNDATION_TESTS=ON
+	cmake --build --preset release
+	cmake --build --preset release --target all_qmllint
+	ctest --preset release
+
+lint:
+	tools/install-packages build run test
+	cmake --preset release -DTQFOUNDATION_TESTS=ON
+	cmake --build --preset release
+	tools/lint $(release) $(units)
+
+bench:
+	tools/install-packages build run bench
+	cmake --preset bench
+	cmake --build --preset bench
+	Benchmarks/run build/bench
+
+install:
+	tools/install-packages build
+	cmake --preset release -DTQFOUNDATION_TESTS=OFF
+	cmake --build --preset release
+	cmake --install $(release) --prefix $(PREFIX)
+
+pictures:
+	tools/install-packages build run
+	cmake --preset release -DTQFOUNDATION_TESTS=OFF
+	cmake --build --preset release
+	tools/take-pictures $(release)/Example/Grove docs/pictures
+
+format:
+	clang-format -i $(sources)
+
+clean:
+	$(RM) -r build

@@ -1,0 +1,155 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <name>TQFoundation</name>
+    <message>
+        <source>https://tqstudio.example/privacy-policy-en</source>
+        <translation>https://tqstudio.example/privacy-policy-en</translation>
+    </message>
+    <message>
+        <source>https://tqstudio.example/contact-en</source>
+        <translation>https://tqstudio.example/contact-en</translation>
+    </message>
+    <message>
+        <source>https://tqstudio.example/en</source>
+        <translation>https://tqstudio.example/en</translation>
+    </message>
+    <message>
+        <source>ICP-2099000001-</source>
+        <translation>ICP-2099000001-</translation>
+    </message>
+    <message>
+        <source>More Apps I Developed</source>
+        <translation>تطبيقاتي الأخرى</translation>
+    </message>
+    <message>
+        <source>Welcome to the Hazel Grid.
+
+The game is an infinite, two-dimensional orthogonal grid of square cells, each of which is in one of two possible states, live or dead.
+
+At each step in time, the following transitions occur:</source>
+        <translation>مرحبًا بك في Hazel Grid.
+
+اللعبة شبكة متعامدة لا نهائية ثنائية الأبعاد من الخلايا المربّعة، وكل خلية منها في إحدى حالتين ممكنتين: حيّة أو ميتة.
+
+وفي كل خطوة زمنية، تحدث التحوّلات الآتية:</translation>
+    </message>
+    <message>
+        <source>1.
+
+Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
+        <translation>1.
+
+تموت كل خلية حيّة يقل عدد جاراتها الحيّة عن اثنتين، كأنما بفعل قلّة السكان.</translation>
+    </message>
+    <message>
+        <source>2.
+
+Any live cell with two or three live neighbours lives on to the next generation.</source>
+        <translation>2.
+
+تبقى كل خلية حيّة لها جارتان حيّتان أو ثلاث على قيد الحياة في الجيل التالي.</translation>
+    </message>
+    <message>
+        <source>3.
+
+Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
+        <translation>3.
+
+تموت كل خلية حيّة يزيد عدد جاراتها الحيّة على ثلاث، كأنما بفعل الاكتظاظ السكاني.</translation>
+    </message>
+    <message>
+        <source>4.
+
+Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
+        <translation>4.
+
+تتحوّل كل خلية ميتة لها بالضبط ثلاث جارات حيّة إلى خلية حيّة، كأنما بفعل التكاثر.</translation>
+    </message>
+    <message>
+        <source>Next, please enjoy the Hazel Grid.
+
+Best regards.</source>
+        <translation>والآن، أتمنى لك وقتًا ممتعًا مع Hazel Grid.
+
+مع أطيب التحيات.</translation>
+    </message>
+    <message>
+        <source>欢迎使用「青岚」。
+
+「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
+        <translation>مرحبًا بكم في «青岚» (تشينغلان).
+
+تدعوكم «青岚» إلى إدخال الرموز الصينية واحدًا تلو الآخر، وتخمين الرمز الصحيح من خلال خطوطه وترتيب كتابتها في ست محاولات.</translation>
+    </message>
+    <message>
+        <source>输入一个有效中文文字，按下回车按钮提交。
+
+每次提交之后，文字的笔画颜色也许会发生变化：</source>
+        <translation>أدخلوا رمزًا صينيًا صالحًا، ثم اضغطوا على زر الإدخال لإرساله.
+
+وبعد كل محاولة، قد تتغيّر ألوان خطوط الرمز:</translation>
+    </message>
+    <message>
+        <source>绿色，
+
+表示正确文字包含此笔画，并且笔顺正确。
+
+在正确文字和所提交的文字的中都会全部显示。</source>
+        <translation>الأخضر
+
+يعني أن الرمز الصحيح يحتوي على هذا الخط، وأن ترتيب كتابته صحيح.
+
+وتظهر هذه الخطوط كلها في الرمز الصحيح وفي الرمز المُرسَل معًا.</translation>
+    </message>
+    <message>
+        <source>灰色，
+
+代表正确文字虽然包含此笔画，但是笔顺不正确。
+
+如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
+        <translation>الرمادي
+
+يعني أن الرمز الصحيح يحتوي على هذا الخط، لكن ترتيب كتابته غير صحيح.
+
+وإذا تطابقت هذه الخطوط، فلن تظهر في الرمز الصحيح إلا مرة واحدة، أما في الرمز المُرسَل فتظهر كلها.</translation>
+    </message>
+    <message>
+        <source>接下来请使用「青岚」。
+
+敬颂时祺。</source>
+        <translation>والآن، أترككم مع «青岚».
+
+وتفضّلوا بقبول فائق الاحترام والتقدير.</translation>
+    </message>
+    <message>
+        <source>Privacy Policy</source>
+        <translation>سياسة الخصوصية</translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <translation>التواصل معي</translation>
+    </message>
+    <message>
+        <source>Rate on the App Store</source>
+        <translation>تقييم التطبيق على App Store</translation>
+    </message>
+    <message>
+        <source>Follow me on Social Media Platforms</source>
+        <translation>حساباتي على وسائل التواصل</translation>
+    </message>
+    <message>
+        <source>Browse My Personal Website</source>
+        <translation>موقعي الشخصي</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>الإصدار</translation>
+    </message>
+    <message>
+        <source>Contact: </source>
+        <translation>تواصل: </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,155 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="hi" sourcelanguage="en">
+<context>
+    <name>TQFoundation</name>
+    <message>
+        <source>https://tqstudio.example/privacy-policy-en</source>
+        <translation>https://tqstudio.example/privacy-policy-en</translation>
+    </message>
+    <message>
+        <source>https://tqstudio.example/contact-en</source>
+        <translation>https://tqstudio.example/contact-en</translation>
+    </message>
+    <message>
+        <source>https://tqstudio.example/en</source>
+        <translation>https://tqstudio.example/en</translation>
+    </message>
+    <message>
+        <source>ICP-2099000001-</source>
+        <translation>ICP-2099000001-</translation>
+    </message>
+    <message>
+        <source>More Apps I Developed</source>
+        <translation>मेरे अन्य ऐप</translation>
+    </message>
+    <message>
+        <source>Welcome to the Hazel Grid.
+
+The game is an infinite, two-dimensional orthogonal grid of square cells, each of which is in one of two possible states, live or dead.
+
+At each step in time, the following transitions occur:</source>
+        <translation>Hazel Grid में आपका स्वागत है।
+
+यह खेल वर्गाकार कोशिकाओं का एक अनंत, द्विआयामी, समकोणीय ग्रिड है, जिसमें हर कोशिका दो संभव अवस्थाओं में से किसी एक में होती है: जीवित या मृत।
+
+समय के हर चरण में ये परिवर्तन होते हैं:</translation>
+    </message>
+    <message>
+        <source>1.
+
+Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
+        <translation>1.
+
+जिस जीवित कोशिका के दो से कम जीवित पड़ोसी हों, वह मानो आबादी की कमी से मर जाती है।</translation>
+    </message>
+    <message>
+        <source>2.
+
+Any live cell with two or three live neighbours lives on to the next generation.</source>
+        <translation>2.
+
+जिस जीवित कोशिका के दो या तीन जीवित पड़ोसी हों, वह अगली पीढ़ी में भी जीवित रहती है।</translation>
+    </message>
+    <message>
+        <source>3.
+
+Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
+        <translation>3.
+
+जिस जीवित कोशिका के तीन से अधिक जीवित पड़ोसी हों, वह मानो आबादी की अधिकता से मर जाती है।</translation>
+    </message>
+    <message>
+        <source>4.
+
+Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
+        <translation>4.
+
+जिस मृत कोशिका के ठीक तीन जीवित पड़ोसी हों, वह मानो प्रजनन से जीवित कोशिका बन जाती है।</translation>
+    </message>
+    <message>
+        <source>Next, please enjoy the Hazel Grid.
+
+Best regards.</source>
+        <translation>अब Hazel Grid का आनंद लीजिए।
+
+शुभकामनाओं सहित।</translation>
+    </message>
+    <message>
+        <source>欢迎使用「青岚」。
+
+「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
+        <translation>“青岚” (छिंगलान) में आपका स्वागत है।
+
+“青岚” में आपसे अनुरोध है कि एक-एक करके अक्षर लिखें और रेखाओं तथा उनके क्रम के सहारे छह प्रयासों में सही अक्षर का अनुमान लगाएँ।</translation>
+    </message>
+    <message>
+        <source>输入一个有效中文文字，按下回车按钮提交。
+
+每次提交之后，文字的笔画颜色也许会发生变化：</source>
+        <translation>कोई मान्य चीनी अक्षर लिखिए और उसे भेजने के लिए रिटर्न बटन दबाइए।
+
+हर बार भेजने के बाद अक्षर की रेखाओं का रंग बदल सकता है:</translation>
+    </message>
+    <message>
+        <source>绿色，
+
+表示正确文字包含此笔画，并且笔顺正确。
+
+在正确文字和所提交的文字的中都会全部显示。</source>
+        <translation>हरा रंग
+
+इसका अर्थ है कि सही अक्षर में यह रेखा है और इसका क्रम भी सही है।
+
+ऐसी सभी रेखाएँ सही अक्षर और भेजे गए अक्षर, दोनों में दिखाई देती हैं।</translation>
+    </message>
+    <message>
+        <source>灰色，
+
+代表正确文字虽然包含此笔画，但是笔顺不正确。
+
+如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
+        <translation>स्लेटी रंग
+
+इसका अर्थ है कि सही अक्षर में यह रेखा तो है, लेकिन इसका क्रम सही नहीं है।
+
+यदि ऐसी रेखाएँ एक जैसी हों, तो वे सही अक्षर में केवल एक बार दिखाई देती हैं, जबकि भेजे गए अक्षर में सभी दिखाई देती हैं।</translation>
+    </message>
+    <message>
+        <source>接下来请使用「青岚」。
+
+敬颂时祺。</source>
+        <translation>अब “青岚” का आनंद लीजिए।
+
+आपके कुशल-मंगल की कामना के साथ, सादर।</translation>
+    </message>
+    <message>
+        <source>Privacy Policy</source>
+        <translation>गोपनीयता नीति</translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <translation>संपर्क करें</translation>
+    </message>
+    <message>
+        <source>Rate on the App Store</source>
+        <translation>App Store पर रेटिंग दें</translation>
+    </message>
+    <message>
+        <source>Follow me on Social Media Platforms</source>
+        <translation>सोशल मीडिया पर फ़ॉलो करें</translation>
+    </message>
+    <message>
+        <source>Browse My Personal Website</source>
+        <translation>मेरी वेबसाइट देखें</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>संस्करण</translation>
+    </message>
+    <message>
+        <source>Contact: </source>
+        <translation>संपर्क: </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,127 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_Hant" sourcelanguage="en">
+<context>
+    <name>TQFoundation</name>
+    <message>
+        <source>https://tqstudio.example/privacy-policy-en</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>https://tqstudio.example/contact-en</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>https://tqstudio.example/en</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ICP-2099000001-</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More Apps I Developed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Welcome to the Hazel Grid.
+
+The game is an infinite, two-dimensional orthogonal grid of square cells, each of which is in one of two possible states, live or dead.
+
+At each step in time, the following transitions occur:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1.
+
+Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2.
+
+Any live cell with two or three live neighbours lives on to the next generation.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3.
+
+Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>4.
+
+Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next, please enjoy the Hazel Grid.
+
+Best regards.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>欢迎使用「青岚」。
+
+「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>输入一个有效中文文字，按下回车按钮提交。
+
+每次提交之后，文字的笔画颜色也许会发生变化：</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>绿色，
+
+表示正确文字包含此笔画，并且笔顺正确。
+
+在正确文字和所提交的文字的中都会全部显示。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>灰色，
+
+代表正确文字虽然包含此笔画，但是笔顺不正确。
+
+如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>接下来请使用「青岚」。
+
+敬颂时祺。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Privacy Policy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rate on the App Store</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Follow me on Social Media Platforms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browse My Personal Website</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contact: </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,20 @@
+#include "DeveloperPage.h"
+
+#include "DeveloperIdentity.h"
+#include "Environment.h"
+#include "Platform.h"
+#include "Url.h"
+
+namespace TQFoundation::DeveloperPage {
+
+void open()
+{
+    const auto url = urlFromString(QLatin1String(DeveloperIdentity::storePage));
+    if (!url)
+        return;
+    // Asked although users of every region are sent to the same page, so that the region is known from here on.
+    static_cast<void>(isChn());
+    platform().openUrl(*url);
+}
+
+} // namespace TQFoundation::DeveloperPage

@@ -1,0 +1,24 @@
+#include "QmlApp.h"
+
+#include "Bundle.h"
+#include "DeveloperPage.h"
+
+namespace TQFoundation {
+
+QList<TQApp> QmlApp::allCases()
+{
+    constexpr auto cases = TQApp::allCases();
+    return {cases.begin(), cases.end()};
+}
+
+QString QmlApp::developerPageText()
+{
+    return localizedInLibrary(QLatin1String(DeveloperPage::title));
+}
+
+void QmlApp::openDeveloperPage() const
+{
+    DeveloperPage::open();
+}
+
+} // namespace TQFoundation

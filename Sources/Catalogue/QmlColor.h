@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Color.h"
+
+#include <QtCore/qobjectdefs.h>
+#include <QtGui/qcolor.h>
+#include <QtQml/qqml.h>
+
+namespace TQFoundation {
+
+/// The QML face of Color, the value type `tqColor`: what it is in light and in dark appearance, rounded to QColor.
+///
+/// Has no state besides the colour that it extends: the QML engine lays it over that value.
+class QmlColor
+{
+    Q_GADGET
+    QML_FOREIGN(TQFoundation::Color)
+    QML_VALUE_TYPE(tqColor)
+    QML_EXTENDED(TQFoundation::QmlColor)
+    Q_PROPERTY(QColor light READ light CONSTANT FINAL)
+    Q_PROPERTY(QColor dark READ dark CONSTANT FINAL)
+
+public:
+    QColor light() const { return painted(Appearance::light); }
+    QColor dark() const { return painted(Appearance::dark); }
+
+    /// The colour in dark appearance where \a darkAppearance is true, else in light.
+    Q_INVOKABLE QColor resolved(bool darkAppearance) const { return darkAppearance ? dark() : light(); }
+
+private:
+    QColor painted(Appearance appearance) const
+    {
+        const Rgba rgba = m_color.resolved(appearance);
+        return QColor::fromRgbF(rgba.red, rgba.green, rgba.blue, rgba.alpha);
+    }
+
+    Color m_color;
+};
+
+} // namespace TQFoundation

@@ -1,0 +1,61 @@
+#include "TQAppIcon.h"
+
+#include <QtQuick/qquickwindow.h>
+#include <QtQuick/qsgimagenode.h>
+
+namespace TQFoundation {
+
+TQAppIcon::TQAppIcon(QQuickItem *parent) : QQuickItem(parent)
+{
+    setImplicitSize(36, 36);
+    setFlag(ItemHasContents);
+}
+
+void TQAppIcon::setApp(TQApp app)
+{
+    if (m_app == app)
+        return;
+    m_app = app;
+    if (isComponentComplete())
+        readIcon();
+    Q_EMIT appChanged();
+}
+
+void TQAppIcon::componentComplete()
+{
+    QQuickItem::componentComplete();
+    if (m_app)
+        readIcon();
+}
+
+void TQAppIcon::readIcon()
+{
+    const bool wasEmpty = isEmpty();
+    m_image = m_app->icon();
+    m_imageChanged = true;
+    update();
+    if (isEmpty() != wasEmpty)
+        Q_EMIT emptyChanged();
+}
+
+QSGNode *TQAppIcon::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
+{
+    auto *node = static_cast<QSGImageNode *>(oldNode);
+    if (isEmpty() || width() <= 0 || height() <= 0) {
+        delete node;
+        return nullptr;
+    }
+    if (!node || m_imageChanged) {
+        if (!node) {
+            node = window()->createImageNode();
+            node->setOwnsTexture(true);
+            node->setFiltering(QSGTexture::Linear);
+        }
+        node->setTexture(window()->createTextureFromImage(m_image));
+        m_imageChanged = false;
+    }
+    node->setRect(boundingRect());
+    return node;
+}
+
+} // namespace TQFoundation

@@ -1,0 +1,250 @@
+#include "DesktopPlatform.h"
+
+#include "InfoPlist.h"
+#include "Precondition.h"
+#include "TickGrid.h"
+
+#include <QtCore/qfile.h>
+#include <QtCore/qfileinfo.h>
+#include <QtCore/qtimer.h>
+#include <QtCore/qurl.h>
+#include <QtGui/qdesktopservices.h>
+#include <QtGui/qguiapplication.h>
+#include <QtGui/qscreen.h>
+#include <QtQuick/qquickrendercontrol.h>
+#include <QtQuick/qquickwindow.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <utility>
+
+namespace TQFoundation {
+namespace {
+
+/// Single shots, each armed for the next multiple of the interval: a repeating QTimer shifts its grid after a stall.
+class DesktopTimer final : public RepeatingTimer, public std::enable_shared_from_this<DesktopTimer>
+{
+public:
+    DesktopTimer(const QElapsedTimer &clock, double interval, std::function<void()> tick)
+        : m_clock(clock),
+          m_interval(interval),
+          m_made(now()),
+          m_tick(std::move(tick))
+    {
+        m_shot.setSingleShot(true);
+        m_shot.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&m_shot, &QTimer::timeout, &m_shot, [this] { tickOnTheGrid(); });
+    }
+
+    void fire() override
+    {
+        const auto alive = shared_from_this();
+        // A copy, because the tick may invalidate the timer that holds it.
+        if (const auto tick = m_tick)
+            tick();
+    }
+
+    void schedule() override
+    {
+        if (m_heldByEventLoop || !m_tick)
+            return;
+        m_heldByEventLoop = shared_from_this();
+        if (auto *application = QCoreApplication::instance())
+            QObject::connect(application, &QObject::destroyed, &m_shot, [this] { invalidate(); });
+        arm();
+    }
+
+    void invalidate() override
+    {
+        const auto alive = std::exchange(m_heldByEventLoop, nullptr);
+        m_shot.stop();
+        const auto tick = std::exchange(m_tick, nullptr);
+    }
+
+private:
+    double now() const { return static_cast<double>(m_clock.nsecsElapsed()) * 1e-9; }
+
+    void arm()
+    {
+        const double wait = nextTick(m_made, m_interval, now()) - now();
+        m_shot.start(std::chrono::milliseconds(std::max(0LL, std::llround(std::ceil(wait * 1e3)))));
+    }
+
+    void tickOnTheGrid()
+    {
+        const auto alive = shared_from_this();
+        fire();
+        if (m_heldByEventLoop)
+            arm();
+    }
+
+    const QElapsedTimer m_clock;
+    const double m_interval;
+    const double m_made;
+    std::function<void()> m_tick;
+    QTimer m_shot;
+    std::shared_ptr<DesktopTimer> m_heldByEventLoop;
+};
+
+// The host's property list, or nothing where there is none. An unreadable one is an empty list.
+std::optional<QByteArray> hostInfoPlist()
+{
+    QStringList candidates{QStringLiteral(":/Info.plist")};
+    if (QCoreApplication::instance()) {
+        const QString folder = QCoreApplication::applicationDirPath();
+        candidates += QString(folder + u"/Info.plist");
+#ifdef Q_OS_MACOS
+        candidates += QString(folder + u"/../Info.plist");
+#endif
+    }
+    for (const QString &path : std::as_const(candidates)) {
+        // Opening a pipe or a device instead of a regular file could wait for ever.
+        if (!QFileInfo(path).isFile())
+            continue;
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            return QByteArray();
+        return file.read(largestInfoPlist + 1);
+    }
+    return std::nullopt;
+}
+
+QVariant applicationValue(const QString &key)
+{
+    const auto nonEmpty = [](const QString &text) { return text.isEmpty() ? QVariant() : QVariant(text); };
+    if (key == u"CFBundleName")
+        return nonEmpty(QCoreApplication::applicationName());
+    if (key == u"CFBundleShortVersionString")
+        return nonEmpty(QCoreApplication::applicationVersion());
+    // Qt answers with the application name where no display name was set.
+    if (key == u"CFBundleDisplayName"
+        && QGuiApplication::applicationDisplayName() != QCoreApplication::applicationName())
+        return nonEmpty(QGuiApplication::applicationDisplayName());
+    return {};
+}
+
+ActivationState activationState(Qt::ApplicationState state)
+{
+    switch (state) {
+    case Qt::ApplicationActive:
+        return ActivationState::foregroundActive;
+    case Qt::ApplicationInactive:
+        return ActivationState::foregroundInactive;
+    case Qt::ApplicationHidden:
+    case Qt::ApplicationSuspended:
+        break;
+    }
+    return ActivationState::background;
+}
+
+QWindow *topLevelOf(QWindow *window)
+{
+    while (window && window->parent())
+        window = window->parent();
+    return window;
+}
+
+// The window on the screen that shows this one: itself, unless its contents are rendered into another.
+QWindow *windowOnScreen(QWindow *window)
+{
+    if (auto *quick = qobject_cast<QQuickWindow *>(window)) {
+        if (QWindow *target = QQuickRenderControl::renderWindowFor(quick))
+            return target;
+    }
+    return window;
+}
+
+} // namespace
+
+DesktopPlatform::DesktopPlatform()
+{
+    m_clock.start();
+}
+
+DesktopPlatform::~DesktopPlatform()
+{
+    delete m_settings;
+}
+
+QSizeF DesktopPlatform::screenBounds() const
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? QSizeF(screen->geometry().size()) : QSizeF(0, 0);
+}
+
+double DesktopPlatform::screenScale() const
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? screen->devicePixelRatio() : 1;
+}
+
+std::optional<QString> DesktopPlatform::storefrontCountryCode() const
+{
+    return std::nullopt;
+}
+
+QVariant DesktopPlatform::infoDictionaryValue(const QString &key) const
+{
+    if (const auto list = hostInfoPlist())
+        return parseInfoPlist(*list).value(key);
+    return applicationValue(key);
+}
+
+QVariant DesktopPlatform::userDefault(const QString &key) const
+{
+    const QSettings *stored = settings();
+    return stored ? stored->value(key) : QVariant();
+}
+
+void DesktopPlatform::setUserDefault(const QString &key, const QVariant &value)
+{
+    if (QSettings *stored = settings())
+        stored->setValue(key, value);
+}
+
+QList<Scene> DesktopPlatform::connectedScenes() const
+{
+    Scene scene{activationState(QGuiApplication::applicationState()), true, {}};
+    const QWindow *focused = topLevelOf(QGuiApplication::focusWindow());
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    for (QWindow *window : windows) {
+        if (window->isVisible())
+            scene.windows.append({window, focused && topLevelOf(windowOnScreen(window)) == focused});
+    }
+    return {scene};
+}
+
+void DesktopPlatform::openUrl(const QUrl &url)
+{
+    QDesktopServices::openUrl(url);
+}
+
+double DesktopPlatform::mediaTime() const
+{
+    return static_cast<double>(m_clock.nsecsElapsed()) * 1e-9;
+}
+
+std::shared_ptr<RepeatingTimer> DesktopPlatform::makeTimer(double interval, std::function<void()> tick)
+{
+    precondition(interval > 0 && std::isfinite(interval));
+    return std::make_shared<DesktopTimer>(m_clock, interval, std::move(tick));
+}
+
+QString DesktopPlatform::resourceRoot() const
+{
+    return QStringLiteral(":/TQFoundation");
+}
+
+QSettings *DesktopPlatform::settings() const
+{
+    if (!m_settings && QCoreApplication::instance()) {
+        m_settings =
+            new QSettings(QSettings::defaultFormat(), QSettings::UserScope, QCoreApplication::organizationName(),
+                          QCoreApplication::applicationName(), QCoreApplication::instance());
+        m_settings->setFallbacksEnabled(false);
+    }
+    return m_settings;
+}
+
+} // namespace TQFoundation

@@ -1,0 +1,9 @@
+#include "Platform.h"
+
+namespace TQFoundation {
+
+RepeatingTimer::~RepeatingTimer() = default;
+
+Platform::~Platform() = default;
+
+} // namespace TQFoundation

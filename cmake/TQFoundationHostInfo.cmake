@@ -1,0 +1,33 @@
+# tq_add_host_info(<target> [DISPLAY_NAME <text>] [NAME <text>] [VERSION <text>] [BUILD <text>])
+#
+# Says who a host app is: writes an Info.plist with the given entries and embeds it in <target>, where the library reads
+# the app's name, version and build; on Apple systems it is the bundle's own as well. An entry that is not given is
+# missing, which the library takes as its documented fallback. Texts are taken verbatim.
+function(tq_add_host_info target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "DISPLAY_NAME;NAME;VERSION;BUILD" "")
+    if(arg_UNPARSED_ARGUMENTS OR arg_KEYWORDS_MISSING_VALUES)
+        message(FATAL_ERROR "tq_add_host_info: cannot use '${arg_UNPARSED_ARGUMENTS}${arg_KEYWORDS_MISSING_VALUES}'")
+    endif()
+
+    set(entries "")
+    foreach(pair IN ITEMS DISPLAY_NAME=CFBundleDisplayName NAME=CFBundleName
+                          VERSION=CFBundleShortVersionString BUILD=CFBundleVersion)
+        string(REGEX MATCH "^(.+)=(.+)$" _ ${pair})
+        set(key ${CMAKE_MATCH_2})
+        if(DEFINED arg_${CMAKE_MATCH_1})
+            set(value "${arg_${CMAKE_MATCH_1}}")
+            string(REPLACE "&" "&amp;" value "${value}")
+            string(REPLACE "<" "&lt;" value "${value}")
+            string(REPLACE ">" "&gt;" value "${value}")
+            string(APPEND entries "    <key>${key}</key>\n    <string>${value}</string>\n")
+        endif()
+    endforeach()
+
+    set(plist "${CMAKE_CURRENT_BINARY_DIR}/${target}-info/Info.plist")
+    set(text "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n<dict>\n${entries}</dict>\n</plist>\n")
+    # Written only where it differs, so that nothing is built again for the same text.
+    file(CONFIGURE OUTPUT "${plist}" CONTENT "@text@" @ONLY)
+    set_source_files_properties("${plist}" PROPERTIES QT_RESOURCE_ALIAS Info.plist)
+    qt_add_resources(${target} "${target}_host_info" PREFIX / FILES "${plist}")
+    set_target_properties(${target} PROPERTIES MACOSX_BUNDLE_INFO_PLIST "${plist}")
+endfunction()

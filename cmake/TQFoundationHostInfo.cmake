@@ -6,16 +6,18 @@
 function(tq_add_host_info target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "DISPLAY_NAME;NAME;VERSION;BUILD" "")
     if(arg_UNPARSED_ARGUMENTS OR arg_KEYWORDS_MISSING_VALUES)
-        message(FATAL_ERROR "tq_add_host_info: cannot use '${arg_UNPARSED_ARGUMENTS}${arg_KEYWORDS_MISSING_VALUES}'")
+        message(FATAL_ERROR "A host's entries are DISPLAY_NAME, NAME, VERSION and BUILD, each with a text; "
+                            "cannot use '${arg_UNPARSED_ARGUMENTS}${arg_KEYWORDS_MISSING_VALUES}'")
     endif()
 
     set(entries "")
     foreach(pair IN ITEMS DISPLAY_NAME=CFBundleDisplayName NAME=CFBundleName
                           VERSION=CFBundleShortVersionString BUILD=CFBundleVersion)
         string(REGEX MATCH "^(.+)=(.+)$" _ ${pair})
+        set(name ${CMAKE_MATCH_1})
         set(key ${CMAKE_MATCH_2})
-        if(DEFINED arg_${CMAKE_MATCH_1})
-            set(value "${arg_${CMAKE_MATCH_1}}")
+        if(DEFINED arg_${name})
+            set(value "${arg_${name}}")
             string(REPLACE "&" "&amp;" value "${value}")
             string(REPLACE "<" "&lt;" value "${value}")
             string(REPLACE ">" "&gt;" value "${value}")

@@ -1,5 +1,6 @@
 #include "TQAppIcon.h"
 
+#include <QtCore/qmetaobject.h>
 #include <QtQuick/qquickwindow.h>
 #include <QtQuick/qsgimagenode.h>
 
@@ -19,6 +20,15 @@ void TQAppIcon::setApp(TQApp app)
     if (isComponentComplete())
         readIcon();
     Q_EMIT appChanged();
+}
+
+QString TQAppIcon::caseName() const
+{
+    const auto cases = QMetaEnum::fromType<TQApp::Case>();
+    QString name = QLatin1String(cases.valueToKey(static_cast<int>(TQApp::Case(app()))));
+    if (!name.isEmpty())
+        name.front() = name.front().toUpper();
+    return name;
 }
 
 void TQAppIcon::componentComplete()

@@ -19,6 +19,7 @@ class TQAppIcon : public QQuickItem
     QML_ELEMENT
     Q_PROPERTY(TQFoundation::TQApp app READ app WRITE setApp NOTIFY appChanged REQUIRED FINAL)
     Q_PROPERTY(bool empty READ isEmpty NOTIFY emptyChanged FINAL)
+    Q_PROPERTY(QString caseName READ caseName NOTIFY appChanged FINAL)
 
 public:
     explicit TQAppIcon(QQuickItem *parent = nullptr);
@@ -28,6 +29,9 @@ public:
 
     /// Whether there is nothing to show: the icon could not be prepared, or the item is not complete.
     bool isEmpty() const { return m_image.isNull(); }
+
+    /// The app's case as a name ("Larch"), for assistive technology. Not translated.
+    QString caseName() const;
 
 Q_SIGNALS:
     void appChanged();

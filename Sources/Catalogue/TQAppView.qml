@@ -69,6 +69,8 @@ Flickable {
 
                 app: modelData
                 visible: !empty
+                Accessible.role: Accessible.Graphic
+                Accessible.name: caseName
             }
         }
     }

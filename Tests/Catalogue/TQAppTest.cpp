@@ -1,0 +1,325 @@
+#include <TQFoundation/TQApp.h>
+
+#include "DeathTest.h"
+#include "DeveloperIdentity.h"
+#include "Languages.h"
+#include "RecordingPlatform.h"
+
+#include <QtCore/qfile.h>
+#include <QtCore/qdir.h>
+#include <QtCore/qregularexpression.h>
+#include <QtCore/qset.h>
+#include <QtCore/qtemporarydir.h>
+
+#include <gtest/gtest.h>
+
+#include <unordered_set>
+
+namespace TQFoundation {
+namespace {
+
+using Testing::InstalledRecordingPlatform;
+using Testing::useLanguage;
+
+TEST(TQApp, AllCasesAreTenInTheirOrder)
+{
+    constexpr auto cases = TQApp::allCases();
+    static_assert(cases.size() == 10);
+    const TQApp expected[] = {TQApp::larch, TQApp::juniper, TQApp::hazel, TQApp::ginkgo, TQApp::fir,
+                              TQApp::elm,   TQApp::dogwood, TQApp::cedar, TQApp::birch,  TQApp::alder};
+    for (std::size_t index = 0; index < cases.size(); ++index) {
+        EXPECT_EQ(cases[index], expected[index]);
+        EXPECT_EQ(static_cast<std::size_t>(TQApp::Case(cases[index])), index);
+    }
+}
+
+TEST(TQApp, IdsAreDistinctAndOfTenDigits)
+{
+    static const QRegularExpression tenDigits(QStringLiteral("\\A[0-9]{10}\\z"));
+    QSet<QString> ids;
+    for (const TQApp app : TQApp::allCases()) {
+        EXPECT_TRUE(tenDigits.match(app.id()).hasMatch()) << app.id().toStdString();
+        ids.insert(app.id());
+    }
+    EXPECT_EQ(ids.size(), 10);
+}
+
+TEST(TQApp, AlderHasNoFilingAndTheOthersHaveTheirOwn)
+{
+    const InstalledRecordingPlatform platform;
+    platform->root = Testing::emptyBundle();
+    static const QRegularExpression filing(QStringLiteral("\\AICP-[0-9]{10}-[0-9]{1,2}A\\z"));
+    QSet<QString> filings;
+    for (const TQApp app : TQApp::allCases()) {
+        EXPECT_EQ(app.icp().has_value(), app != TQApp::alder);
+        if (app.icp()) {
+            EXPECT_TRUE(filing.match(*app.icp()).hasMatch()) << app.icp()->toStdString();
+            filings.insert(*app.icp());
+        }
+    }
+    EXPECT_EQ(filings.size(), 9);
+}
+
+TEST(TQApp, AFilingIsTranslatedUpToItsSuffix)
+{
+    useLanguage("zh-CN");
+    EXPECT_EQ(TQApp::larch.icp(), QStringLiteral("京ICP备2099000001号-1A"));
+    EXPECT_EQ(TQApp::birch.icp(), QStringLiteral("京ICP备2099000001号-9A"));
+}
+
+TEST(TQApp, LinksLeadToTheAppAndToItsReviews)
+{
+    EXPECT_EQ(TQApp::larch.appLink(), QStringLiteral("https://apps.apple.com/app/id9990000001"));
+    for (const TQApp app : TQApp::allCases()) {
+        EXPECT_EQ(app.appLink(), QLatin1String(DeveloperIdentity::storeHost) + QStringLiteral("/app/id") + app.id());
+        EXPECT_EQ(app.reviewLink(), QString(app.appLink() + QStringLiteral("?action=write-review")));
+    }
+}
+
+TEST(TQApp, HazelHasSixParagraphsDogwoodFiveAndTheOthersNone)
+{
+    for (const TQApp app : TQApp::allCases())
+        EXPECT_EQ(app.guideText().size(), app == TQApp::hazel ? 6 : app == TQApp::dogwood ? 5 : 0);
+}
+
+TEST(TQApp, ParagraphsAreWordForWordWithoutATable)
+{
+    const InstalledRecordingPlatform platform;
+    platform->root = Testing::emptyBundle();
+    const QStringList hazel = TQApp::hazel.guideText();
+    EXPECT_TRUE(hazel[0].startsWith(QStringLiteral("Welcome to the Hazel Grid.\n\nThe game is an infinite, two-dimensional "
+                                                   "orthogonal grid of square cells, each of which is in one of two "
+                                                   "possible states, ")));
+    EXPECT_TRUE(hazel[0].endsWith(QStringLiteral(".\n\nAt each step in time, the following transitions occur:")));
+    EXPECT_EQ(hazel[0].count(QStringLiteral("\n\n")), 2);
+    EXPECT_EQ(hazel.sliced(1),
+              (QStringList{
+                  QStringLiteral("1.\n\nAny live cell with fewer than two live neighbours dies, as if by underpopulation."),
+                  QStringLiteral("2.\n\nAny live cell with two or three live neighbours lives on to the next generation."),
+                  QStringLiteral("3.\n\nAny live cell with more than three live neighbours dies, as if by overpopulation."),
+                  QStringLiteral("4.\n\nAny dead cell with exactly three live neighbours becomes a live cell, as if by "
+                                 "reproduction."),
+                  QStringLiteral("Next, please enjoy the Hazel Grid.\n\nBest regards."),
+              }));
+    EXPECT_EQ(TQApp::dogwood.guideText(),
+              (QStringList{
+                  QStringLiteral("欢迎使用「青岚」。\n\n「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正"
+                                 "确文字。"),
+                  QStringLiteral("输入一个有效中文文字，按下回车按钮提交。\n\n每次提交之后，文字的笔画颜色也许会发生变化："),
+                  QStringLiteral("绿色，\n\n表示正确文字包含此笔画，并且笔顺正确。\n\n在正确文字和所提交的文字的中都会全部显"
+                                 "示。"),
+                  QStringLiteral("灰色，\n\n代表正确文字虽然包含此笔画，但是笔顺不正确。\n\n如果这些笔画相同，在正确文字中只"
+                                 "会显示一次，在所提交的文字中则会全部显示。"),
+                  QStringLiteral("接下来请使用「青岚」。\n\n敬颂时祺。"),
+              }));
+}
+
+TEST(TQApp, ParagraphsAreTranslatedEachOnItsOwn)
+{
+    useLanguage("zh-CN");
+    EXPECT_TRUE(TQApp::hazel.guideText().at(1).startsWith(QStringLiteral("1.\n\n")));
+    EXPECT_NE(TQApp::hazel.guideText().at(1), QStringLiteral("1.\n\nAny live cell with fewer than two live neighbours dies, "
+                                                             "as if by underpopulation."));
+}
+
+TEST(TQApp, TintsAreTheLiterals)
+{
+    EXPECT_EQ(TQApp::larch.tintColor(), Color(Rgba{0.9529412F, 0.4392157F, 0.1294118F, 1}));
+    EXPECT_EQ(TQApp::ginkgo.tintColor(), Color(Rgba{1, 0.4F, 0.7019608F, 1}));
+    EXPECT_EQ(TQApp::dogwood.tintColor(), Color(Rgba{0, 0.5603183F, 0, 1}));
+    EXPECT_EQ(TQApp::cedar.tintColor(), Color(Rgba{0.581883F, 0.2156915F, 1, 1}));
+    EXPECT_EQ(TQApp::birch.tintColor(), Color(Rgba{0.5803922F, 0.09019608F, 0.3176471F, 1}));
+    EXPECT_EQ(TQApp::alder.tintColor(), Color(Rgba{0, 0.6980392F, 0.7137255F, 1}));
+}
+
+TEST(TQApp, FourTintsAreTheSystemsOwn)
+{
+    EXPECT_EQ(TQApp::juniper.tintColor(), Color::systemBlue());
+    EXPECT_EQ(TQApp::hazel.tintColor(), Color::label());
+    EXPECT_EQ(TQApp::fir.tintColor(), Color::systemGray());
+    EXPECT_EQ(TQApp::elm.tintColor(), Color::systemRed());
+}
+
+TEST(TQApp, IsEqualToItsOwnCaseOnlyAndHashesAlike)
+{
+    std::unordered_set<TQApp> standard;
+    QSet<TQApp> qt;
+    for (const TQApp a : TQApp::allCases()) {
+        for (const TQApp b : TQApp::allCases())
+            EXPECT_EQ(a == b, TQApp::Case(a) == TQApp::Case(b));
+        EXPECT_EQ(std::hash<TQApp>{}(a), std::hash<TQApp>{}(TQApp(TQApp::Case(a))));
+        standard.insert(a);
+        qt.insert(a);
+    }
+    EXPECT_EQ(standard.size(), 10U);
+    EXPECT_EQ(qt.size(), 10);
+}
+
+TEST(TQApp, CanBeSwitchedOver)
+{
+    const auto isFirst = [](TQApp app) {
+        switch (app) {
+        case TQApp::larch:
+            return true;
+        case TQApp::juniper:
+        case TQApp::hazel:
+        case TQApp::ginkgo:
+        case TQApp::fir:
+        case TQApp::elm:
+        case TQApp::dogwood:
+        case TQApp::cedar:
+        case TQApp::birch:
+        case TQApp::alder:
+            break;
+        }
+        return false;
+    };
+    EXPECT_TRUE(isFirst(TQApp::larch));
+    EXPECT_FALSE(isFirst(TQApp::alder));
+}
+
+class HostIdentity : public testing::Test
+{
+protected:
+    void set(const char *key, const QVariant &value) { platform->infoDictionary.insert(QLatin1String(key), value); }
+
+    InstalledRecordingPlatform platform;
+};
+
+TEST_F(HostIdentity, TheDisplayNameComesFirstAndTheNameIsNotAskedFor)
+{
+    set("CFBundleDisplayName", QStringLiteral("Hazel Grid"));
+    set("CFBundleName", QStringLiteral("hazel"));
+    EXPECT_EQ(TQApp::name(), QStringLiteral("Hazel Grid"));
+    EXPECT_EQ(platform->calls, QStringList{QStringLiteral("infoDictionaryValue(CFBundleDisplayName)")});
+}
+
+TEST_F(HostIdentity, WithoutADisplayNameTheNameStandsIn)
+{
+    set("CFBundleName", QStringLiteral("hazel"));
+    EXPECT_EQ(TQApp::name(), QStringLiteral("hazel"));
+    EXPECT_EQ(platform->calls.last(), QStringLiteral("infoDictionaryValue(CFBundleName)"));
+}
+
+TEST_F(HostIdentity, WithNeitherTheNameIsEmpty)
+{
+    EXPECT_EQ(TQApp::name(), QString());
+}
+
+TEST_F(HostIdentity, AnEmptyDisplayNameIsAName)
+{
+    set("CFBundleDisplayName", QStringLiteral(""));
+    set("CFBundleName", QStringLiteral("hazel"));
+    EXPECT_EQ(TQApp::name(), QString());
+}
+
+TEST_F(HostIdentity, VersionAndBuildAreTheirEntries)
+{
+    EXPECT_EQ(TQApp::version(), QString());
+    EXPECT_EQ(TQApp::buildNumber(), QString());
+    set("CFBundleShortVersionString", QStringLiteral("2.3.1"));
+    set("CFBundleVersion", QStringLiteral("57"));
+    EXPECT_EQ(TQApp::version(), QStringLiteral("2.3.1"));
+    EXPECT_EQ(TQApp::buildNumber(), QStringLiteral("57"));
+}
+
+TEST_F(HostIdentity, EntriesThatAreNoStringsCountAsMissing)
+{
+    set("CFBundleDisplayName", 7);
+    set("CFBundleName", QByteArray("bytes"));
+    set("CFBundleShortVersionString", 2.3);
+    set("CFBundleVersion", 57LL);
+    EXPECT_EQ(TQApp::name(), QString());
+    EXPECT_EQ(TQApp::version(), QString());
+    EXPECT_EQ(TQApp::buildNumber(), QString());
+}
+
+TEST_F(HostIdentity, IsReadAnewEachTime)
+{
+    set("CFBundleName", QStringLiteral("before"));
+    EXPECT_EQ(TQApp::name(), QStringLiteral("before"));
+    set("CFBundleName", QStringLiteral("after"));
+    EXPECT_EQ(TQApp::name(), QStringLiteral("after"));
+}
+
+class IconAtScale : public testing::TestWithParam<std::pair<double, int>>
+{
+};
+
+TEST_P(IconAtScale, IsThirtySixPointsSquare)
+{
+    const InstalledRecordingPlatform platform;
+    platform->scale = GetParam().first;
+    for (const TQApp app : TQApp::allCases()) {
+        const QImage icon = app.icon();
+        EXPECT_EQ(icon.size(), QSize(GetParam().second, GetParam().second));
+        EXPECT_EQ(icon.devicePixelRatio(), GetParam().first);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, IconAtScale,
+                         testing::Values(std::pair(1.0, 36), std::pair(1.1, 40), std::pair(1.25, 45), std::pair(1.5, 54),
+                                         std::pair(2.0, 72), std::pair(3.0, 108), std::pair(4.0, 144)));
+
+class UnpreparedIcon : public testing::TestWithParam<double>
+{
+};
+
+TEST_P(UnpreparedIcon, IsNull)
+{
+    const InstalledRecordingPlatform platform;
+    platform->scale = GetParam();
+    EXPECT_TRUE(TQApp::fir.icon().isNull());
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, UnpreparedIcon,
+                         testing::Values(0.0, -1.0, 0.013, 1e6, 1e300, std::nan(""), HUGE_VAL, -HUGE_VAL));
+
+TEST(Icon, EveryCaseHasItsOwnPicture)
+{
+    QSet<QByteArray> pictures;
+    for (const TQApp app : TQApp::allCases()) {
+        const QImage icon = app.icon();
+        pictures.insert(QByteArray(reinterpret_cast<const char *>(icon.constBits()), icon.sizeInBytes()));
+        EXPECT_EQ(qAlpha(icon.pixel(0, 0)), 0) << "the artwork carries its own rounded shape";
+        EXPECT_EQ(qAlpha(icon.pixel(icon.width() / 2, 2)), 255);
+    }
+    EXPECT_EQ(pictures.size(), 10);
+}
+
+TEST(IconDeathTest, AMissingOneStopsTheProcess)
+{
+    const InstalledRecordingPlatform platform;
+    platform->root = Testing::emptyBundle();
+    EXPECT_EXIT(TQApp::fir.icon(), testing::KilledBySignal(Testing::trapSignal), "^$");
+}
+
+TEST(IconDeathTest, ABrokenOneStopsTheProcess)
+{
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("Icons")));
+    QFile icon(folder.filePath(QStringLiteral("Icons/fir.png")));
+    ASSERT_TRUE(icon.open(QIODevice::WriteOnly));
+    icon.write("\x89PNG\r\n\x1a\nnothing more");
+    icon.close();
+    const InstalledRecordingPlatform platform;
+    platform->root = folder.path();
+    EXPECT_EXIT(
+        {
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+            TQApp::fir.icon();
+        },
+        testing::KilledBySignal(Testing::trapSignal), "^$");
+}
+
+TEST(TQAppDeathTest, ANumberThatIsNoCaseStopsTheProcess)
+{
+    for (const int number : {-1, 10}) {
+        const TQApp forced(static_cast<TQApp::Case>(number));
+        EXPECT_EXIT(forced.tintColor(), testing::KilledBySignal(Testing::trapSignal), "^$");
+        EXPECT_EXIT(forced.id(), testing::KilledBySignal(Testing::trapSignal), "^$");
+    }
+}
+
+} // namespace
+} // namespace TQFoundation

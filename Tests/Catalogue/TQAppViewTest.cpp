@@ -1,0 +1,316 @@
+#include "QmlWindow.h"
+#include "RecordingPlatform.h"
+
+#include <TQFoundation/TQApp.h>
+
+#include <QtGui/qaccessible.h>
+#include <QtGui/qpainter.h>
+#include <QtGui/qwindow.h>
+
+namespace TQFoundation {
+namespace {
+
+using Testing::InstalledRecordingPlatform;
+using Testing::QmlWindow;
+
+const QString openedPage = QStringLiteral("openUrl(https://apps.apple.com/developer/tq-studio/id9990000000)");
+
+QByteArray row(TQApp app, const QByteArray &properties = "width: 390")
+{
+    const QByteArray name = QMetaEnum::fromType<TQApp::Case>().valueToKey(static_cast<int>(TQApp::Case(app)));
+    return "TQAppView { focus: true; app: TQApp." + name + "; " + properties + " }";
+}
+
+// The icons that the row shows, from left to right.
+QList<QQuickItem *> shownIcons(const QmlWindow &host)
+{
+    QList<QQuickItem *> icons;
+    QList<QQuickItem *> items{host.item};
+    while (!items.isEmpty()) {
+        QQuickItem *item = items.takeFirst();
+        if (item->inherits("TQFoundation::TQAppIcon") && item->isVisible())
+            icons += item;
+        items += item->childItems();
+    }
+    std::ranges::sort(icons, {}, [](const QQuickItem *icon) { return icon->mapToScene({0, 0}).x(); });
+    return icons;
+}
+
+TQApp appOf(const QQuickItem *icon)
+{
+    return icon->property("app").value<TQApp>();
+}
+
+QPoint middleOf(const QQuickItem *item)
+{
+    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+}
+
+// One turn of a mouse wheel over the row.
+void turnWheel(QmlWindow &host, QPoint angleDelta)
+{
+    const QPointF place(100, 18);
+    QWheelEvent turn(place, host.window.mapToGlobal(place), {}, angleDelta, Qt::NoButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&host.window, &turn);
+}
+
+double scrolled(const QmlWindow &host)
+{
+    return host.item->property("contentX").toDouble();
+}
+
+class AppRow : public testing::Test
+{
+protected:
+    int opened() const { return static_cast<int>(platform->calls.count(openedPage)); }
+
+    InstalledRecordingPlatform platform;
+};
+
+TEST_F(AppRow, ShowsTheNineOtherAppsInIndexOrder)
+{
+    for (const TQApp own : TQApp::allCases()) {
+        const QmlWindow host(row(own));
+        QList<TQApp> expected;
+        for (const TQApp app : TQApp::allCases()) {
+            if (app != own)
+                expected += app;
+        }
+        QList<TQApp> shown;
+        for (const QQuickItem *icon : shownIcons(host))
+            shown += appOf(icon);
+        EXPECT_EQ(shown, expected);
+    }
+}
+
+TEST_F(AppRow, IconsAreThirtySixPointsEightApartAndSixteenFromTheEdge)
+{
+    const QmlWindow host(row(TQApp::hazel));
+    double x = 16;
+    for (const QQuickItem *icon : shownIcons(host)) {
+        EXPECT_EQ(icon->mapToItem(host.item, QPointF(0, 0)), QPointF(x, 0));
+        EXPECT_EQ(icon->size(), QSizeF(36, 36));
+        x += 44;
+    }
+    EXPECT_EQ(host.item->property("contentWidth").toDouble(), 9 * 36 + 8 * 8 + 2 * 16);
+    EXPECT_EQ(host.item->implicitHeight(), 36) << "no padding above or below";
+}
+
+TEST_F(AppRow, IconsAreCentredWhereTheRowIsHigher)
+{
+    const QmlWindow host(row(TQApp::hazel, "width: 390; height: 100"));
+    for (const QQuickItem *icon : shownIcons(host))
+        EXPECT_EQ(icon->mapToScene({0, 0}).y(), 32);
+}
+
+TEST_F(AppRow, AnIconThatCannotBePreparedLeavesNoSlot)
+{
+    platform->scale = 0;
+    const QmlWindow host(row(TQApp::hazel, "width: 20"));
+    EXPECT_TRUE(shownIcons(host).isEmpty());
+    EXPECT_EQ(host.item->property("contentWidth").toDouble(), 32);
+}
+
+TEST_F(AppRow, EachBuildReadsItsIconsAnew)
+{
+    { const QmlWindow host(row(TQApp::hazel)); }
+    platform->root = QStringLiteral(":/NoSuchBundle");
+    EXPECT_EXIT(const QmlWindow host(row(TQApp::hazel)), testing::KilledBySignal(SIGILL), "");
+}
+
+TEST_F(AppRow, ATapAnywhereOpensTheDevelopersPage)
+{
+    const QmlWindow host(row(TQApp::hazel, "width: 500; height: 60"), {500, 200});
+    QList<QPoint> places{{2, 30}, {498, 30}, {100, 1}, {16 + 36 + 4, 30}};
+    for (const QQuickItem *icon : shownIcons(host))
+        places += middleOf(icon);
+    for (const QPoint &place : std::as_const(places)) {
+        const int before = opened();
+        QTest::mouseClick(const_cast<QQuickWindow *>(&host.window), Qt::LeftButton, {}, place);
+        EXPECT_EQ(opened(), before + 1) << place.x() << ',' << place.y();
+    }
+}
+
+TEST_F(AppRow, ATapAsksForTheRegionBeforeItOpensThePage)
+{
+    QmlWindow host(row(TQApp::hazel));
+    platform->calls.clear();
+    QTest::mouseClick(&host.window, Qt::LeftButton, {}, {40, 18});
+    EXPECT_EQ(platform->calls, (QStringList{QStringLiteral("storefrontCountryCode()"), openedPage}));
+}
+
+TEST_F(AppRow, EveryHostAndRegionOpensTheSamePage)
+{
+    platform->storefront = QStringLiteral("USA");
+    for (const TQApp own : TQApp::allCases()) {
+        QmlWindow host(row(own));
+        QTest::mouseClick(&host.window, Qt::LeftButton, {}, {40, 18});
+    }
+    EXPECT_EQ(opened(), 10);
+}
+
+TEST_F(AppRow, ATapOutsideOpensNothing)
+{
+    QmlWindow host(row(TQApp::hazel));
+    QTest::mouseClick(&host.window, Qt::LeftButton, {}, {40, 60});
+    EXPECT_EQ(opened(), 0);
+}
+
+TEST_F(AppRow, ADragScrollsAndOpensNothing)
+{
+    QmlWindow host(row(TQApp::hazel, "width: 200"));
+    QTest::mousePress(&host.window, Qt::LeftButton, {}, {180, 18});
+    for (int x = 170; x >= 60; x -= 10)
+        QTest::mouseMove(&host.window, {x, 18}, 10);
+    QTest::mouseRelease(&host.window, Qt::LeftButton, {}, {60, 18});
+    EXPECT_GT(scrolled(host), 0);
+    EXPECT_EQ(opened(), 0);
+}
+
+TEST_F(AppRow, ARowThatFitsDoesNotScroll)
+{
+    QmlWindow host(row(TQApp::hazel, "width: 500"), {500, 200});
+    QTest::keyClick(&host.window, Qt::Key_Right);
+    QTest::keyClick(&host.window, Qt::Key_End);
+    turnWheel(host, QPoint(0, -120));
+    EXPECT_EQ(scrolled(host), 0);
+}
+
+TEST_F(AppRow, ArrowKeysScrollByOneIconAndStopAtTheEnds)
+{
+    QmlWindow host(row(TQApp::hazel, "width: 200"));
+    QTest::keyClick(&host.window, Qt::Key_Left);
+    EXPECT_EQ(scrolled(host), 0);
+    QTest::keyClick(&host.window, Qt::Key_Right);
+    EXPECT_EQ(scrolled(host), 44);
+    QTest::keyClick(&host.window, Qt::Key_End);
+    EXPECT_EQ(scrolled(host), 420 - 200);
+    QTest::keyClick(&host.window, Qt::Key_Right);
+    EXPECT_EQ(scrolled(host), 420 - 200);
+    QTest::keyClick(&host.window, Qt::Key_Home);
+    EXPECT_EQ(scrolled(host), 0);
+    EXPECT_EQ(opened(), 0);
+}
+
+TEST_F(AppRow, EnterOpensTheDevelopersPage)
+{
+    QmlWindow host(row(TQApp::hazel));
+    EXPECT_TRUE(host.item->hasActiveFocus());
+    QTest::keyClick(&host.window, Qt::Key_Return);
+    QTest::keyClick(&host.window, Qt::Key_Enter);
+    EXPECT_EQ(opened(), 2);
+}
+
+TEST_F(AppRow, IsReachedByTheTabKey)
+{
+    QmlWindow host("FocusScope { focus: true; Item { focus: true; activeFocusOnTab: true } TQAppView { objectName: "
+                   "\"row\"; app: TQApp.fir; width: 200 } }");
+    QTest::keyClick(&host.window, Qt::Key_Tab);
+    EXPECT_TRUE(host.item->findChild<QQuickItem *>(QStringLiteral("row"))->hasActiveFocus());
+}
+
+TEST_F(AppRow, AWheelScrollsTheRowAndAtItsEndsWhatLiesAroundIt)
+{
+    QmlWindow host("Flickable { width: 200; height: 100; contentHeight: 400; TQAppView { objectName: \"row\"; app: "
+                   "TQApp.fir; width: 200 } }");
+    auto *row = host.item->findChild<QQuickItem *>(QStringLiteral("row"));
+    const auto contentX = [&] { return row->property("contentX").toDouble(); };
+    turnWheel(host, QPoint(0, -120));
+    EXPECT_EQ(contentX(), 44);
+    EXPECT_EQ(host.item->property("contentY").toDouble(), 0);
+    for (int turn = 0; turn < 4; ++turn)
+        turnWheel(host, QPoint(0, -120));
+    EXPECT_EQ(contentX(), 220);
+    turnWheel(host, QPoint(0, -120));
+    EXPECT_EQ(contentX(), 220);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return host.item->property("contentY").toDouble() > 0; }));
+}
+
+TEST_F(AppRow, MirroredItStartsAtTheRightAndRunsToTheLeft)
+{
+    QmlWindow host(row(TQApp::hazel, "width: 200; LayoutMirroring.enabled: true; LayoutMirroring.childrenInherit: true"));
+    const QList<QQuickItem *> icons = shownIcons(host);
+    ASSERT_EQ(icons.size(), 9);
+    EXPECT_EQ(appOf(icons.last()), TQApp::larch);
+    EXPECT_EQ(icons.last()->mapToScene({0, 0}).x(), 200 - 16 - 36);
+    QTest::keyClick(&host.window, Qt::Key_Left);
+    EXPECT_EQ(icons.last()->mapToScene({0, 0}).x(), 200 - 16 - 36 + 44);
+    turnWheel(host, QPoint(0, 120));
+    EXPECT_EQ(icons.last()->mapToScene({0, 0}).x(), 200 - 16 - 36);
+}
+
+TEST_F(AppRow, MirroredInAWideWindowItLiesAtTheRight)
+{
+    QmlWindow host(row(TQApp::hazel, "width: 500; LayoutMirroring.enabled: true; LayoutMirroring.childrenInherit: true"),
+                   {500, 200});
+    EXPECT_EQ(shownIcons(host).last()->mapToScene({0, 0}).x(), 500 - 16 - 36);
+}
+
+TEST_F(AppRow, TellsAssistiveTechnologyWhatItDoes)
+{
+    QmlWindow host(row(TQApp::hazel));
+    QAccessible::setActive(true);
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(host.item);
+    ASSERT_TRUE(accessible);
+    EXPECT_EQ(accessible->role(), QAccessible::Button);
+    EXPECT_EQ(accessible->text(QAccessible::Name), QStringLiteral("More Apps I Developed"));
+    ASSERT_TRUE(accessible->actionInterface());
+    accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(opened(), 1);
+
+    QStringList names;
+    for (QQuickItem *icon : shownIcons(host)) {
+        QAccessibleInterface *part = QAccessible::queryAccessibleInterface(icon);
+        ASSERT_TRUE(part);
+        EXPECT_EQ(part->role(), QAccessible::Graphic);
+        names += part->text(QAccessible::Name);
+    }
+    EXPECT_EQ(names.first(), QStringLiteral("Larch"));
+    EXPECT_EQ(names.last(), QStringLiteral("Alder"));
+}
+
+TEST_F(AppRow, FollowsAChangeOfTheHostsApp)
+{
+    QmlWindow host(row(TQApp::hazel));
+    host.item->setProperty("app", QVariant::fromValue(TQApp(TQApp::larch)));
+    ASSERT_EQ(shownIcons(host).size(), 9);
+    EXPECT_EQ(appOf(shownIcons(host).first()), TQApp::juniper);
+}
+
+// Runs once for each scale, which CTest sets from outside.
+TEST(AppRowPixels, IconsLieExactlyOnThePixelsOfTheirThumbnails)
+{
+    const InstalledRecordingPlatform platform;
+    platform->scale = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble();
+    QmlWindow host(row(TQApp::hazel, "width: 440; height: 50"), {440, 60});
+    const QImage shown = host.window.grabWindow();
+    ASSERT_EQ(shown.size(), QSize(440, 60) * platform->scale);
+
+    QImage expected(shown.size(), QImage::Format_ARGB32_Premultiplied);
+    expected.setDevicePixelRatio(platform->scale);
+    expected.fill(Qt::white);
+    QPainter painter(&expected);
+    double x = 16;
+    for (const TQApp app : TQApp::allCases()) {
+        if (app == TQApp::hazel)
+            continue;
+        painter.drawImage(QPointF(x, 7), app.icon());
+        x += 44;
+    }
+    painter.end();
+
+    int farthest = 0;
+    for (int py = 0; py < shown.height(); ++py) {
+        for (int px = 0; px < shown.width(); ++px) {
+            const QRgb a = shown.pixel(px, py);
+            const QRgb b = expected.pixel(px, py);
+            farthest = std::max({farthest, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                                 std::abs(qBlue(a) - qBlue(b))});
+        }
+    }
+    EXPECT_LE(farthest, 2) << "a thumbnail is neither moved nor scaled on its way to the screen";
+}
+
+} // namespace
+} // namespace TQFoundation

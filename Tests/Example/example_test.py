@@ -1,0 +1,63 @@
+"""The example from outside: its pictures, the rows that its options choose, and what it refuses."""
+
+import os
+import pathlib
+import struct
+import subprocess
+import sys
+import tempfile
+
+grove = sys.argv[1]
+failures = []
+environment = {name: value for name, value in os.environ.items()
+               if name not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR")}
+
+
+def run(*options, folder=None):
+    return subprocess.run([grove, *options], env=environment, cwd=folder, capture_output=True, text=True, timeout=60)
+
+
+def size_of(path):
+    header = path.read_bytes()[:24]
+    return struct.unpack(">II", header[16:24]) if header.startswith(b"\x89PNG") else None
+
+
+with tempfile.TemporaryDirectory() as name:
+    folder = pathlib.Path(name)
+    environment["XDG_RUNTIME_DIR"] = name
+    apps = "larch juniper hazel ginkgo fir elm dogwood cedar birch alder".split()
+    for index, app in enumerate(apps):
+        language = ("en", "zh-Hans", "ar", "de")[index % 4]
+        target = folder / app
+        dark = ["--dark"] if index % 2 else []
+        result = run("--app", app, "--language", language, *dark, "--shots", str(target))
+        if result.returncode or result.stderr:
+            failures.append(f"{app}: {result.returncode} {result.stderr}")
+        for picture in ("home.png", "more.png"):
+            if size_of(target / picture) != (780, 1688):
+                failures.append(f"{app}: {picture} is {size_of(target / picture)}")
+
+    # Where no display answers, pictures are made in the folder it was started from.
+    result = run(folder=folder)
+    if result.returncode or size_of(folder / "shots" / "more.png") is None:
+        failures.append(f"without a display: {result.returncode} {result.stdout} {result.stderr}")
+
+    def more_picture(app, storefront):
+        target = folder / f"{app}-{storefront}"
+        run("--app", app, "--storefront", storefront, "--shots", str(target))
+        return (target / "more.png").read_bytes()
+
+    if more_picture("hazel", "CHN") != more_picture("hazel", "none"):
+        failures.append("an unknown storefront differs from CHN")
+    if more_picture("hazel", "CHN") == more_picture("hazel", "USA"):
+        failures.append("CHN shows the same rows as USA")
+    if more_picture("alder", "CHN") != more_picture("alder", "USA"):
+        failures.append("an app without a filing differs by storefront")
+
+    for options in (["--app", "oak"], ["--size", "10x10"], ["--size", "huge"], ["--nonsense"], ["--shots", ""]):
+        result = run(*options, folder=folder)
+        if result.returncode != 2 or not result.stderr.startswith("Grove: "):
+            failures.append(f"{options}: {result.returncode} {result.stderr}")
+
+print("\n".join(failures) or "all pictures made, all refusals in words")
+sys.exit(bool(failures))

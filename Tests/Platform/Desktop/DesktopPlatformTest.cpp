@@ -1,0 +1,271 @@
+#include <TQFoundation/DesktopPlatform.h>
+
+#include "DeathTest.h"
+
+#include <QtCore/qcoreapplication.h>
+#include <QtCore/qdir.h>
+#include <QtCore/qelapsedtimer.h>
+#include <QtCore/qeventloop.h>
+#include <QtCore/qfile.h>
+#include <QtCore/qprocess.h>
+#include <QtCore/qscopeguard.h>
+#include <QtCore/qsettings.h>
+#include <QtCore/qtimer.h>
+#include <QtGui/qguiapplication.h>
+#include <QtGui/qscreen.h>
+#include <QtQuick/qquickwindow.h>
+#include <QtTest/qtest.h>
+
+#include <sys/stat.h>
+
+namespace TQFoundation {
+namespace {
+
+QString plistPath()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/Info.plist");
+}
+
+/// A host's list beside the executable for as long as it lives. Tests that make one run one at a time.
+class HostList
+{
+public:
+    explicit HostList(const QByteArray &content)
+    {
+        QFile file(plistPath());
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    HostList(const HostList &) = delete;
+    HostList &operator=(const HostList &) = delete;
+    ~HostList() { QFile::remove(plistPath()); }
+};
+
+QByteArray listOf(const QByteArray &entries)
+{
+    return "<plist version=\"1.0\"><dict>" + entries + "</dict></plist>";
+}
+
+class DesktopPlatformTest : public testing::Test
+{
+protected:
+    QVariant info(const char *key) const { return platform.infoDictionaryValue(QLatin1String(key)); }
+
+    DesktopPlatform platform;
+};
+
+using DesktopHostInfo = DesktopPlatformTest;
+
+TEST_F(DesktopPlatformTest, TheScreenIsThePrimaryOne)
+{
+    EXPECT_EQ(platform.screenBounds(), QSizeF(QGuiApplication::primaryScreen()->geometry().size()));
+    EXPECT_EQ(platform.screenScale(), QGuiApplication::primaryScreen()->devicePixelRatio());
+}
+
+TEST_F(DesktopPlatformTest, ADesktopHasNoStorefront)
+{
+    EXPECT_EQ(platform.storefrontCountryCode(), std::nullopt);
+}
+
+TEST_F(DesktopPlatformTest, MediaTimeNeverGoesBack)
+{
+    double last = platform.mediaTime();
+    for (int round = 0; round < 1000; ++round) {
+        const double now = platform.mediaTime();
+        ASSERT_GE(now, last);
+        last = now;
+    }
+}
+
+TEST_F(DesktopHostInfo, AFileBesideTheExecutableIsTheDictionary)
+{
+    const HostList list(listOf("<key>CFBundleName</key><string>Grove</string><key>CFBundleVersion</key><integer>57</integer>"));
+    EXPECT_EQ(info("CFBundleName"), QVariant(QStringLiteral("Grove")));
+    EXPECT_EQ(info("CFBundleVersion").typeId(), QMetaType::LongLong);
+    EXPECT_FALSE(info("CFBundleDisplayName").isValid());
+}
+
+TEST_F(DesktopHostInfo, EntriesOfABrokenListAreMissing)
+{
+    const HostList list("<plist><dict><key>CFBundleName</key><string>Grove</string>");
+    EXPECT_FALSE(info("CFBundleName").isValid());
+}
+
+TEST_F(DesktopHostInfo, EntriesOfAHugeListAreMissing)
+{
+    const HostList list(listOf("<key>CFBundleName</key><string>" + QByteArray(8 << 20, 'x') + "</string>"));
+    EXPECT_FALSE(info("CFBundleName").isValid());
+}
+
+TEST_F(DesktopHostInfo, APipeInPlaceOfTheListIsNotWaitedFor)
+{
+    ASSERT_EQ(mkfifo(plistPath().toLocal8Bit().constData(), 0600), 0);
+    const auto guard = qScopeGuard([] { QFile::remove(plistPath()); });
+    EXPECT_EQ(info("CFBundleName"), QVariant(QCoreApplication::applicationName()));
+}
+
+TEST_F(DesktopHostInfo, AFolderInPlaceOfTheListCountsAsNone)
+{
+    ASSERT_TRUE(QDir().mkdir(plistPath()));
+    const auto guard = qScopeGuard([] { QDir().rmdir(plistPath()); });
+    EXPECT_EQ(info("CFBundleName"), QVariant(QCoreApplication::applicationName()));
+}
+
+TEST_F(DesktopHostInfo, WithoutAListTheApplicationObjectDescribesTheHost)
+{
+    EXPECT_EQ(info("CFBundleName"), QVariant(QStringLiteral("Tests")));
+    EXPECT_FALSE(info("CFBundleDisplayName").isValid());
+    EXPECT_FALSE(info("CFBundleShortVersionString").isValid());
+    EXPECT_FALSE(info("CFBundleVersion").isValid());
+
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("All Tests"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("3.4"));
+    EXPECT_EQ(info("CFBundleDisplayName"), QVariant(QStringLiteral("All Tests")));
+    EXPECT_EQ(info("CFBundleShortVersionString"), QVariant(QStringLiteral("3.4")));
+    EXPECT_FALSE(info("CFBundleVersion").isValid());
+}
+
+TEST_F(DesktopPlatformTest, ASettingIsReadBackAndOnDiskOnceTheEventLoopRuns)
+{
+    EXPECT_FALSE(platform.userDefault(QStringLiteral("Flag")).isValid());
+    platform.setUserDefault(QStringLiteral("Flag"), true);
+    EXPECT_TRUE(platform.userDefault(QStringLiteral("Flag")).toBool());
+
+    const QString file = QSettings(QCoreApplication::organizationName(), QCoreApplication::applicationName()).fileName();
+    QCoreApplication::processEvents();
+    QFile stored(file);
+    ASSERT_TRUE(stored.open(QIODevice::ReadOnly)) << file.toStdString();
+    EXPECT_TRUE(stored.readAll().contains("Flag=true"));
+}
+
+TEST_F(DesktopPlatformTest, ASettingOfTheOrganisationIsNotTheApplications)
+{
+    QSettings shared(QCoreApplication::organizationName());
+    shared.setValue(QStringLiteral("Flag"), true);
+    shared.sync();
+    EXPECT_FALSE(platform.userDefault(QStringLiteral("Flag")).isValid());
+}
+
+TEST_F(DesktopPlatformTest, OneSceneHoldsTheVisibleWindowsAndTheFocusedOneIsKey)
+{
+    QQuickWindow shown;
+    QQuickWindow hidden;
+    QQuickWindow other;
+    other.show();
+    shown.show();
+    shown.requestActivate();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&shown));
+
+    const QList<Scene> scenes = platform.connectedScenes();
+    ASSERT_EQ(scenes.size(), 1);
+    EXPECT_TRUE(scenes[0].isWindowScene);
+    EXPECT_EQ(scenes[0].activationState, ActivationState::foregroundActive);
+    ASSERT_EQ(scenes[0].windows.size(), 2);
+    for (const SceneWindow &window : scenes[0].windows)
+        EXPECT_EQ(window.isKey, window.window == &shown);
+}
+
+TEST_F(DesktopPlatformTest, ATimerFiresAtOnceAndThenTicksOnItsGrid)
+{
+    int ticks = 0;
+    const auto timer = platform.makeTimer(0.05, [&] { ++ticks; });
+    timer->fire();
+    EXPECT_EQ(ticks, 1);
+    timer->schedule();
+    EXPECT_EQ(ticks, 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks == 3; }));
+    timer->invalidate();
+}
+
+TEST_F(DesktopPlatformTest, AScheduledTimerLivesUntilItIsInvalidated)
+{
+    const auto held = std::make_shared<int>(0);
+    auto timer = platform.makeTimer(0.01, [held] { ++*held; });
+    timer->schedule();
+    const std::weak_ptr<RepeatingTimer> weak = timer;
+    timer.reset();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return *held >= 2; }));
+    ASSERT_FALSE(weak.expired());
+    weak.lock()->invalidate();
+    EXPECT_TRUE(weak.expired());
+    EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_F(DesktopPlatformTest, ATimerMayEndItselfInItsTick)
+{
+    int ticks = 0;
+    std::weak_ptr<RepeatingTimer> weak;
+    {
+        const auto timer = platform.makeTimer(0.001, [&] {
+            ++ticks;
+            weak.lock()->invalidate();
+        });
+        weak = timer;
+        timer->schedule();
+    }
+    EXPECT_TRUE(QTest::qWaitFor([&] { return weak.expired(); }));
+    EXPECT_EQ(ticks, 1);
+}
+
+TEST_F(DesktopPlatformTest, AnInvalidatedTimerNeverTicksAgain)
+{
+    int ticks = 0;
+    const auto timer = platform.makeTimer(0.001, [&] { ++ticks; });
+    timer->invalidate();
+    timer->fire();
+    timer->schedule();
+    EXPECT_FALSE(QTest::qWaitFor([&] { return ticks > 0; }, 20));
+}
+
+TEST_F(DesktopPlatformTest, ATimerThatWasStalledTicksOnceAndKeepsItsGrid)
+{
+    std::vector<double> moments;
+    const double made = platform.mediaTime();
+    const auto timer = platform.makeTimer(0.1, [&] { moments.push_back(platform.mediaTime() - made); });
+    timer->schedule();
+    QElapsedTimer busy;
+    busy.start();
+    while (busy.elapsed() < 250) { } // blocks the event loop on purpose
+    ASSERT_TRUE(QTest::qWaitFor([&] { return moments.size() >= 2; }));
+    timer->invalidate();
+    EXPECT_GE(moments[0], 0.25);
+    EXPECT_LT(moments[0], 0.3);
+    EXPECT_GE(moments[1], 0.3) << "the tick after a stall comes at the next whole multiple";
+}
+
+TEST_F(DesktopPlatformTest, ATimerEndsWithTheApplication)
+{
+    EXPECT_EXIT(
+        {
+            auto held = std::make_shared<int>(0);
+            platform.makeTimer(10, [held] {})->schedule();
+            delete QCoreApplication::instance();
+            std::_Exit(held.use_count() == 1 ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+TEST(DesktopPlatformDeathTest, ATimerNeedsAnInterval)
+{
+    for (const double interval : {0.0, -1.0, std::nan(""), HUGE_VAL}) {
+        EXPECT_EXIT(DesktopPlatform().makeTimer(interval, [] {}), testing::KilledBySignal(Testing::trapSignal), "^$");
+    }
+}
+
+TEST(InstalledPlatform, IsADesktopUntilAnotherIsInstalledAndComesBack)
+{
+    Platform *const first = &platform();
+    EXPECT_NE(dynamic_cast<DesktopPlatform *>(first), nullptr);
+
+    auto mine = std::make_unique<DesktopPlatform>();
+    Platform *const second = mine.get();
+    auto former = installPlatform(std::move(mine));
+    EXPECT_EQ(former.get(), first);
+    EXPECT_EQ(&platform(), second);
+
+    EXPECT_EQ(installPlatform(nullptr).get(), second);
+    EXPECT_NE(dynamic_cast<DesktopPlatform *>(&platform()), nullptr);
+}
+
+} // namespace
+} // namespace TQFoundation

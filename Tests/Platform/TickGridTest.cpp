@@ -1,0 +1,50 @@
+#include "TickGrid.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+namespace TQFoundation {
+namespace {
+
+TEST(TickGrid, TheFirstTickComesOneIntervalAfterTheStart)
+{
+    EXPECT_DOUBLE_EQ(nextTick(5, 10, 5), 15);
+    EXPECT_DOUBLE_EQ(nextTick(5, 10, 14.999), 15);
+}
+
+TEST(TickGrid, AtATickTheNextOneFollows)
+{
+    EXPECT_DOUBLE_EQ(nextTick(5, 10, 15), 25);
+}
+
+TEST(TickGrid, MissedTicksAreDropped)
+{
+    EXPECT_DOUBLE_EQ(nextTick(5, 10, 47), 55);
+}
+
+TEST(TickGrid, BeforeTheStartTheFirstTickIsNext)
+{
+    EXPECT_DOUBLE_EQ(nextTick(5, 10, -100), 15);
+}
+
+TEST(TickGrid, IsAlwaysAheadByAtMostOneIntervalAndOnTheGrid)
+{
+    std::mt19937_64 engine(1);
+    std::uniform_real_distribution<double> starts(0, 1e6);
+    std::uniform_real_distribution<double> intervals(1e-3, 100);
+    for (int round = 0; round < 100'000; ++round) {
+        const double start = starts(engine);
+        const double interval = intervals(engine);
+        const double now = start + intervals(engine) * 50;
+        const double next = nextTick(start, interval, now);
+        const double count = (next - start) / interval;
+        ASSERT_GT(next, now);
+        ASSERT_LE(next, now + interval * (1 + 1e-6));
+        ASSERT_NEAR(count, std::round(count), 1e-6);
+    }
+}
+
+} // namespace
+} // namespace TQFoundation

@@ -1,0 +1,74 @@
+"""Every table has exactly the keys of the code, each with a finished translation that fits its place."""
+
+import pathlib
+import subprocess
+import sys
+import tempfile
+import xml.etree.ElementTree as ElementTree
+
+root, lupdate = pathlib.Path(sys.argv[1]), sys.argv[2]
+failures = []
+
+
+def entries(path):
+    found = {}
+    for context in ElementTree.parse(path).getroot().iter("context"):
+        name = context.findtext("name")
+        for message in context.iter("message"):
+            translation = message.find("translation")
+            finished = translation.get("type") is None
+            found[name, message.findtext("source")] = (translation.text or "") if finished else None
+    return found
+
+
+def keys_of(sources, folder):
+    table = pathlib.Path(folder) / "keys.ts"
+    subprocess.run([lupdate, "-silent", "-locations", "none", *map(str, sources), "-ts", str(table)],
+                   check=True, capture_output=True)
+    return set(entries(table))
+
+
+def check(tables, keys, languages):
+    found = {path.stem.split("_", 1)[1]: path for path in tables}
+    if set(found) != languages:
+        failures.append(f"tables of {sorted(set(found) ^ languages)} are missing or not listed in CMakeLists.txt")
+    for language, path in sorted(found.items()):
+        table = entries(path)
+        for context, key in sorted(keys - set(table)):
+            failures.append(f"{path.name} lacks {key!r} in {context}")
+        for context, key in sorted(set(table) - keys):
+            failures.append(f"{path.name} has {key!r} in {context}, which the code lacks")
+        for (context, key), text in table.items():
+            where = f"{path.name}, {key[:40]!r}:"
+            if not text:
+                failures.append(f"{where} no finished translation")
+                continue
+            if language == "en" and text != key:
+                failures.append(f"{where} English is the key itself")
+            if key.startswith("https://"):
+                local = language.startswith("zh_")
+                if not text.startswith("https://tqstudio.example/") or (text != key) != local:
+                    failures.append(f"{where} the site has pages in Chinese and English only")
+            elif text.count("\n\n") != key.count("\n\n"):
+                failures.append(f"{where} another number of blocks")
+            if key.endswith(" ") != text.endswith(" ") or text.endswith("  ") or text != text.lstrip():
+                failures.append(f"{where} blanks at the edges differ")
+            if key == "ICP-2099000001-" and not (text.endswith("-") and "2099000001" in text):
+                failures.append(f"{where} a filing's suffix follows directly")
+
+
+listed = next(line for line in (root / "CMakeLists.txt").read_text().splitlines() if line.startswith("set(languages "))
+languages = set(listed.removeprefix("set(languages ").rstrip(")").split())
+with tempfile.TemporaryDirectory() as folder:
+    sources = [path for path in (root / "Sources").rglob("*") if path.suffix in (".h", ".cpp", ".qml")]
+    keys = keys_of(sources, folder)
+with tempfile.TemporaryDirectory() as folder:
+    example_keys = keys_of((root / "Example").glob("*.qml"), folder)
+
+if len(keys) < 23:
+    failures.append(f"only {len(keys)} keys were found in the code")
+check((root / "Resources/Translations").glob("*.ts"), keys, languages)
+check((root / "Example/Translations").glob("*.ts"), example_keys, languages)
+
+print("\n".join(failures) or f"{len(keys)} keys in {len(languages)} tables")
+sys.exit(bool(failures))

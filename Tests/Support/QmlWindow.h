@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QtCore/qbytearray.h>
+#include <QtQml/qqmlcomponent.h>
+#include <QtQml/qqmlengine.h>
+#include <QtQuick/qquickitem.h>
+#include <QtQuick/qquickwindow.h>
+#include <QtTest/qtest.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace TQFoundation::Testing {
+
+/// A shown window of a host that wrote the given QML; an error in it fails the test.
+class QmlWindow
+{
+public:
+    explicit QmlWindow(const QByteArray &qml, QSize size = {390, 200})
+    {
+        window.setColor(Qt::white);
+        window.resize(size);
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick\nimport TQFoundation\n" + qml, QUrl(QStringLiteral("qrc:/Host.qml")));
+        object.reset(component.create());
+        EXPECT_TRUE(object) << component.errorString().toStdString();
+        if ((item = qobject_cast<QQuickItem *>(object.get())))
+            item->setParentItem(window.contentItem());
+        window.show();
+        window.requestActivate();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    QQmlEngine engine;
+    QQuickWindow window;
+    std::unique_ptr<QObject> object;
+    QQuickItem *item = nullptr; ///< the root object where it is an item
+};
+
+} // namespace TQFoundation::Testing

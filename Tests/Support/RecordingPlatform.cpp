@@ -1,0 +1,163 @@
+#include "RecordingPlatform.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace TQFoundation::Testing {
+
+class RecordingTimer final : public RepeatingTimer, public std::enable_shared_from_this<RecordingTimer>
+{
+public:
+    RecordingTimer(RecordingPlatform &platform, double interval, std::function<void()> tick)
+        : m_platform(platform), m_interval(interval), m_made(platform.m_now), m_next(m_made + interval),
+          m_tick(std::move(tick))
+    {
+    }
+
+    void fire() override
+    {
+        m_platform.record(QStringLiteral("timer.fire()"));
+        run();
+    }
+
+    void schedule() override
+    {
+        m_platform.record(QStringLiteral("timer.schedule()"));
+        if (m_tick && !isScheduled())
+            m_platform.m_scheduled.push_back(shared_from_this());
+    }
+
+    void invalidate() override
+    {
+        m_platform.record(QStringLiteral("timer.invalidate()"));
+        std::erase(m_platform.m_scheduled, shared_from_this());
+        const auto tick = std::exchange(m_tick, nullptr);
+    }
+
+    double nextMoment() const { return m_next; }
+
+    void tickOnTheGrid()
+    {
+        m_next = m_made + (std::floor((m_platform.m_now - m_made) / m_interval) + 1) * m_interval;
+        run();
+    }
+
+private:
+    bool isScheduled()
+    {
+        return std::ranges::count(m_platform.m_scheduled, shared_from_this()) > 0;
+    }
+
+    void run()
+    {
+        if (const auto tick = m_tick)
+            tick();
+    }
+
+    RecordingPlatform &m_platform;
+    const double m_interval;
+    const double m_made;
+    double m_next;
+    std::function<void()> m_tick;
+};
+
+RecordingPlatform::~RecordingPlatform() = default;
+
+void RecordingPlatform::advance(double seconds)
+{
+    const double end = m_now + seconds;
+    for (;;) {
+        const auto first = std::ranges::min_element(m_scheduled, {}, &RecordingTimer::nextMoment);
+        if (first == m_scheduled.end() || (*first)->nextMoment() > end)
+            break;
+        const auto timer = *first;
+        m_now = std::max(m_now, timer->nextMoment());
+        timer->tickOnTheGrid();
+    }
+    m_now = end;
+}
+
+void RecordingPlatform::record(const QString &call) const
+{
+    if (records)
+        calls.append(call);
+}
+
+QSizeF RecordingPlatform::screenBounds() const
+{
+    record(QStringLiteral("screenBounds()"));
+    return bounds;
+}
+
+double RecordingPlatform::screenScale() const
+{
+    record(QStringLiteral("screenScale()"));
+    return scale;
+}
+
+std::optional<QString> RecordingPlatform::storefrontCountryCode() const
+{
+    ++storefrontReads;
+    record(QStringLiteral("storefrontCountryCode()"));
+    return storefront;
+}
+
+QVariant RecordingPlatform::infoDictionaryValue(const QString &key) const
+{
+    record(u"infoDictionaryValue(" + key + u')');
+    return infoDictionary.value(key);
+}
+
+QVariant RecordingPlatform::userDefault(const QString &key) const
+{
+    record(u"userDefault(" + key + u')');
+    return defaults.value(key);
+}
+
+void RecordingPlatform::setUserDefault(const QString &key, const QVariant &value)
+{
+    record(u"setUserDefault(" + key + u", " + value.toString() + u')');
+    defaults.insert(key, value);
+}
+
+QList<Scene> RecordingPlatform::connectedScenes() const
+{
+    record(QStringLiteral("connectedScenes()"));
+    return scenes;
+}
+
+void RecordingPlatform::openUrl(const QUrl &url)
+{
+    record(u"openUrl(" + url.toString(QUrl::FullyEncoded) + u')');
+}
+
+double RecordingPlatform::mediaTime() const
+{
+    return m_now;
+}
+
+std::shared_ptr<RepeatingTimer> RecordingPlatform::makeTimer(double interval, std::function<void()> tick)
+{
+    record(u"makeTimer(" + QString::number(interval) + u')');
+    return std::make_shared<RecordingTimer>(*this, interval, std::move(tick));
+}
+
+QString RecordingPlatform::resourceRoot() const
+{
+    return root;
+}
+
+InstalledRecordingPlatform::InstalledRecordingPlatform()
+{
+    auto platform = std::make_unique<RecordingPlatform>();
+    m_platform = platform.get();
+    m_former = installPlatform(std::move(platform));
+}
+
+InstalledRecordingPlatform::~InstalledRecordingPlatform()
+{
+    installPlatform(std::move(m_former));
+}
+
+} // namespace TQFoundation::Testing

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <TQFoundation/Platform.h>
+
+#include <QtCore/qmap.h>
+#include <QtCore/qstringlist.h>
+#include <QtCore/qurl.h>
+
+#include <atomic>
+#include <vector>
+
+namespace TQFoundation::Testing {
+
+class RecordingTimer;
+
+/// A platform for tests: answers what the test sets, writes every call to one ordered list, and stands still in time until
+/// it is driven by hand.
+///
+/// Nothing of it leaves the process: no browser opens, no setting is stored. Main thread, except that the storefront, the
+/// dictionary, the media time and the resource root may be read from any thread while calls are not recorded.
+class RecordingPlatform : public Platform
+{
+public:
+    // What the library is told. Set it before the library first asks.
+    QSizeF bounds{390, 844};
+    double scale = 3;
+    std::optional<QString> storefront;
+    QVariantMap infoDictionary;
+    QVariantMap defaults;
+    QList<Scene> scenes;
+    QString root = QStringLiteral(":/TQFoundation");
+
+    /// The calls in their order, each the function's name with its arguments in parentheses.
+    mutable QStringList calls;
+
+    /// How often the storefront was asked for; counted from any thread.
+    mutable std::atomic<int> storefrontReads = 0;
+
+    /// False keeps `calls` empty, for tests that read from several threads.
+    bool records = true;
+
+    ~RecordingPlatform() override;
+
+    /// Moves the media time on by \a seconds and runs the ticks of scheduled timers that fall into them, each at its
+    /// own moment and in the order of their moments.
+    void advance(double seconds);
+
+    /// Moves the media time on without running ticks, as when the process was stopped: the ticks missed meanwhile run
+    /// as one at the next advance().
+    void stall(double seconds) { m_now += seconds; }
+
+    QSizeF screenBounds() const override;
+    double screenScale() const override;
+    std::optional<QString> storefrontCountryCode() const override;
+    QVariant infoDictionaryValue(const QString &key) const override;
+    QVariant userDefault(const QString &key) const override;
+    void setUserDefault(const QString &key, const QVariant &value) override;
+    QList<Scene> connectedScenes() const override;
+    void openUrl(const QUrl &url) override;
+    double mediaTime() const override;
+    std::shared_ptr<RepeatingTimer> makeTimer(double interval, std::function<void()> tick) override;
+    QString resourceRoot() const override;
+
+private:
+    friend class RecordingTimer;
+
+    void record(const QString &call) const;
+
+    double m_now = 0;
+    std::vector<std::shared_ptr<RecordingTimer>> m_scheduled;
+};
+
+/// Installs a RecordingPlatform for as long as it lives and the former platform afterwards.
+class InstalledRecordingPlatform
+{
+public:
+    InstalledRecordingPlatform();
+    InstalledRecordingPlatform(const InstalledRecordingPlatform &) = delete;
+    InstalledRecordingPlatform &operator=(const InstalledRecordingPlatform &) = delete;
+    ~InstalledRecordingPlatform();
+
+    RecordingPlatform *operator->() const { return m_platform; }
+    RecordingPlatform &operator*() const { return *m_platform; }
+
+private:
+    RecordingPlatform *m_platform;
+    std::unique_ptr<Platform> m_former;
+};
+
+} // namespace TQFoundation::Testing

@@ -1,0 +1,37 @@
+#include <QtCore/qstandardpaths.h>
+#include <QtCore/qtemporarydir.h>
+#include <QtGui/qguiapplication.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// The library is silent, so any line that is logged fails the test that runs.
+void failOnAnyLine(QtMsgType, const QMessageLogContext &, const QString &message)
+{
+    ADD_FAILURE() << "logged: " << message.toStdString();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    ::testing::InitGoogleTest(&argc, argv);
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+
+    // No display, no settings and no run-time folder of the user's.
+    const QTemporaryDir home;
+    for (const char *folder : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(folder, home.path().toUtf8());
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+        qputenv("QT_QUICK_BACKEND", "software");
+    qputenv("QSG_RENDER_LOOP", "basic");
+
+    QGuiApplication application(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("TQFoundation"));
+    QCoreApplication::setApplicationName(QStringLiteral("Tests"));
+    qInstallMessageHandler(failOnAnyLine);
+    return RUN_ALL_TESTS();
+}

@@ -5,18 +5,18 @@
     <name>HomeScreen</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>المزيد</translation>
     </message>
 </context>
 <context>
     <name>MoreScreen</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>رجوع</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>المزيد</translation>
     </message>
 </context>
 </TS>

@@ -5,18 +5,18 @@
     <name>HomeScreen</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>더 보기</translation>
     </message>
 </context>
 <context>
     <name>MoreScreen</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>뒤로</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>더 보기</translation>
     </message>
 </context>
 </TS>

@@ -5,18 +5,18 @@
     <name>HomeScreen</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>Daha Fazla</translation>
     </message>
 </context>
 <context>
     <name>MoreScreen</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Geri</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>Daha Fazla</translation>
     </message>
 </context>
 </TS>

@@ -5,23 +5,28 @@
     <name>TQFoundation</name>
     <message>
         <source>https://tqstudio.example/privacy-policy-en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/privacy-policy-en</translation>
     </message>
     <message>
         <source>https://tqstudio.example/contact-en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/contact-en</translation>
     </message>
     <message>
         <source>https://tqstudio.example/en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/en</translation>
     </message>
     <message>
         <source>ICP-2099000001-</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Begins the number under which an app is filed in mainland China; only Chinese gives it in full.</extracomment>
+        <translation>ICP-2099000001-</translation>
     </message>
     <message>
         <source>More Apps I Developed</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row that leads to the developer&apos;s other apps.</extracomment>
+        <translation>Weitere Apps von mir</translation>
     </message>
     <message>
         <source>Welcome to the Hazel Grid.
@@ -29,49 +34,68 @@
 The game is an infinite, two-dimensional orthogonal grid of square cells, each of which is in one of two possible states, live or dead.
 
 At each step in time, the following transitions occur:</source>
-        <translation type="unfinished"></translation>
+        <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
+        <translation>Willkommen bei Hazel Grid.
+
+Das Spielfeld ist ein unendliches, zweidimensionales, rechtwinkliges Gitter aus quadratischen Zellen. Jede Zelle befindet sich in einem von zwei möglichen Zuständen: lebend oder tot.
+
+In jedem Zeitschritt finden die folgenden Übergänge statt:</translation>
     </message>
     <message>
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
-        <translation type="unfinished"></translation>
+        <translation>1.
+
+Jede lebende Zelle mit weniger als zwei lebenden Nachbarn stirbt, gleichsam an Unterbevölkerung.</translation>
     </message>
     <message>
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
-        <translation type="unfinished"></translation>
+        <translation>2.
+
+Jede lebende Zelle mit zwei oder drei lebenden Nachbarn lebt in der nächsten Generation weiter.</translation>
     </message>
     <message>
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
-        <translation type="unfinished"></translation>
+        <translation>3.
+
+Jede lebende Zelle mit mehr als drei lebenden Nachbarn stirbt, gleichsam an Überbevölkerung.</translation>
     </message>
     <message>
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
-        <translation type="unfinished"></translation>
+        <translation>4.
+
+Jede tote Zelle mit genau drei lebenden Nachbarn wird zu einer lebenden Zelle, gleichsam durch Fortpflanzung.</translation>
     </message>
     <message>
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
-        <translation type="unfinished"></translation>
+        <translation>Und nun viel Freude mit Hazel Grid.
+
+Herzliche Grüße</translation>
     </message>
     <message>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen bei „青岚“ (Qinglan).
+
+Geben Sie ein chinesisches Schriftzeichen nach dem anderen ein und erraten Sie anhand der Striche und ihrer Reihenfolge in höchstens sechs Versuchen das gesuchte Zeichen.</translation>
     </message>
     <message>
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie ein gültiges chinesisches Schriftzeichen ein und schicken Sie es mit der Eingabetaste ab.
+
+Nach jedem Versuch können sich die Farben der Striche ändern:</translation>
     </message>
     <message>
         <source>绿色，
@@ -79,7 +103,11 @@ Best regards.</source>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün bedeutet:
+
+Das gesuchte Zeichen enthält diesen Strich, und auch seine Stelle in der Strichreihenfolge stimmt.
+
+Solche Striche werden im gesuchten wie im eingegebenen Zeichen vollzählig angezeigt.</translation>
     </message>
     <message>
         <source>灰色，
@@ -87,41 +115,54 @@ Best regards.</source>
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
-        <translation type="unfinished"></translation>
+        <translation>Grau bedeutet:
+
+Das gesuchte Zeichen enthält diesen Strich zwar, doch seine Stelle in der Strichreihenfolge stimmt nicht.
+
+Sind mehrere dieser Striche gleich, wird im gesuchten Zeichen nur einer von ihnen angezeigt, im eingegebenen Zeichen dagegen alle.</translation>
     </message>
     <message>
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
-        <translation type="unfinished"></translation>
+        <translation>Und nun wünsche ich Ihnen viel Freude mit „青岚“.
+
+Mit den besten Wünschen und vorzüglicher Hochachtung</translation>
     </message>
     <message>
         <source>Privacy Policy</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>Datenschutzerklärung</translation>
     </message>
     <message>
         <source>Contact</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen that leads to writing to the developer.</extracomment>
+        <translation>Kontakt</translation>
     </message>
     <message>
         <source>Rate on the App Store</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>Im App Store bewerten</translation>
     </message>
     <message>
         <source>Follow me on Social Media Platforms</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>Auf Social Media folgen</translation>
     </message>
     <message>
         <source>Browse My Personal Website</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>Meine persönliche Website</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Stands before the version number, as in &quot;Version 2.3.1(57)&quot;.</extracomment>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Contact: </source>
-        <translation type="unfinished"></translation>
+        <extracomment>Begins the subject of a feedback mail, before the app&apos;s name; ends in one blank.</extracomment>
+        <translation>Kontakt: </translation>
     </message>
 </context>
 </TS>

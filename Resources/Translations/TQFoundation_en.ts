@@ -5,22 +5,27 @@
     <name>TQFoundation</name>
     <message>
         <source>https://tqstudio.example/privacy-policy-en</source>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
         <translation>https://tqstudio.example/privacy-policy-en</translation>
     </message>
     <message>
         <source>https://tqstudio.example/contact-en</source>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
         <translation>https://tqstudio.example/contact-en</translation>
     </message>
     <message>
         <source>https://tqstudio.example/en</source>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
         <translation>https://tqstudio.example/en</translation>
     </message>
     <message>
         <source>ICP-2099000001-</source>
+        <extracomment>Begins the number under which an app is filed in mainland China; only Chinese gives it in full.</extracomment>
         <translation>ICP-2099000001-</translation>
     </message>
     <message>
         <source>More Apps I Developed</source>
+        <extracomment>Title of a row that leads to the developer&apos;s other apps.</extracomment>
         <translation>More Apps I Developed</translation>
     </message>
     <message>
@@ -29,6 +34,7 @@
 The game is an infinite, two-dimensional orthogonal grid of square cells, each of which is in one of two possible states, live or dead.
 
 At each step in time, the following transitions occur:</source>
+        <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
         <translation>Welcome to the Hazel Grid.
 
 The game is an infinite, two-dimensional orthogonal grid of square cells, each of which is in one of two possible states, live or dead.
@@ -125,30 +131,37 @@ Best regards.</translation>
     </message>
     <message>
         <source>Privacy Policy</source>
+        <extracomment>Title of a row of the More screen.</extracomment>
         <translation>Privacy Policy</translation>
     </message>
     <message>
         <source>Contact</source>
+        <extracomment>Title of a row of the More screen that leads to writing to the developer.</extracomment>
         <translation>Contact</translation>
     </message>
     <message>
         <source>Rate on the App Store</source>
+        <extracomment>Title of a row of the More screen.</extracomment>
         <translation>Rate on the App Store</translation>
     </message>
     <message>
         <source>Follow me on Social Media Platforms</source>
+        <extracomment>Title of a row of the More screen.</extracomment>
         <translation>Follow me on Social Media Platforms</translation>
     </message>
     <message>
         <source>Browse My Personal Website</source>
+        <extracomment>Title of a row of the More screen.</extracomment>
         <translation>Browse My Personal Website</translation>
     </message>
     <message>
         <source>Version</source>
+        <extracomment>Stands before the version number, as in &quot;Version 2.3.1(57)&quot;.</extracomment>
         <translation>Version</translation>
     </message>
     <message>
         <source>Contact: </source>
+        <extracomment>Begins the subject of a feedback mail, before the app&apos;s name; ends in one blank.</extracomment>
         <translation>Contact: </translation>
     </message>
 </context>

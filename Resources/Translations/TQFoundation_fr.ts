@@ -5,23 +5,28 @@
     <name>TQFoundation</name>
     <message>
         <source>https://tqstudio.example/privacy-policy-en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/privacy-policy-en</translation>
     </message>
     <message>
         <source>https://tqstudio.example/contact-en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/contact-en</translation>
     </message>
     <message>
         <source>https://tqstudio.example/en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/en</translation>
     </message>
     <message>
         <source>ICP-2099000001-</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Begins the number under which an app is filed in mainland China; only Chinese gives it in full.</extracomment>
+        <translation>ICP-2099000001-</translation>
     </message>
     <message>
         <source>More Apps I Developed</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row that leads to the developer&apos;s other apps.</extracomment>
+        <translation>Découvrir mes autres apps</translation>
     </message>
     <message>
         <source>Welcome to the Hazel Grid.
@@ -29,49 +34,68 @@
 The game is an infinite, two-dimensional orthogonal grid of square cells, each of which is in one of two possible states, live or dead.
 
 At each step in time, the following transitions occur:</source>
-        <translation type="unfinished"></translation>
+        <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
+        <translation>Bienvenue dans Hazel Grid.
+
+Le jeu se déroule sur une grille orthogonale infinie, à deux dimensions, faite de cellules carrées. Chaque cellule se trouve dans l’un des deux états possibles : vivante ou morte.
+
+À chaque pas de temps, les transitions suivantes se produisent :</translation>
     </message>
     <message>
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
-        <translation type="unfinished"></translation>
+        <translation>1.
+
+Toute cellule vivante ayant moins de deux voisines vivantes meurt, comme sous l’effet de la sous-population.</translation>
     </message>
     <message>
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
-        <translation type="unfinished"></translation>
+        <translation>2.
+
+Toute cellule vivante ayant deux ou trois voisines vivantes reste en vie à la génération suivante.</translation>
     </message>
     <message>
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
-        <translation type="unfinished"></translation>
+        <translation>3.
+
+Toute cellule vivante ayant plus de trois voisines vivantes meurt, comme sous l’effet de la surpopulation.</translation>
     </message>
     <message>
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
-        <translation type="unfinished"></translation>
+        <translation>4.
+
+Toute cellule morte ayant exactement trois voisines vivantes devient une cellule vivante, comme par reproduction.</translation>
     </message>
     <message>
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
-        <translation type="unfinished"></translation>
+        <translation>Et maintenant, amusez-vous bien avec Hazel Grid.
+
+Bien à vous.</translation>
     </message>
     <message>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
-        <translation type="unfinished"></translation>
+        <translation>Bienvenue dans « 青岚 » (Qinglan).
+
+Saisissez des caractères chinois, l’un après l’autre, et devinez le bon en six essais, en vous fiant aux traits et à leur ordre.</translation>
     </message>
     <message>
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez un caractère chinois valide, puis appuyez sur la touche Entrée pour le proposer.
+
+Après chaque essai, la couleur des traits peut changer :</translation>
     </message>
     <message>
         <source>绿色，
@@ -79,7 +103,11 @@ Best regards.</source>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
-        <translation type="unfinished"></translation>
+        <translation>Vert :
+
+Le bon caractère contient ce trait, et sa place dans l’ordre des traits est juste.
+
+Tous les traits concernés s’affichent, dans le bon caractère comme dans le caractère proposé.</translation>
     </message>
     <message>
         <source>灰色，
@@ -87,41 +115,54 @@ Best regards.</source>
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
-        <translation type="unfinished"></translation>
+        <translation>Gris :
+
+Le bon caractère contient bien ce trait, mais sa place dans l’ordre des traits n’est pas la bonne.
+
+Si plusieurs de ces traits sont identiques, un seul s’affiche dans le bon caractère, alors que tous s’affichent dans le caractère proposé.</translation>
     </message>
     <message>
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne me reste plus qu’à vous souhaiter beaucoup de plaisir avec « 青岚 ».
+
+Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
     </message>
     <message>
         <source>Privacy Policy</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>Politique de confidentialité</translation>
     </message>
     <message>
         <source>Contact</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen that leads to writing to the developer.</extracomment>
+        <translation>Me contacter</translation>
     </message>
     <message>
         <source>Rate on the App Store</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>Noter sur l’App Store</translation>
     </message>
     <message>
         <source>Follow me on Social Media Platforms</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>Me suivre sur les réseaux sociaux</translation>
     </message>
     <message>
         <source>Browse My Personal Website</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>Visiter mon site personnel</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Stands before the version number, as in &quot;Version 2.3.1(57)&quot;.</extracomment>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Contact: </source>
-        <translation type="unfinished"></translation>
+        <extracomment>Begins the subject of a feedback mail, before the app&apos;s name; ends in one blank.</extracomment>
+        <translation>Contact : </translation>
     </message>
 </context>
 </TS>

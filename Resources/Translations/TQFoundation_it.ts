@@ -5,23 +5,28 @@
     <name>TQFoundation</name>
     <message>
         <source>https://tqstudio.example/privacy-policy-en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/privacy-policy-en</translation>
     </message>
     <message>
         <source>https://tqstudio.example/contact-en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/contact-en</translation>
     </message>
     <message>
         <source>https://tqstudio.example/en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/en</translation>
     </message>
     <message>
         <source>ICP-2099000001-</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Begins the number under which an app is filed in mainland China; only Chinese gives it in full.</extracomment>
+        <translation>ICP-2099000001-</translation>
     </message>
     <message>
         <source>More Apps I Developed</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row that leads to the developer&apos;s other apps.</extracomment>
+        <translation>Scopri le mie altre app</translation>
     </message>
     <message>
         <source>Welcome to the Hazel Grid.
@@ -29,49 +34,68 @@
 The game is an infinite, two-dimensional orthogonal grid of square cells, each of which is in one of two possible states, live or dead.
 
 At each step in time, the following transitions occur:</source>
-        <translation type="unfinished"></translation>
+        <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
+        <translation>Benvenuti in Hazel Grid.
+
+Il gioco è una griglia ortogonale bidimensionale e infinita di celle quadrate, ciascuna delle quali si trova in uno di due stati possibili: viva o morta.
+
+A ogni passo temporale avvengono le seguenti transizioni:</translation>
     </message>
     <message>
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
-        <translation type="unfinished"></translation>
+        <translation>1.
+
+Ogni cella viva con meno di due celle vive adiacenti muore, come per sottopopolazione.</translation>
     </message>
     <message>
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
-        <translation type="unfinished"></translation>
+        <translation>2.
+
+Ogni cella viva con due o tre celle vive adiacenti continua a vivere nella generazione successiva.</translation>
     </message>
     <message>
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
-        <translation type="unfinished"></translation>
+        <translation>3.
+
+Ogni cella viva con più di tre celle vive adiacenti muore, come per sovrappopolazione.</translation>
     </message>
     <message>
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
-        <translation type="unfinished"></translation>
+        <translation>4.
+
+Ogni cella morta con esattamente tre celle vive adiacenti diventa una cella viva, come per riproduzione.</translation>
     </message>
     <message>
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
-        <translation type="unfinished"></translation>
+        <translation>E ora, buon divertimento con Hazel Grid.
+
+Un caro saluto.</translation>
     </message>
     <message>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
-        <translation type="unfinished"></translation>
+        <translation>Le do il benvenuto in «青岚» (Qinglan).
+
+Inserisca un carattere cinese dopo l’altro e indovini quello giusto in sei tentativi, lasciandosi guidare dai tratti e dal loro ordine.</translation>
     </message>
     <message>
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisca un carattere cinese valido e prema il tasto Invio per confermarlo.
+
+Dopo ogni tentativo il colore dei tratti potrebbe cambiare:</translation>
     </message>
     <message>
         <source>绿色，
@@ -79,7 +103,11 @@ Best regards.</source>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde:
+
+Il carattere giusto contiene questo tratto, e la sua posizione nell’ordine dei tratti è corretta.
+
+Tutti i tratti di questo tipo vengono mostrati, sia nel carattere giusto sia in quello inserito.</translation>
     </message>
     <message>
         <source>灰色，
@@ -87,41 +115,54 @@ Best regards.</source>
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
-        <translation type="unfinished"></translation>
+        <translation>Grigio:
+
+Il carattere giusto contiene questo tratto, ma la sua posizione nell’ordine dei tratti non è corretta.
+
+Se più tratti di questo tipo sono uguali, nel carattere giusto ne viene mostrato uno solo, mentre in quello inserito vengono mostrati tutti.</translation>
     </message>
     <message>
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
-        <translation type="unfinished"></translation>
+        <translation>E ora Le auguro buon divertimento con «青岚».
+
+Voglia gradire, con i migliori auguri, i miei più distinti saluti.</translation>
     </message>
     <message>
         <source>Privacy Policy</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>Informativa sulla privacy</translation>
     </message>
     <message>
         <source>Contact</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen that leads to writing to the developer.</extracomment>
+        <translation>Contatti</translation>
     </message>
     <message>
         <source>Rate on the App Store</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>Valuta sull’App Store</translation>
     </message>
     <message>
         <source>Follow me on Social Media Platforms</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>Seguimi sui social</translation>
     </message>
     <message>
         <source>Browse My Personal Website</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>Visita il mio sito personale</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Stands before the version number, as in &quot;Version 2.3.1(57)&quot;.</extracomment>
+        <translation>Versione</translation>
     </message>
     <message>
         <source>Contact: </source>
-        <translation type="unfinished"></translation>
+        <extracomment>Begins the subject of a feedback mail, before the app&apos;s name; ends in one blank.</extracomment>
+        <translation>Contatto: </translation>
     </message>
 </context>
 </TS>

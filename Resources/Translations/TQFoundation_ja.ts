@@ -5,23 +5,28 @@
     <name>TQFoundation</name>
     <message>
         <source>https://tqstudio.example/privacy-policy-en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/privacy-policy-en</translation>
     </message>
     <message>
         <source>https://tqstudio.example/contact-en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/contact-en</translation>
     </message>
     <message>
         <source>https://tqstudio.example/en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/en</translation>
     </message>
     <message>
         <source>ICP-2099000001-</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Begins the number under which an app is filed in mainland China; only Chinese gives it in full.</extracomment>
+        <translation>ICP-2099000001-</translation>
     </message>
     <message>
         <source>More Apps I Developed</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row that leads to the developer&apos;s other apps.</extracomment>
+        <translation>開発したほかのアプリ</translation>
     </message>
     <message>
         <source>Welcome to the Hazel Grid.
@@ -29,49 +34,68 @@
 The game is an infinite, two-dimensional orthogonal grid of square cells, each of which is in one of two possible states, live or dead.
 
 At each step in time, the following transitions occur:</source>
-        <translation type="unfinished"></translation>
+        <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
+        <translation>Hazel Gridへようこそ。
+
+ここは正方形のセルが並ぶ、無限に広がる二次元の格子です。それぞれのセルは「生」か「死」のどちらかの状態にあります。
+
+時間が一つ進むごとに、次の変化が起こります。</translation>
     </message>
     <message>
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
-        <translation type="unfinished"></translation>
+        <translation>1.
+
+生きているセルに隣り合う生きたセルが二つ未満なら、そのセルは過疎によって死滅します。</translation>
     </message>
     <message>
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
-        <translation type="unfinished"></translation>
+        <translation>2.
+
+生きているセルに隣り合う生きたセルが二つか三つなら、そのセルは次の世代でも生き残ります。</translation>
     </message>
     <message>
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
-        <translation type="unfinished"></translation>
+        <translation>3.
+
+生きているセルに隣り合う生きたセルが四つ以上なら、そのセルは過密によって死滅します。</translation>
     </message>
     <message>
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
-        <translation type="unfinished"></translation>
+        <translation>4.
+
+死んでいるセルに隣り合う生きたセルがちょうど三つなら、そこに新しいセルが誕生します。</translation>
     </message>
     <message>
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
-        <translation type="unfinished"></translation>
+        <translation>それでは、Hazel Gridをお楽しみください。
+
+敬具</translation>
     </message>
     <message>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
-        <translation type="unfinished"></translation>
+        <translation>「青嵐」へようこそ。
+
+「青嵐」は、漢字を一文字ずつ入力し、画と筆順を手がかりに、六回以内に正解の漢字を当てるゲームです。</translation>
     </message>
     <message>
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
-        <translation type="unfinished"></translation>
+        <translation>有効な漢字を一文字入力し、改行ボタンを押して送信してください。
+
+送信するたびに、画の色が変わることがあります。</translation>
     </message>
     <message>
         <source>绿色，
@@ -79,7 +103,11 @@ Best regards.</source>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
-        <translation type="unfinished"></translation>
+        <translation>緑色
+
+正解の漢字にその画が含まれ、筆順も合っています。
+
+正解の漢字と送信した漢字の両方に、該当する画がすべて表示されます。</translation>
     </message>
     <message>
         <source>灰色，
@@ -87,41 +115,54 @@ Best regards.</source>
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
-        <translation type="unfinished"></translation>
+        <translation>灰色
+
+正解の漢字にその画は含まれますが、筆順が違います。
+
+同じ画がいくつもある場合、正解の漢字には一度だけ、送信した漢字にはすべて表示されます。</translation>
     </message>
     <message>
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
-        <translation type="unfinished"></translation>
+        <translation>それでは「青嵐」をお楽しみください。
+
+時節柄、どうぞご自愛ください。</translation>
     </message>
     <message>
         <source>Privacy Policy</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>プライバシーポリシー</translation>
     </message>
     <message>
         <source>Contact</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen that leads to writing to the developer.</extracomment>
+        <translation>お問い合わせ</translation>
     </message>
     <message>
         <source>Rate on the App Store</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>App Storeで評価する</translation>
     </message>
     <message>
         <source>Follow me on Social Media Platforms</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>SNSでフォローする</translation>
     </message>
     <message>
         <source>Browse My Personal Website</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>個人サイトを見る</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Stands before the version number, as in &quot;Version 2.3.1(57)&quot;.</extracomment>
+        <translation>バージョン</translation>
     </message>
     <message>
         <source>Contact: </source>
-        <translation type="unfinished"></translation>
+        <extracomment>Begins the subject of a feedback mail, before the app&apos;s name; ends in one blank.</extracomment>
+        <translation>お問い合わせ： </translation>
     </message>
 </context>
 </TS>

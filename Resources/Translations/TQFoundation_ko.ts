@@ -5,23 +5,28 @@
     <name>TQFoundation</name>
     <message>
         <source>https://tqstudio.example/privacy-policy-en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/privacy-policy-en</translation>
     </message>
     <message>
         <source>https://tqstudio.example/contact-en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/contact-en</translation>
     </message>
     <message>
         <source>https://tqstudio.example/en</source>
-        <translation type="unfinished"></translation>
+        <extracomment>A page of the website: the page in this language if the site has one, else the same address.</extracomment>
+        <translation>https://tqstudio.example/en</translation>
     </message>
     <message>
         <source>ICP-2099000001-</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Begins the number under which an app is filed in mainland China; only Chinese gives it in full.</extracomment>
+        <translation>ICP-2099000001-</translation>
     </message>
     <message>
         <source>More Apps I Developed</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row that leads to the developer&apos;s other apps.</extracomment>
+        <translation>제가 만든 다른 앱</translation>
     </message>
     <message>
         <source>Welcome to the Hazel Grid.
@@ -29,49 +34,68 @@
 The game is an infinite, two-dimensional orthogonal grid of square cells, each of which is in one of two possible states, live or dead.
 
 At each step in time, the following transitions occur:</source>
-        <translation type="unfinished"></translation>
+        <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
+        <translation>Hazel Grid에 오신 것을 환영합니다.
+
+이곳은 정사각형 세포로 이루어진 무한한 2차원 직교 격자이며, 각 세포는 살아 있거나 죽어 있는 두 가지 상태 중 하나입니다.
+
+시간이 한 단계 흐를 때마다 다음과 같은 변화가 일어납니다.</translation>
     </message>
     <message>
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
-        <translation type="unfinished"></translation>
+        <translation>1.
+
+살아 있는 세포는 살아 있는 이웃이 둘보다 적으면 인구 부족처럼 죽습니다.</translation>
     </message>
     <message>
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
-        <translation type="unfinished"></translation>
+        <translation>2.
+
+살아 있는 세포는 살아 있는 이웃이 둘이나 셋이면 다음 세대까지 살아남습니다.</translation>
     </message>
     <message>
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
-        <translation type="unfinished"></translation>
+        <translation>3.
+
+살아 있는 세포는 살아 있는 이웃이 셋보다 많으면 인구 과잉처럼 죽습니다.</translation>
     </message>
     <message>
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
-        <translation type="unfinished"></translation>
+        <translation>4.
+
+죽은 세포는 살아 있는 이웃이 정확히 셋이면 번식하듯 살아납니다.</translation>
     </message>
     <message>
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
-        <translation type="unfinished"></translation>
+        <translation>이제 Hazel Grid를 즐겨 보세요.
+
+감사합니다.</translation>
     </message>
     <message>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
-        <translation type="unfinished"></translation>
+        <translation>‘청람(青岚)’에 오신 것을 환영합니다.
+
+‘청람’은 한자를 한 글자씩 입력하면서 획과 필순을 단서로 여섯 번 안에 정답 한자를 맞히는 게임입니다.</translation>
     </message>
     <message>
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
-        <translation type="unfinished"></translation>
+        <translation>올바른 한자 한 글자를 입력하고 리턴 버튼을 눌러 제출해 주세요.
+
+제출할 때마다 글자의 획 색깔이 바뀔 수 있습니다.</translation>
     </message>
     <message>
         <source>绿色，
@@ -79,7 +103,11 @@ Best regards.</source>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
-        <translation type="unfinished"></translation>
+        <translation>초록색
+
+정답 글자에 이 획이 들어 있고 필순도 맞다는 뜻입니다.
+
+정답 글자와 제출한 글자 양쪽에 모두 표시됩니다.</translation>
     </message>
     <message>
         <source>灰色，
@@ -87,41 +115,54 @@ Best regards.</source>
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
-        <translation type="unfinished"></translation>
+        <translation>회색
+
+정답 글자에 이 획이 들어 있지만 필순이 맞지 않다는 뜻입니다.
+
+이 획들이 서로 같으면 정답 글자에는 한 번만 표시되고, 제출한 글자에는 모두 표시됩니다.</translation>
     </message>
     <message>
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
-        <translation type="unfinished"></translation>
+        <translation>이제 ‘청람’을 즐겨 주세요.
+
+늘 평안하시기를 바랍니다.</translation>
     </message>
     <message>
         <source>Privacy Policy</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>개인정보 처리방침</translation>
     </message>
     <message>
         <source>Contact</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen that leads to writing to the developer.</extracomment>
+        <translation>문의하기</translation>
     </message>
     <message>
         <source>Rate on the App Store</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>App Store에서 평가하기</translation>
     </message>
     <message>
         <source>Follow me on Social Media Platforms</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>소셜 미디어에서 팔로우하기</translation>
     </message>
     <message>
         <source>Browse My Personal Website</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Title of a row of the More screen.</extracomment>
+        <translation>개인 웹사이트 둘러보기</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <extracomment>Stands before the version number, as in &quot;Version 2.3.1(57)&quot;.</extracomment>
+        <translation>버전</translation>
     </message>
     <message>
         <source>Contact: </source>
-        <translation type="unfinished"></translation>
+        <extracomment>Begins the subject of a feedback mail, before the app&apos;s name; ends in one blank.</extracomment>
+        <translation>문의: </translation>
     </message>
 </context>
 </TS>

@@ -88,8 +88,16 @@ QString TQMore::moreAppUrl()
 
 QString TQMore::versionText()
 {
-    static const QString text =
-        localized(MoreKeys::version) + u' ' + TQApp::version() + u'(' + TQApp::buildNumber() + u')';
+    // Statement by statement, because the operands of one expression would be read in any order.
+    static const QString text = [] {
+        QString line = localized(MoreKeys::version);
+        line += u' ';
+        line += TQApp::version();
+        line += u'(';
+        line += TQApp::buildNumber();
+        line += u')';
+        return line;
+    }();
     return text;
 }
 

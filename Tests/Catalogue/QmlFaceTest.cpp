@@ -35,10 +35,12 @@ TEST_F(QmlFace, EveryCaseHasItsProperty)
 TEST_F(QmlFace, AllCasesCanBeGoneThroughInOrder)
 {
     EXPECT_EQ(read("int", "TQApp.allCases.length"), QVariant(10));
-    EXPECT_EQ(read("string", "TQApp.allCases[0].id + TQApp.allCases[9].id"), QVariant(QStringLiteral("99900000019990000010")));
+    EXPECT_EQ(read("string", "TQApp.allCases[0].id + TQApp.allCases[9].id"),
+              QVariant(QStringLiteral("99900000019990000010")));
     EXPECT_EQ(read("string", "TQApp.allCases.map(app => app.id).join()"),
-              read("string", "[TQApp.larch, TQApp.juniper, TQApp.hazel, TQApp.ginkgo, TQApp.fir, TQApp.elm, "
-                             "TQApp.dogwood, TQApp.cedar, TQApp.birch, TQApp.alder].map(app => app.id).join()"));
+              read("string",
+                   "[TQApp.larch, TQApp.juniper, TQApp.hazel, TQApp.ginkgo, TQApp.fir, TQApp.elm, "
+                   "TQApp.dogwood, TQApp.cedar, TQApp.birch, TQApp.alder].map(app => app.id).join()"));
 }
 
 TEST_F(QmlFace, ACaseHasAllItsMembers)
@@ -49,7 +51,8 @@ TEST_F(QmlFace, ACaseHasAllItsMembers)
     EXPECT_EQ(read("int", "TQApp.hazel.guideText.length"), QVariant(6));
     EXPECT_EQ(read("string", "TQApp.larch.reviewLink"),
               QVariant(QStringLiteral("https://apps.apple.com/app/id9990000001?action=write-review")));
-    EXPECT_EQ(read("string", "TQApp.larch.appLink"), QVariant(QStringLiteral("https://apps.apple.com/app/id9990000001")));
+    EXPECT_EQ(read("string", "TQApp.larch.appLink"),
+              QVariant(QStringLiteral("https://apps.apple.com/app/id9990000001")));
 }
 
 TEST_F(QmlFace, ATintAnswersForLightAndDark)
@@ -66,18 +69,21 @@ TEST_F(QmlFace, TheHostsIdentityIsThere)
     platform->infoDictionary = {{QStringLiteral("CFBundleDisplayName"), QStringLiteral("Grove")},
                                 {QStringLiteral("CFBundleShortVersionString"), QStringLiteral("2.3.1")},
                                 {QStringLiteral("CFBundleVersion"), QStringLiteral("57")}};
-    EXPECT_EQ(read("string", "TQApp.name + TQApp.version + TQApp.buildNumber"), QVariant(QStringLiteral("Grove2.3.157")));
+    EXPECT_EQ(read("string", "TQApp.name + TQApp.version + TQApp.buildNumber"),
+              QVariant(QStringLiteral("Grove2.3.157")));
     EXPECT_EQ(read("string", "TQMore.versionText"), QVariant(QStringLiteral("Version 2.3.1(57)")));
 }
 
 TEST_F(QmlFace, MoreTextsAndLinksAreThoseOfCpp)
 {
-    EXPECT_EQ(read("string", "[TQMore.privacyText, TQMore.feedbackText, TQMore.reviewText, TQMore.threadsText, "
-                             "TQMore.blogText, TQMore.moreAppText].join('|')"),
+    EXPECT_EQ(read("string",
+                   "[TQMore.privacyText, TQMore.feedbackText, TQMore.reviewText, TQMore.threadsText, "
+                   "TQMore.blogText, TQMore.moreAppText].join('|')"),
               QVariant(QStringLiteral("Privacy Policy|Contact|Rate on the App Store|Follow me on Social Media "
                                       "Platforms|Browse My Personal Website|More Apps I Developed")));
-    EXPECT_EQ(read("string", "[TQMore.privacyUrl, TQMore.feedbackUrl, TQMore.threadsUrl, TQMore.blogUrl, "
-                             "TQMore.moreAppUrl].join('|')"),
+    EXPECT_EQ(read("string",
+                   "[TQMore.privacyUrl, TQMore.feedbackUrl, TQMore.threadsUrl, TQMore.blogUrl, "
+                   "TQMore.moreAppUrl].join('|')"),
               QVariant(QStringLiteral("https://tqstudio.example/privacy-policy-en|https://tqstudio.example/contact-en|"
                                       "https://links.example/tqstudio|https://tqstudio.example/en|"
                                       "https://apps.apple.com/developer/tq-studio/id9990000000")));
@@ -87,13 +93,15 @@ TEST_F(QmlFace, AFilingThatIsUndefinedOrNullIsAbsentAndAnEmptyOnePresent)
 {
     for (const char *absent : {"undefined", "null", "TQApp.alder.icp"}) {
         const QByteArray expression = QByteArray("TQMore.icpOrBlogUrl(") + absent + ")";
-        EXPECT_EQ(read("string", expression.constData()), QVariant(QStringLiteral("https://tqstudio.example/en"))) << absent;
+        EXPECT_EQ(read("string", expression.constData()), QVariant(QStringLiteral("https://tqstudio.example/en")))
+            << absent;
     }
     EXPECT_EQ(read("string", "TQMore.icpOrBlogUrl('')"), QVariant(QStringLiteral("https://beian.miit.gov.cn")));
     EXPECT_EQ(read("string", "TQMore.icpOrBlogText(TQApp.hazel.icp)"), QVariant(QStringLiteral("ICP-2099000001-3A")));
     EXPECT_EQ(read("string", "TQMore.blogOrSocialText(TQApp.hazel.icp)"),
               QVariant(QStringLiteral("Browse My Personal Website")));
-    EXPECT_EQ(read("string", "TQMore.blogOrSocialUrl(undefined)"), QVariant(QStringLiteral("https://links.example/tqstudio")));
+    EXPECT_EQ(read("string", "TQMore.blogOrSocialUrl(undefined)"),
+              QVariant(QStringLiteral("https://links.example/tqstudio")));
 }
 
 TEST_F(QmlFace, AnIconOfAnyAppCanBeShown)

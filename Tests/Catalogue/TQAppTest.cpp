@@ -5,8 +5,8 @@
 #include "Languages.h"
 #include "RecordingPlatform.h"
 
-#include <QtCore/qfile.h>
 #include <QtCore/qdir.h>
+#include <QtCore/qfile.h>
 #include <QtCore/qregularexpression.h>
 #include <QtCore/qset.h>
 #include <QtCore/qtemporarydir.h>
@@ -87,39 +87,43 @@ TEST(TQApp, ParagraphsAreWordForWordWithoutATable)
     const InstalledRecordingPlatform platform;
     platform->root = Testing::emptyBundle();
     const QStringList hazel = TQApp::hazel.guideText();
-    EXPECT_TRUE(hazel[0].startsWith(QStringLiteral("Welcome to the Hazel Grid.\n\nThe game is an infinite, two-dimensional "
-                                                   "orthogonal grid of square cells, each of which is in one of two "
-                                                   "possible states, ")));
+    EXPECT_TRUE(
+        hazel[0].startsWith(QStringLiteral("Welcome to the Hazel Grid.\n\nThe game is an infinite, two-dimensional "
+                                           "orthogonal grid of square cells, each of which is in one of two "
+                                           "possible states, ")));
     EXPECT_TRUE(hazel[0].endsWith(QStringLiteral(".\n\nAt each step in time, the following transitions occur:")));
     EXPECT_EQ(hazel[0].count(QStringLiteral("\n\n")), 2);
-    EXPECT_EQ(hazel.sliced(1),
-              (QStringList{
-                  QStringLiteral("1.\n\nAny live cell with fewer than two live neighbours dies, as if by underpopulation."),
-                  QStringLiteral("2.\n\nAny live cell with two or three live neighbours lives on to the next generation."),
-                  QStringLiteral("3.\n\nAny live cell with more than three live neighbours dies, as if by overpopulation."),
-                  QStringLiteral("4.\n\nAny dead cell with exactly three live neighbours becomes a live cell, as if by "
-                                 "reproduction."),
-                  QStringLiteral("Next, please enjoy the Hazel Grid.\n\nBest regards."),
-              }));
-    EXPECT_EQ(TQApp::dogwood.guideText(),
-              (QStringList{
-                  QStringLiteral("欢迎使用「青岚」。\n\n「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正"
-                                 "确文字。"),
-                  QStringLiteral("输入一个有效中文文字，按下回车按钮提交。\n\n每次提交之后，文字的笔画颜色也许会发生变化："),
-                  QStringLiteral("绿色，\n\n表示正确文字包含此笔画，并且笔顺正确。\n\n在正确文字和所提交的文字的中都会全部显"
-                                 "示。"),
-                  QStringLiteral("灰色，\n\n代表正确文字虽然包含此笔画，但是笔顺不正确。\n\n如果这些笔画相同，在正确文字中只"
-                                 "会显示一次，在所提交的文字中则会全部显示。"),
-                  QStringLiteral("接下来请使用「青岚」。\n\n敬颂时祺。"),
-              }));
+    EXPECT_EQ(
+        hazel.sliced(1),
+        (QStringList{
+            QStringLiteral("1.\n\nAny live cell with fewer than two live neighbours dies, as if by underpopulation."),
+            QStringLiteral("2.\n\nAny live cell with two or three live neighbours lives on to the next generation."),
+            QStringLiteral("3.\n\nAny live cell with more than three live neighbours dies, as if by overpopulation."),
+            QStringLiteral("4.\n\nAny dead cell with exactly three live neighbours becomes a live cell, as if by "
+                           "reproduction."),
+            QStringLiteral("Next, please enjoy the Hazel Grid.\n\nBest regards."),
+        }));
+    EXPECT_EQ(
+        TQApp::dogwood.guideText(),
+        (QStringList{
+            QStringLiteral("欢迎使用「青岚」。\n\n「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正"
+                           "确文字。"),
+            QStringLiteral("输入一个有效中文文字，按下回车按钮提交。\n\n每次提交之后，文字的笔画颜色也许会发生变化："),
+            QStringLiteral("绿色，\n\n表示正确文字包含此笔画，并且笔顺正确。\n\n在正确文字和所提交的文字的中都会全部显"
+                           "示。"),
+            QStringLiteral("灰色，\n\n代表正确文字虽然包含此笔画，但是笔顺不正确。\n\n如果这些笔画相同，在正确文字中只"
+                           "会显示一次，在所提交的文字中则会全部显示。"),
+            QStringLiteral("接下来请使用「青岚」。\n\n敬颂时祺。"),
+        }));
 }
 
 TEST(TQApp, ParagraphsAreTranslatedEachOnItsOwn)
 {
     useLanguage("zh-CN");
     EXPECT_TRUE(TQApp::hazel.guideText().at(1).startsWith(QStringLiteral("1.\n\n")));
-    EXPECT_NE(TQApp::hazel.guideText().at(1), QStringLiteral("1.\n\nAny live cell with fewer than two live neighbours dies, "
-                                                             "as if by underpopulation."));
+    EXPECT_NE(TQApp::hazel.guideText().at(1),
+              QStringLiteral("1.\n\nAny live cell with fewer than two live neighbours dies, "
+                             "as if by underpopulation."));
 }
 
 TEST(TQApp, TintsAreTheLiterals)
@@ -243,8 +247,7 @@ TEST_F(HostIdentity, IsReadAnewEachTime)
 }
 
 class IconAtScale : public testing::TestWithParam<std::pair<double, int>>
-{
-};
+{};
 
 TEST_P(IconAtScale, IsThirtySixPointsSquare)
 {
@@ -258,12 +261,12 @@ TEST_P(IconAtScale, IsThirtySixPointsSquare)
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, IconAtScale,
-                         testing::Values(std::pair(1.0, 36), std::pair(1.1, 40), std::pair(1.25, 45), std::pair(1.5, 54),
-                                         std::pair(2.0, 72), std::pair(3.0, 108), std::pair(4.0, 144)));
+                         testing::Values(std::pair(1.0, 36), std::pair(1.1, 40), std::pair(1.25, 45),
+                                         std::pair(1.5, 54), std::pair(2.0, 72), std::pair(3.0, 108),
+                                         std::pair(4.0, 144)));
 
 class UnpreparedIcon : public testing::TestWithParam<double>
-{
-};
+{};
 
 TEST_P(UnpreparedIcon, IsNull)
 {
@@ -304,12 +307,8 @@ TEST(IconDeathTest, ABrokenOneStopsTheProcess)
     icon.close();
     const InstalledRecordingPlatform platform;
     platform->root = folder.path();
-    EXPECT_EXIT(
-        {
-            qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-            TQApp::fir.icon();
-        },
-        testing::KilledBySignal(Testing::trapSignal), "^$");
+    // The image decoder may say what is wrong with the file.
+    EXPECT_EXIT(TQApp::fir.icon(), testing::KilledBySignal(Testing::trapSignal), "");
 }
 
 TEST(TQAppDeathTest, ANumberThatIsNoCaseStopsTheProcess)

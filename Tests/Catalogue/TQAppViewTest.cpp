@@ -114,7 +114,9 @@ TEST_F(AppRow, AnIconThatCannotBePreparedLeavesNoSlot)
 
 TEST_F(AppRow, EachBuildReadsItsIconsAnew)
 {
-    { const QmlWindow host(row(TQApp::hazel)); }
+    {
+        const QmlWindow host(row(TQApp::hazel));
+    }
     platform->root = QStringLiteral(":/NoSuchBundle");
     EXPECT_EXIT(const QmlWindow host(row(TQApp::hazel)), testing::KilledBySignal(SIGILL), "");
 }
@@ -229,7 +231,8 @@ TEST_F(AppRow, AWheelScrollsTheRowAndAtItsEndsWhatLiesAroundIt)
 
 TEST_F(AppRow, MirroredItStartsAtTheRightAndRunsToTheLeft)
 {
-    QmlWindow host(row(TQApp::hazel, "width: 200; LayoutMirroring.enabled: true; LayoutMirroring.childrenInherit: true"));
+    QmlWindow host(
+        row(TQApp::hazel, "width: 200; LayoutMirroring.enabled: true; LayoutMirroring.childrenInherit: true"));
     const QList<QQuickItem *> icons = shownIcons(host);
     ASSERT_EQ(icons.size(), 9);
     EXPECT_EQ(appOf(icons.last()), TQApp::larch);
@@ -242,8 +245,9 @@ TEST_F(AppRow, MirroredItStartsAtTheRightAndRunsToTheLeft)
 
 TEST_F(AppRow, MirroredInAWideWindowItLiesAtTheRight)
 {
-    QmlWindow host(row(TQApp::hazel, "width: 500; LayoutMirroring.enabled: true; LayoutMirroring.childrenInherit: true"),
-                   {500, 200});
+    QmlWindow host(
+        row(TQApp::hazel, "width: 500; LayoutMirroring.enabled: true; LayoutMirroring.childrenInherit: true"),
+        {500, 200});
     EXPECT_EQ(shownIcons(host).last()->mapToScene({0, 0}).x(), 500 - 16 - 36);
 }
 

@@ -58,8 +58,9 @@ TEST_F(More, TheVersionLineHasNoBlankBeforeTheBuild)
     platform->infoDictionary = {{QStringLiteral("CFBundleShortVersionString"), QStringLiteral("2.3.1")},
                                 {QStringLiteral("CFBundleVersion"), QStringLiteral("57")}};
     EXPECT_EQ(TQMore::versionText(), QStringLiteral("Version 2.3.1(57)"));
-    EXPECT_EQ(platform->calls, (QStringList{QStringLiteral("infoDictionaryValue(CFBundleShortVersionString)"),
-                                            QStringLiteral("infoDictionaryValue(CFBundleVersion)")}));
+    EXPECT_EQ(platform->calls,
+              (QStringList{QStringLiteral("infoDictionaryValue(CFBundleShortVersionString)"),
+                           QStringLiteral("infoDictionaryValue(CFBundleVersion)")}));
 }
 
 TEST_F(More, ATableThatTranslatesVersionChangesOnlyTheWordBeforeTheBlank)
@@ -125,7 +126,8 @@ TEST_F(More, InChinaWithoutAFilingTheRowsAreAsElsewhere)
 TEST_F(More, OutsideChinaAFilingIsIgnored)
 {
     platform->storefront = QStringLiteral("USA");
-    for (const std::optional<QString> &icp : {std::optional(filing), std::optional(QString()), std::optional<QString>()}) {
+    for (const std::optional<QString> &icp :
+         {std::optional(filing), std::optional(QString()), std::optional<QString>()}) {
         EXPECT_EQ(TQMore::icpOrBlogText(icp), TQMore::blogText());
         EXPECT_EQ(TQMore::icpOrBlogUrl(icp), TQMore::blogUrl());
         EXPECT_EQ(TQMore::blogOrSocialText(icp), TQMore::threadsText());

@@ -48,9 +48,8 @@ int main()
     installPlatform(std::move(owned));
 
     const bool same = allReadTheSame(screenWidth) && allReadTheSame(screenHeight) && allReadTheSame(screenScale)
-                      && allReadTheSame(isChnNumber) && allReadTheSame(TQMore::privacyText)
-                      && allReadTheSame(TQMore::versionText)
-                      && allReadTheSame([] { return TQMore::icpOrBlogUrl(std::nullopt); });
+        && allReadTheSame(isChnNumber) && allReadTheSame(TQMore::privacyText) && allReadTheSame(TQMore::versionText)
+        && allReadTheSame([] { return TQMore::icpOrBlogUrl(std::nullopt); });
     const bool readOnce = platform.storefrontReads == 1;
     std::printf("same values: %d, storefront read once: %d\n", same, readOnce);
     return same && readOnce ? 0 : 1;

@@ -10,8 +10,7 @@ namespace {
 using Testing::InstalledRecordingPlatform;
 
 class Region : public testing::TestWithParam<std::pair<const char *, bool>>
-{
-};
+{};
 
 TEST_P(Region, IsMainlandChinaForChnAndWhereNothingIsKnown)
 {

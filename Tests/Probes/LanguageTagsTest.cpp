@@ -17,7 +17,8 @@ QStringList names(std::initializer_list<const char *> tags)
 
 TEST(LanguageTags, NameTheScriptThenTheTerritoryThenTheLanguage)
 {
-    EXPECT_EQ(names({"zh-CN"}), (QStringList{QStringLiteral("zh_Hans"), QStringLiteral("zh_CN"), QStringLiteral("zh")}));
+    EXPECT_EQ(names({"zh-CN"}),
+              (QStringList{QStringLiteral("zh_Hans"), QStringLiteral("zh_CN"), QStringLiteral("zh")}));
     EXPECT_EQ(names({"pt-BR"}).at(1), QStringLiteral("pt_BR"));
 }
 

@@ -10,10 +10,12 @@ class RecordingTimer final : public RepeatingTimer, public std::enable_shared_fr
 {
 public:
     RecordingTimer(RecordingPlatform &platform, double interval, std::function<void()> tick)
-        : m_platform(platform), m_interval(interval), m_made(platform.m_now), m_next(m_made + interval),
+        : m_platform(platform),
+          m_interval(interval),
+          m_made(platform.m_now),
+          m_next(m_made + interval),
           m_tick(std::move(tick))
-    {
-    }
+    {}
 
     void fire() override
     {
@@ -44,10 +46,7 @@ public:
     }
 
 private:
-    bool isScheduled()
-    {
-        return std::ranges::count(m_platform.m_scheduled, shared_from_this()) > 0;
-    }
+    bool isScheduled() { return std::ranges::count(m_platform.m_scheduled, shared_from_this()) > 0; }
 
     void run()
     {

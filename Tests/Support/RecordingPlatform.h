@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PrintQt.h"
+
 #include <TQFoundation/Platform.h>
 
 #include <QtCore/qmap.h>
@@ -13,11 +15,11 @@ namespace TQFoundation::Testing {
 
 class RecordingTimer;
 
-/// A platform for tests: answers what the test sets, writes every call to one ordered list, and stands still in time until
-/// it is driven by hand.
+/// A platform for tests: answers what the test sets, writes every call to one ordered list, and stands still in time
+/// until it is driven by hand.
 ///
-/// Nothing of it leaves the process: no browser opens, no setting is stored. Main thread, except that the storefront, the
-/// dictionary, the media time and the resource root may be read from any thread while calls are not recorded.
+/// Nothing of it leaves the process: no browser opens, no setting is stored. Main thread, except that the storefront,
+/// the dictionary, the media time and the resource root may be read from any thread while calls are not recorded.
 class RecordingPlatform : public Platform
 {
 public:

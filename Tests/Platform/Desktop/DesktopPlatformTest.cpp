@@ -79,7 +79,8 @@ TEST_F(DesktopPlatformTest, MediaTimeNeverGoesBack)
 
 TEST_F(DesktopHostInfo, AFileBesideTheExecutableIsTheDictionary)
 {
-    const HostList list(listOf("<key>CFBundleName</key><string>Grove</string><key>CFBundleVersion</key><integer>57</integer>"));
+    const HostList list(
+        listOf("<key>CFBundleName</key><string>Grove</string><key>CFBundleVersion</key><integer>57</integer>"));
     EXPECT_EQ(info("CFBundleName"), QVariant(QStringLiteral("Grove")));
     EXPECT_EQ(info("CFBundleVersion").typeId(), QMetaType::LongLong);
     EXPECT_FALSE(info("CFBundleDisplayName").isValid());
@@ -131,7 +132,8 @@ TEST_F(DesktopPlatformTest, ASettingIsReadBackAndOnDiskOnceTheEventLoopRuns)
     platform.setUserDefault(QStringLiteral("Flag"), true);
     EXPECT_TRUE(platform.userDefault(QStringLiteral("Flag")).toBool());
 
-    const QString file = QSettings(QCoreApplication::organizationName(), QCoreApplication::applicationName()).fileName();
+    const QString file =
+        QSettings(QCoreApplication::organizationName(), QCoreApplication::applicationName()).fileName();
     QCoreApplication::processEvents();
     QFile stored(file);
     ASSERT_TRUE(stored.open(QIODevice::ReadOnly)) << file.toStdString();
@@ -225,7 +227,7 @@ TEST_F(DesktopPlatformTest, ATimerThatWasStalledTicksOnceAndKeepsItsGrid)
     timer->schedule();
     QElapsedTimer busy;
     busy.start();
-    while (busy.elapsed() < 250) { } // blocks the event loop on purpose
+    while (busy.elapsed() < 250) {} // blocks the event loop on purpose
     ASSERT_TRUE(QTest::qWaitFor([&] { return moments.size() >= 2; }));
     timer->invalidate();
     EXPECT_GE(moments[0], 0.25);
@@ -239,7 +241,7 @@ TEST_F(DesktopPlatformTest, ATimerEndsWithTheApplication)
         {
             auto held = std::make_shared<int>(0);
             platform.makeTimer(10, [held] {})->schedule();
-            delete QCoreApplication::instance();
+            QCoreApplication::instance()->~QCoreApplication();
             std::_Exit(held.use_count() == 1 ? 0 : 1);
         },
         testing::ExitedWithCode(0), "");

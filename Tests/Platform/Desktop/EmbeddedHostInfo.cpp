@@ -12,7 +12,7 @@ int main(int argc, char *argv[])
     using TQFoundation::TQApp;
     const auto isAsWritten = [] {
         return TQApp::name() == QStringLiteral("A <b>& \"c\" ; $<1:x> @y@ ${z} é") && TQApp::version().isEmpty()
-               && TQApp::buildNumber().isEmpty();
+            && TQApp::buildNumber().isEmpty();
     };
     const bool withoutApplication = isAsWritten();
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -14,7 +14,7 @@ QByteArray list(const QByteArray &dictionary)
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
            "<!DOCTYPE plist PUBLIC \"-//X//DTD PLIST 1.0//EN\" \"http://localhost/list.dtd\">\n"
            "<plist version=\"1.0\"><dict>"
-           + dictionary + "</dict></plist>\n";
+        + dictionary + "</dict></plist>\n";
 }
 
 TEST(InfoPlist, ValuesKeepTheirTypes)
@@ -56,8 +56,7 @@ TEST(InfoPlist, CommentsAndLineBreaksBetweenElementsDoNotMatter)
 }
 
 class BrokenInfoPlist : public testing::TestWithParam<QByteArray>
-{
-};
+{};
 
 TEST_P(BrokenInfoPlist, HasNoEntries)
 {
@@ -89,8 +88,8 @@ TEST(InfoPlist, OneThatDeclaresEntitiesHasNoEntries)
     bomb += "]><plist><dict><key>CFBundleName</key><string>&e9;</string></dict></plist>";
     EXPECT_TRUE(parseInfoPlist(bomb).isEmpty());
 
-    const QByteArray wide = "<!DOCTYPE plist [<!ENTITY e \"" + QByteArray(4000, 'x') + "\">]><plist><dict><key>k</key><string>"
-                            + QByteArray("&e;").repeated(200'000) + "</string></dict></plist>";
+    const QByteArray wide = "<!DOCTYPE plist [<!ENTITY e \"" + QByteArray(4000, 'x')
+        + "\">]><plist><dict><key>k</key><string>" + QByteArray("&e;").repeated(200'000) + "</string></dict></plist>";
     EXPECT_TRUE(parseInfoPlist(wide).isEmpty());
 }
 
@@ -113,8 +112,9 @@ TEST(InfoPlist, OneThatIsNestedTooDeeplyHasNoEntries)
 
 TEST(InfoPlist, OneThatIsTooLargeHasNoEntries)
 {
-    const auto sized = [](qsizetype size) {
-        return list("<key>k</key><string>v</string>") + QByteArray(size - list("<key>k</key><string>v</string>").size(), ' ');
+    const auto sized = [](qsizetype size) -> QByteArray {
+        return list("<key>k</key><string>v</string>")
+            + QByteArray(size - list("<key>k</key><string>v</string>").size(), ' ');
     };
     EXPECT_EQ(parseInfoPlist(sized(largestInfoPlist)).size(), 1);
     EXPECT_TRUE(parseInfoPlist(sized(largestInfoPlist + 1)).isEmpty());
@@ -122,7 +122,8 @@ TEST(InfoPlist, OneThatIsTooLargeHasNoEntries)
 
 TEST(InfoPlist, EveryTruncationIsReadWholeOrNotAtAll)
 {
-    const QByteArray whole = list("<key>CFBundleName</key><string>Gr\xc3\xb6ve</string><key>n</key><integer>1</integer>");
+    const QByteArray whole =
+        list("<key>CFBundleName</key><string>Gr\xc3\xb6ve</string><key>n</key><integer>1</integer>");
     const QVariantMap map = parseInfoPlist(whole);
     ASSERT_EQ(map.size(), 2);
     for (qsizetype length = 0; length < whole.size(); ++length) {
@@ -138,7 +139,8 @@ TEST(InfoPlist, RandomDamageNeitherCrashesNorHangs)
     for (int round = 0; round < 20'000; ++round) {
         QByteArray damaged = whole;
         for (unsigned flips = 1 + engine() % 8; flips > 0; --flips)
-            damaged[static_cast<qsizetype>(engine() % static_cast<unsigned>(damaged.size()))] = static_cast<char>(engine());
+            damaged[static_cast<qsizetype>(engine() % static_cast<unsigned>(damaged.size()))] =
+                static_cast<char>(engine());
         parseInfoPlist(damaged);
     }
 }

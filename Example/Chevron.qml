@@ -12,21 +12,24 @@ Item {
     implicitHeight: size
     rotation: LayoutMirroring.enabled !== back ? 180 : 0
 
-    Repeater {
-        model: [45, -45]
+    Stroke {
+        rotation: 45
+    }
 
-        Rectangle {
-            required property real modelData
+    Stroke {
+        rotation: -45
+    }
 
-            x: root.width - width + height * 0.15
-            y: root.height / 2 - height / 2
-            width: root.size * 0.72
-            height: Math.max(2, root.size / 6)
-            radius: height / 2
-            color: root.color
-            antialiasing: true
-            transformOrigin: Item.Right
-            rotation: modelData
-        }
+    component Stroke: Rectangle {
+        readonly property Chevron arrow: parent as Chevron
+
+        x: arrow.width - width + height * 0.15
+        y: arrow.height / 2 - height / 2
+        width: arrow.size * 0.72
+        height: Math.max(2, arrow.size / 6)
+        radius: height / 2
+        color: arrow.color
+        antialiasing: true
+        transformOrigin: Item.Right
     }
 }

@@ -79,8 +79,8 @@ FocusScope {
         focusPolicy: Qt.StrongFocus
         text: qsTr("More")
         Accessible.name: text
-        Keys.onReturnPressed: click()
-        Keys.onEnterPressed: click()
+        Keys.onReturnPressed: more.clicked()
+        Keys.onEnterPressed: more.clicked()
         onClicked: root.moreRequested()
 
         background: Rectangle {

@@ -6,13 +6,9 @@ ApplicationWindow {
     id: root
 
     required property tqApp app
+    required property url iconSource
     property bool animated: true
     property string screenName: "home"
-
-    function iconOf(app: tqApp): url {
-        const names = ["larch-page", "juniper-page", "hazel-page", "ginkgo-page", "fir", "elm-page", "dogwood", "cedar", "birch", "alder-page"];
-        return "qrc:/Icons/" + names[TQApp.allCases.findIndex(candidate => candidate.id === app.id)] + ".png";
-    }
 
     visible: true
     title: TQApp.name
@@ -20,7 +16,7 @@ ApplicationWindow {
     minimumWidth: 240
     minimumHeight: 240
 
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
     onScreenNameChanged: {
@@ -40,22 +36,20 @@ ApplicationWindow {
         onCurrentItemChanged: if (currentItem) currentItem.forceActiveFocus()
     }
 
-    Component {
+    HomeScreen {
         id: homeScreen
 
-        HomeScreen {
-            app: root.app
-            iconSource: root.iconOf(root.app)
-            onMoreRequested: root.screenName = "more"
-        }
+        visible: false
+        app: root.app
+        iconSource: root.iconSource
+        onMoreRequested: root.screenName = "more"
     }
 
-    Component {
+    MoreScreen {
         id: moreScreen
 
-        MoreScreen {
-            app: root.app
-            onBackRequested: root.screenName = "home"
-        }
+        visible: false
+        app: root.app
+        onBackRequested: root.screenName = "home"
     }
 }

@@ -15,11 +15,16 @@ AbstractButton {
 
     Accessible.role: Accessible.Link
     Accessible.name: text
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
 
-    background: Rectangle {
-        color: root.down || root.visualFocus ? Theme.pressed : "transparent"
+    background: Item {
+        // Inset, so that it keeps clear of the card's round corners.
+        Rectangle {
+            anchors { fill: parent; margins: 4 }
+            radius: Theme.corner - 4
+            color: root.down || root.visualFocus ? Theme.pressed : "transparent"
+        }
 
         Rectangle {
             visible: !root.last
@@ -29,25 +34,20 @@ AbstractButton {
         }
     }
 
-    contentItem: Item {
-        implicitHeight: title.implicitHeight
+    contentItem: Text {
+        // Room for the chevron.
+        leftPadding: root.mirrored ? 24 : 0
+        rightPadding: root.mirrored ? 0 : 24
+        text: root.text
+        textFormat: Text.PlainText
+        wrapMode: Text.Wrap
+        horizontalAlignment: Text.AlignLeft
+        verticalAlignment: Text.AlignVCenter
+        font.pixelSize: 17
+        color: Theme.text
+    }
 
-        Text {
-            id: title
-
-            anchors { left: parent.left; right: chevron.left; rightMargin: 12; verticalCenter: parent.verticalCenter }
-            text: root.text
-            textFormat: Text.PlainText
-            wrapMode: Text.Wrap
-            horizontalAlignment: Text.AlignLeft
-            font.pixelSize: 17
-            color: Theme.text
-        }
-
-        Chevron {
-            id: chevron
-
-            anchors { right: parent.right; verticalCenter: parent.verticalCenter }
-        }
+    Chevron {
+        anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
     }
 }

@@ -35,8 +35,8 @@ FocusScope {
             height: 44
             focusPolicy: Qt.StrongFocus
             Accessible.name: qsTr("Back")
-            Keys.onReturnPressed: click()
-            Keys.onEnterPressed: click()
+            Keys.onReturnPressed: back.clicked()
+            Keys.onEnterPressed: back.clicked()
             onClicked: root.backRequested()
 
             background: Rectangle {
@@ -129,11 +129,15 @@ FocusScope {
                     link: TQMore.moreAppUrl
                 }
 
-                Rectangle {
+                Item {
                     width: parent.width
                     height: apps.height + 2 * Theme.margin
-                    radius: Theme.corner
-                    color: apps.activeFocus ? Theme.pressed : "transparent"
+
+                    Rectangle {
+                        anchors { fill: parent; margins: 4 }
+                        radius: Theme.corner - 4
+                        color: apps.activeFocus ? Theme.pressed : "transparent"
+                    }
 
                     TQAppView {
                         id: apps

@@ -20,6 +20,5 @@ Item {
         id: column
 
         width: parent.width
-        layer.enabled: false
     }
 }

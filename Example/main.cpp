@@ -187,7 +187,10 @@ int main(int argc, char *argv[])
     QCoreApplication::installTranslator(&translator);
 
     QQmlApplicationEngine engine;
+    const auto *caseName = QMetaEnum::fromType<TQApp::Case>().valueToKey(static_cast<int>(TQApp::Case(options.app)));
+    const QUrl iconSource(u"qrc:/Icons/" + QLatin1String(caseName) + u".png");
     engine.setInitialProperties({{QStringLiteral("app"), QVariant::fromValue(options.app)},
+                                 {QStringLiteral("iconSource"), iconSource},
                                  {QStringLiteral("width"), options.size.width()},
                                  {QStringLiteral("height"), options.size.height()},
                                  {QStringLiteral("animated"), options.shots.isEmpty()}});

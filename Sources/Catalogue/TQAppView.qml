@@ -12,6 +12,15 @@ Flickable {
     readonly property real step: 44 // one icon and one gap
     readonly property real farthest: Math.max(0, contentWidth - width)
 
+    function siblings(own: tqApp): var {
+        const apps = [];
+        for (const candidate of TQApp.allCases) {
+            if (candidate.id !== own.id)
+                apps.push(candidate);
+        }
+        return apps;
+    }
+
     function scrollTo(x: real): bool {
         const target = Math.max(0, Math.min(farthest, x));
         if (target === contentX)
@@ -62,7 +71,7 @@ Flickable {
         spacing: 8
 
         Repeater {
-            model: TQApp.allCases.filter(candidate => candidate.id !== root.app.id)
+            model: root.siblings(root.app)
 
             TQAppIcon {
                 required property tqApp modelData

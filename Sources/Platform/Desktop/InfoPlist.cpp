@@ -131,13 +131,13 @@ std::optional<QVariant> readDocument(QXmlStreamReader &xml)
 
 } // namespace
 
-QVariantMap parseInfoPlist(const QByteArray &bytes)
+QVariantMap parseInfoPlist(const QByteArray &xml)
 {
-    if (bytes.size() > largestInfoPlist)
+    if (xml.size() > largestInfoPlist)
         return {};
-    QXmlStreamReader xml(bytes);
-    const auto root = readDocument(xml);
-    if (!root || xml.hasError())
+    QXmlStreamReader reader(xml);
+    const auto root = readDocument(reader);
+    if (!root || reader.hasError())
         return {};
     return root->toMap();
 }

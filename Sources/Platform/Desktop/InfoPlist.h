@@ -13,6 +13,6 @@ namespace TQFoundation {
 QVariantMap parseInfoPlist(const QByteArray &xml);
 
 /// Bytes; real lists have a few thousand.
-inline constexpr qsizetype largestInfoPlist = 1024 * 1024;
+inline constexpr qsizetype largestInfoPlist = 1 << 20;
 
 } // namespace TQFoundation

@@ -5,7 +5,7 @@
     <name>HomeScreen</name>
     <message>
         <source>More</source>
-        <translation>더 보기</translation>
+        <translation>더보기</translation>
     </message>
 </context>
 <context>
@@ -16,7 +16,7 @@
     </message>
     <message>
         <source>More</source>
-        <translation>더 보기</translation>
+        <translation>더보기</translation>
     </message>
 </context>
 </TS>

@@ -26,7 +26,7 @@
     <message>
         <source>More Apps I Developed</source>
         <extracomment>Title of a row that leads to the developer&apos;s other apps.</extracomment>
-        <translation>開発したほかのアプリ</translation>
+        <translation>作者のほかのアプリを見る</translation>
     </message>
     <message>
         <source>Welcome to the Hazel Grid.
@@ -37,9 +37,9 @@ At each step in time, the following transitions occur:</source>
         <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
         <translation>Hazel Gridへようこそ。
 
-ここは正方形のセルが並ぶ、無限に広がる二次元の格子です。それぞれのセルは「生」か「死」のどちらかの状態にあります。
+ここは、正方形のセルが縦横に並び、どこまでも広がる二次元の格子です。セルはそれぞれ「生」か「死」のどちらかの状態にあります。
 
-時間が一つ進むごとに、次の変化が起こります。</translation>
+時間が1ステップ進むたびに、次のような変化が起こります。</translation>
     </message>
     <message>
         <source>1.
@@ -47,7 +47,7 @@ At each step in time, the following transitions occur:</source>
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
         <translation>1.
 
-生きているセルに隣り合う生きたセルが二つ未満なら、そのセルは過疎によって死滅します。</translation>
+生きているセルは、隣接する生きたセルが1つ以下なら、いわば過疎により死滅します。</translation>
     </message>
     <message>
         <source>2.
@@ -55,7 +55,7 @@ Any live cell with fewer than two live neighbours dies, as if by underpopulation
 Any live cell with two or three live neighbours lives on to the next generation.</source>
         <translation>2.
 
-生きているセルに隣り合う生きたセルが二つか三つなら、そのセルは次の世代でも生き残ります。</translation>
+生きているセルは、隣接する生きたセルが2つか3つなら、次の世代へと生き延びます。</translation>
     </message>
     <message>
         <source>3.
@@ -63,7 +63,7 @@ Any live cell with two or three live neighbours lives on to the next generation.
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
         <translation>3.
 
-生きているセルに隣り合う生きたセルが四つ以上なら、そのセルは過密によって死滅します。</translation>
+生きているセルは、隣接する生きたセルが4つ以上なら、いわば過密により死滅します。</translation>
     </message>
     <message>
         <source>4.
@@ -71,7 +71,7 @@ Any live cell with more than three live neighbours dies, as if by overpopulation
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
         <translation>4.
 
-死んでいるセルに隣り合う生きたセルがちょうど三つなら、そこに新しいセルが誕生します。</translation>
+死んでいるセルは、隣接する生きたセルがちょうど3つなら、いわば繁殖により、生きたセルになります。</translation>
     </message>
     <message>
         <source>Next, please enjoy the Hazel Grid.
@@ -79,7 +79,7 @@ Any dead cell with exactly three live neighbours becomes a live cell, as if by r
 Best regards.</source>
         <translation>それでは、Hazel Gridをお楽しみください。
 
-敬具</translation>
+どうぞ、素敵なひとときを。</translation>
     </message>
     <message>
         <source>欢迎使用「青岚」。
@@ -87,15 +87,15 @@ Best regards.</source>
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
         <translation>「青嵐」へようこそ。
 
-「青嵐」は、漢字を一文字ずつ入力し、画と筆順を手がかりに、六回以内に正解の漢字を当てるゲームです。</translation>
+「青嵐」は、漢字を一字ずつ入力し、画と筆順を手がかりに、六回以内に正解の漢字を当てていただくゲームです。</translation>
     </message>
     <message>
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
-        <translation>有効な漢字を一文字入力し、改行ボタンを押して送信してください。
+        <translation>有効な中国語の漢字を一字入力し、改行キーを押して送信してください。
 
-送信するたびに、画の色が変わることがあります。</translation>
+送信のたびに、漢字の画の色が変わることがあります。</translation>
     </message>
     <message>
         <source>绿色，
@@ -103,11 +103,11 @@ Best regards.</source>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
-        <translation>緑色
+        <translation>緑色は、
 
-正解の漢字にその画が含まれ、筆順も合っています。
+正解の漢字にこの画が含まれ、筆順も正しいことを表します。
 
-正解の漢字と送信した漢字の両方に、該当する画がすべて表示されます。</translation>
+該当する画は、正解の漢字と送信した漢字の両方に、すべて表示されます。</translation>
     </message>
     <message>
         <source>灰色，
@@ -115,19 +115,19 @@ Best regards.</source>
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
-        <translation>灰色
+        <translation>灰色は、
 
-正解の漢字にその画は含まれますが、筆順が違います。
+正解の漢字にこの画が含まれるものの、筆順が正しくないことを表します。
 
-同じ画がいくつもある場合、正解の漢字には一度だけ、送信した漢字にはすべて表示されます。</translation>
+同じ画が複数ある場合、正解の漢字には一度だけ、送信した漢字にはすべて表示されます。</translation>
     </message>
     <message>
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
-        <translation>それでは「青嵐」をお楽しみください。
+        <translation>それでは、「青嵐」をお楽しみください。
 
-時節柄、どうぞご自愛ください。</translation>
+末筆ながら、ますますのご清祥をお祈り申し上げます。</translation>
     </message>
     <message>
         <source>Privacy Policy</source>
@@ -152,7 +152,7 @@ Best regards.</source>
     <message>
         <source>Browse My Personal Website</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>個人サイトを見る</translation>
+        <translation>作者の個人サイトを見る</translation>
     </message>
     <message>
         <source>Version</source>

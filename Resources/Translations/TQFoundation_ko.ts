@@ -26,7 +26,7 @@
     <message>
         <source>More Apps I Developed</source>
         <extracomment>Title of a row that leads to the developer&apos;s other apps.</extracomment>
-        <translation>제가 만든 다른 앱</translation>
+        <translation>개발자의 다른 앱 보기</translation>
     </message>
     <message>
         <source>Welcome to the Hazel Grid.
@@ -37,7 +37,7 @@ At each step in time, the following transitions occur:</source>
         <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
         <translation>Hazel Grid에 오신 것을 환영합니다.
 
-이곳은 정사각형 세포로 이루어진 무한한 2차원 직교 격자이며, 각 세포는 살아 있거나 죽어 있는 두 가지 상태 중 하나입니다.
+이곳은 정사각형 세포가 끝없이 펼쳐진 2차원 직교 격자입니다. 모든 세포는 살아 있거나 죽어 있거나, 둘 중 한 가지 상태에 있습니다.
 
 시간이 한 단계 흐를 때마다 다음과 같은 변화가 일어납니다.</translation>
     </message>
@@ -47,7 +47,7 @@ At each step in time, the following transitions occur:</source>
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
         <translation>1.
 
-살아 있는 세포는 살아 있는 이웃이 둘보다 적으면 인구 부족처럼 죽습니다.</translation>
+살아 있는 세포는 살아 있는 이웃이 둘보다 적으면 개체 수 부족을 겪듯 죽습니다.</translation>
     </message>
     <message>
         <source>2.
@@ -55,7 +55,7 @@ Any live cell with fewer than two live neighbours dies, as if by underpopulation
 Any live cell with two or three live neighbours lives on to the next generation.</source>
         <translation>2.
 
-살아 있는 세포는 살아 있는 이웃이 둘이나 셋이면 다음 세대까지 살아남습니다.</translation>
+살아 있는 세포는 살아 있는 이웃이 둘 또는 셋이면 다음 세대까지 살아남습니다.</translation>
     </message>
     <message>
         <source>3.
@@ -63,7 +63,7 @@ Any live cell with two or three live neighbours lives on to the next generation.
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
         <translation>3.
 
-살아 있는 세포는 살아 있는 이웃이 셋보다 많으면 인구 과잉처럼 죽습니다.</translation>
+살아 있는 세포는 살아 있는 이웃이 셋보다 많으면 개체 수 과잉을 겪듯 죽습니다.</translation>
     </message>
     <message>
         <source>4.
@@ -71,7 +71,7 @@ Any live cell with more than three live neighbours dies, as if by overpopulation
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
         <translation>4.
 
-죽은 세포는 살아 있는 이웃이 정확히 셋이면 번식하듯 살아납니다.</translation>
+죽은 세포는 살아 있는 이웃이 정확히 셋이면 번식이 일어나듯 살아 있는 세포가 됩니다.</translation>
     </message>
     <message>
         <source>Next, please enjoy the Hazel Grid.
@@ -79,7 +79,7 @@ Any dead cell with exactly three live neighbours becomes a live cell, as if by r
 Best regards.</source>
         <translation>이제 Hazel Grid를 즐겨 보세요.
 
-감사합니다.</translation>
+좋은 하루 보내시기 바랍니다.</translation>
     </message>
     <message>
         <source>欢迎使用「青岚」。
@@ -87,15 +87,15 @@ Best regards.</source>
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
         <translation>‘청람(青岚)’에 오신 것을 환영합니다.
 
-‘청람’은 한자를 한 글자씩 입력하면서 획과 필순을 단서로 여섯 번 안에 정답 한자를 맞히는 게임입니다.</translation>
+‘청람’은 한자를 한 글자씩 입력하며 획과 필순을 실마리 삼아 여섯 번의 기회 안에 정답 글자를 맞히는 게임입니다.</translation>
     </message>
     <message>
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
-        <translation>올바른 한자 한 글자를 입력하고 리턴 버튼을 눌러 제출해 주세요.
+        <translation>유효한 중국어 한자를 한 글자 입력한 뒤 리턴 키를 눌러 제출해 주십시오.
 
-제출할 때마다 글자의 획 색깔이 바뀔 수 있습니다.</translation>
+제출하실 때마다 글자의 획 색깔이 달라질 수 있습니다.</translation>
     </message>
     <message>
         <source>绿色，
@@ -103,11 +103,11 @@ Best regards.</source>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
-        <translation>초록색
+        <translation>초록색은
 
-정답 글자에 이 획이 들어 있고 필순도 맞다는 뜻입니다.
+정답 글자에 이 획이 있으며 필순도 올바르다는 뜻입니다.
 
-정답 글자와 제출한 글자 양쪽에 모두 표시됩니다.</translation>
+해당하는 획은 정답 글자와 제출한 글자 양쪽에 빠짐없이 표시됩니다.</translation>
     </message>
     <message>
         <source>灰色，
@@ -115,19 +115,19 @@ Best regards.</source>
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
-        <translation>회색
+        <translation>회색은
 
-정답 글자에 이 획이 들어 있지만 필순이 맞지 않다는 뜻입니다.
+정답 글자에 이 획이 있지만 필순이 올바르지 않다는 뜻입니다.
 
-이 획들이 서로 같으면 정답 글자에는 한 번만 표시되고, 제출한 글자에는 모두 표시됩니다.</translation>
+이때 같은 획이 여럿이면 정답 글자에는 한 번만, 제출한 글자에는 모두 표시됩니다.</translation>
     </message>
     <message>
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
-        <translation>이제 ‘청람’을 즐겨 주세요.
+        <translation>이제 ‘청람’을 즐겨 주십시오.
 
-늘 평안하시기를 바랍니다.</translation>
+내내 평안하시기를 빕니다.</translation>
     </message>
     <message>
         <source>Privacy Policy</source>
@@ -147,12 +147,12 @@ Best regards.</source>
     <message>
         <source>Follow me on Social Media Platforms</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>소셜 미디어에서 팔로우하기</translation>
+        <translation>SNS에서 팔로우하기</translation>
     </message>
     <message>
         <source>Browse My Personal Website</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>개인 웹사이트 둘러보기</translation>
+        <translation>개인 웹사이트 방문하기</translation>
     </message>
     <message>
         <source>Version</source>

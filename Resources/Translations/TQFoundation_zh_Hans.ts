@@ -26,7 +26,7 @@
     <message>
         <source>More Apps I Developed</source>
         <extracomment>Title of a row that leads to the developer&apos;s other apps.</extracomment>
-        <translation>我开发的更多 App</translation>
+        <translation>我开发的其他 App</translation>
     </message>
     <message>
         <source>Welcome to the Hazel Grid.
@@ -37,9 +37,9 @@ At each step in time, the following transitions occur:</source>
         <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
         <translation>欢迎来到「榛格」。
 
-这里是一张无限的二维正交网格，由方形的细胞组成，每个细胞都处于两种状态之一：存活或死亡。
+这是一张在二维平面上无限延伸的正交网格，每个方格都是一个细胞，处于「生」或「死」两种状态之一。
 
-时间每前进一步，细胞都会发生以下变化：</translation>
+每经过一个时间步，细胞都会按以下规则演变：</translation>
     </message>
     <message>
         <source>1.
@@ -47,7 +47,7 @@ At each step in time, the following transitions occur:</source>
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
         <translation>1.
 
-任何活细胞，如果周围的活邻居少于两个，就会像因孤单一样死去。</translation>
+活细胞的活邻居若少于两个，便会死去，犹如种群过疏。</translation>
     </message>
     <message>
         <source>2.
@@ -55,7 +55,7 @@ Any live cell with fewer than two live neighbours dies, as if by underpopulation
 Any live cell with two or three live neighbours lives on to the next generation.</source>
         <translation>2.
 
-任何活细胞，如果周围有两个或三个活邻居，就会存活到下一代。</translation>
+活细胞的活邻居若有两个或三个，便会存活至下一代。</translation>
     </message>
     <message>
         <source>3.
@@ -63,7 +63,7 @@ Any live cell with two or three live neighbours lives on to the next generation.
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
         <translation>3.
 
-任何活细胞，如果周围的活邻居超过三个，就会像因拥挤一样死去。</translation>
+活细胞的活邻居若多于三个，便会死去，犹如种群过密。</translation>
     </message>
     <message>
         <source>4.
@@ -71,13 +71,13 @@ Any live cell with more than three live neighbours dies, as if by overpopulation
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
         <translation>4.
 
-任何死细胞，如果周围恰好有三个活邻居，就会像繁殖一样成为活细胞。</translation>
+死细胞的活邻居若恰好有三个，便会成为活细胞，犹如种群繁殖。</translation>
     </message>
     <message>
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
-        <translation>接下来，请尽情享受「榛格」。
+        <translation>接下来，请尽情享受「榛格」的乐趣。
 
 顺颂时祺。</translation>
     </message>
@@ -142,17 +142,17 @@ Best regards.</source>
     <message>
         <source>Rate on the App Store</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>在 App Store 上评分</translation>
+        <translation>在 App Store 评分</translation>
     </message>
     <message>
         <source>Follow me on Social Media Platforms</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>在社交媒体上关注我</translation>
+        <translation>在社交平台关注我</translation>
     </message>
     <message>
         <source>Browse My Personal Website</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>浏览我的个人网站</translation>
+        <translation>访问我的个人网站</translation>
     </message>
     <message>
         <source>Version</source>

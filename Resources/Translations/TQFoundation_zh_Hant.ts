@@ -26,7 +26,7 @@
     <message>
         <source>More Apps I Developed</source>
         <extracomment>Title of a row that leads to the developer&apos;s other apps.</extracomment>
-        <translation>我開發的更多 App</translation>
+        <translation>我開發的其他 App</translation>
     </message>
     <message>
         <source>Welcome to the Hazel Grid.
@@ -37,9 +37,9 @@ At each step in time, the following transitions occur:</source>
         <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
         <translation>歡迎來到「榛格」。
 
-這裡是一張無限的二維正交網格，由方形的細胞組成，每個細胞都處於兩種狀態之一：存活或死亡。
+這是一張在二維平面上無限延伸的正交網格，每個方格都是一個細胞，處於「生」或「死」兩種狀態之一。
 
-時間每前進一步，細胞都會發生以下變化：</translation>
+每經過一個時間步，細胞都會依下列規則演變：</translation>
     </message>
     <message>
         <source>1.
@@ -47,7 +47,7 @@ At each step in time, the following transitions occur:</source>
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
         <translation>1.
 
-任何活細胞，如果周圍的活鄰居少於兩個，就會像因孤單一樣死去。</translation>
+活細胞的活鄰居若少於兩個，便會死去，猶如族群過疏。</translation>
     </message>
     <message>
         <source>2.
@@ -55,7 +55,7 @@ Any live cell with fewer than two live neighbours dies, as if by underpopulation
 Any live cell with two or three live neighbours lives on to the next generation.</source>
         <translation>2.
 
-任何活細胞，如果周圍有兩個或三個活鄰居，就會存活到下一代。</translation>
+活細胞的活鄰居若有兩個或三個，便會存活至下一代。</translation>
     </message>
     <message>
         <source>3.
@@ -63,7 +63,7 @@ Any live cell with two or three live neighbours lives on to the next generation.
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
         <translation>3.
 
-任何活細胞，如果周圍的活鄰居超過三個，就會像因擁擠一樣死去。</translation>
+活細胞的活鄰居若多於三個，便會死去，猶如族群過密。</translation>
     </message>
     <message>
         <source>4.
@@ -71,13 +71,13 @@ Any live cell with more than three live neighbours dies, as if by overpopulation
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
         <translation>4.
 
-任何死細胞，如果周圍恰好有三個活鄰居，就會像繁殖一樣成為活細胞。</translation>
+死細胞的活鄰居若恰好有三個，便會成為活細胞，猶如族群繁殖。</translation>
     </message>
     <message>
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
-        <translation>接下來，請盡情享受「榛格」。
+        <translation>接下來，請盡情享受「榛格」的樂趣。
 
 順頌時祺。</translation>
     </message>
@@ -87,13 +87,13 @@ Best regards.</source>
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
         <translation>歡迎使用「青嵐」。
 
-「青嵐」需要閣下輸入一個個文字，並根據筆畫、筆順在六次機會中猜出正確文字。</translation>
+「青嵐」需要閣下輸入一個個文字，並根據筆畫、筆順，在六次機會中猜出正確文字。</translation>
     </message>
     <message>
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
-        <translation>輸入一個有效的中文文字，按下換行按鈕送出。
+        <translation>輸入一個有效的中文字，按下換行鍵送出。
 
 每次送出之後，文字的筆畫顏色也許會發生變化：</translation>
     </message>
@@ -107,7 +107,7 @@ Best regards.</source>
 
 表示正確文字包含此筆畫，並且筆順正確。
 
-在正確文字和所送出的文字中都會全部顯示。</translation>
+在正確文字與所送出的文字中，都會全部顯示。</translation>
     </message>
     <message>
         <source>灰色，
@@ -142,17 +142,17 @@ Best regards.</source>
     <message>
         <source>Rate on the App Store</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>在 App Store 上評分</translation>
+        <translation>在 App Store 評分</translation>
     </message>
     <message>
         <source>Follow me on Social Media Platforms</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>在社群媒體上追蹤我</translation>
+        <translation>在社群平台追蹤我</translation>
     </message>
     <message>
         <source>Browse My Personal Website</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>瀏覽我的個人網站</translation>
+        <translation>造訪我的個人網站</translation>
     </message>
     <message>
         <source>Version</source>

@@ -1,0 +1,24 @@
+import QtQuick
+import TQFoundation
+
+Window {
+    width: 390
+    height: 844
+    visible: true
+
+    Rectangle {
+        width: 390
+        height: 60
+        color: "steelblue"
+    }
+
+    Text {
+        text: TQMore.versionText
+    }
+
+    TQAppView {
+        y: 60
+        width: 390
+        app: TQApp.hazel
+    }
+}

@@ -33,6 +33,12 @@ Flickable {
         scrollTo(mirrored ? farthest : 0);
     }
 
+    // Once for each press, however long the key is held.
+    function open(event: KeyEvent) {
+        if (!event.isAutoRepeat)
+            TQApp.openDeveloperPage();
+    }
+
     implicitWidth: row.width
     implicitHeight: row.height
     contentWidth: Math.max(width, row.width)
@@ -47,8 +53,8 @@ Flickable {
 
     Keys.onLeftPressed: event => event.accepted = scrollTo(contentX - step)
     Keys.onRightPressed: event => event.accepted = scrollTo(contentX + step)
-    Keys.onReturnPressed: TQApp.openDeveloperPage()
-    Keys.onEnterPressed: TQApp.openDeveloperPage()
+    Keys.onReturnPressed: event => open(event)
+    Keys.onEnterPressed: event => open(event)
     Keys.onPressed: event => {
         if (event.key === Qt.Key_Home)
             event.accepted = scrollTo(mirrored ? farthest : 0);

@@ -1,3 +1,4 @@
+#include "DeathTest.h"
 #include "QmlWindow.h"
 #include "RecordingPlatform.h"
 
@@ -118,7 +119,7 @@ TEST_F(AppRow, EachBuildReadsItsIconsAnew)
         const QmlWindow host(row(TQApp::hazel));
     }
     platform->root = QStringLiteral(":/NoSuchBundle");
-    EXPECT_EXIT(const QmlWindow host(row(TQApp::hazel)), testing::KilledBySignal(SIGILL), "");
+    EXPECT_EXIT(const QmlWindow host(row(TQApp::hazel)), testing::KilledBySignal(Testing::trapSignal), "");
 }
 
 TEST_F(AppRow, ATapAnywhereOpensTheDevelopersPage)
@@ -202,6 +203,16 @@ TEST_F(AppRow, EnterOpensTheDevelopersPage)
     QTest::keyClick(&host.window, Qt::Key_Return);
     QTest::keyClick(&host.window, Qt::Key_Enter);
     EXPECT_EQ(opened(), 2);
+}
+
+TEST_F(AppRow, AKeyThatIsHeldOpensThePageOnce)
+{
+    QmlWindow host(row(TQApp::hazel));
+    for (const bool repeated : {false, true, true}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), repeated);
+        QCoreApplication::sendEvent(&host.window, &press);
+    }
+    EXPECT_EQ(opened(), 1);
 }
 
 TEST_F(AppRow, IsReachedByTheTabKey)

@@ -4,8 +4,8 @@
 
 #include <ostream>
 
-/// Lets a failed expectation show the text instead of its bytes. In the namespace of its argument, as the test framework
-/// looks it up there.
+/// Lets a failed expectation show the text instead of its bytes. It stands in the namespace of its argument, where the
+/// test framework looks for it.
 inline void PrintTo(const QString &text, std::ostream *stream)
 {
     *stream << '"' << text.toStdString() << '"';

@@ -5,9 +5,9 @@
 PREFIX ?= /usr/local
 ARGS ?=
 release := build/release
-sources = $(shell git ls-files '*.cpp' '*.h')
+sources = $(shell find Sources Example Tests Benchmarks -name '*.cpp' -o -name '*.h')
 # clang-tidy reads one compiler's command line and generated headers, so it comes after a build.
-units = $(shell git ls-files 'Sources/*.cpp' 'Example/*.cpp')
+units = $(shell find Sources Example -name '*.cpp')
 
 help:
 	@echo "make run        build and start the example (ARGS=\"--app birch --dark\"); pictures where there is no display"

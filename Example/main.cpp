@@ -122,8 +122,12 @@ void chooseDisplay(const Options &options)
 #ifdef Q_OS_LINUX
     // Where no display answers, the last of the list is taken and pictures are made instead.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        const bool wayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-        qputenv("QT_QPA_PLATFORM", wayland ? "wayland;xcb;offscreen" : "xcb;offscreen");
+        QByteArray platforms = "offscreen";
+        if (!qEnvironmentVariableIsEmpty("DISPLAY"))
+            platforms.prepend("xcb;");
+        if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+            platforms.prepend("wayland;");
+        qputenv("QT_QPA_PLATFORM", platforms);
     }
 #endif
 }
@@ -167,8 +171,10 @@ int main(int argc, char *argv[])
         QLocale::setDefault(QLocale(options.language));
 
     QGuiApplication application(argc, argv);
-    if (options.shots.isEmpty() && QGuiApplication::platformName() == u"offscreen")
+    if (options.shots.isEmpty() && QGuiApplication::platformName() == u"offscreen") {
         options.shots = QDir::current().filePath(QStringLiteral("shots"));
+        QTextStream(stdout) << "There is no display, so here are pictures of the screens:\n";
+    }
     if (options.dark)
         QGuiApplication::setPalette(darkPalette());
     QGuiApplication::setLayoutDirection(QLocale().textDirection());

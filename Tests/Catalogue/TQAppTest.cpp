@@ -290,6 +290,23 @@ TEST(Icon, EveryCaseHasItsOwnPicture)
     EXPECT_EQ(pictures.size(), 10);
 }
 
+TEST(Icon, ArtworkOfAnySizeIsStretchedToTheSquare)
+{
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("Icons")));
+    const InstalledRecordingPlatform platform;
+    platform->root = folder.path();
+    for (const QSize size : {QSize(1, 1), QSize(50, 20), QSize(1024, 1024)}) {
+        QImage artwork(size, QImage::Format_ARGB32);
+        artwork.fill(Qt::red);
+        ASSERT_TRUE(artwork.save(folder.filePath(QStringLiteral("Icons/fir.png"))));
+        const QImage icon = TQApp::fir.icon();
+        EXPECT_EQ(icon.size(), QSize(108, 108));
+        EXPECT_EQ(icon.pixel(0, 0), qRgb(255, 0, 0));
+        EXPECT_EQ(icon.pixel(107, 107), qRgb(255, 0, 0));
+    }
+}
+
 TEST(IconDeathTest, AMissingOneStopsTheProcess)
 {
     const InstalledRecordingPlatform platform;

@@ -171,6 +171,25 @@ TEST_F(AppRow, ADragScrollsAndOpensNothing)
     EXPECT_EQ(opened(), 0);
 }
 
+TEST_F(AppRow, ShowsNoScrollIndicatorWhileItScrolls)
+{
+    QmlWindow host(row(TQApp::hazel, "width: 200; height: 60"), {200, 60});
+    QTest::mousePress(&host.window, Qt::LeftButton, {}, {180, 30});
+    for (int x = 170; x >= 60; x -= 10)
+        QTest::mouseMove(&host.window, {x, 30}, 10);
+    ASSERT_TRUE(host.item->property("moving").toBool());
+    const QImage shown = host.window.grabWindow();
+    QTest::mouseRelease(&host.window, Qt::LeftButton, {}, {60, 30});
+    ASSERT_EQ(shown.size(), QSize(200, 60) * shown.devicePixelRatio());
+    for (int y = 0; y < shown.height(); ++y) {
+        // Above and below the icons.
+        if (std::abs(y - shown.height() / 2) <= 19 * shown.devicePixelRatio())
+            continue;
+        for (int x = 0; x < shown.width(); ++x)
+            ASSERT_EQ(shown.pixel(x, y), qRgb(255, 255, 255)) << x << ',' << y;
+    }
+}
+
 TEST_F(AppRow, ARowThatFitsDoesNotScroll)
 {
     QmlWindow host(row(TQApp::hazel, "width: 500"), {500, 200});

@@ -6,7 +6,7 @@ import subprocess
 import sys
 import tempfile
 
-build, source = sys.argv[1:]
+build, source, qmllint = sys.argv[1:]
 
 
 def run(*command, **options):
@@ -22,6 +22,12 @@ with tempfile.TemporaryDirectory() as name:
     run("cmake", "-S", source, "-B", str(folder / "build"), "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
         f"-DCMAKE_PREFIX_PATH={prefix}", stdout=subprocess.DEVNULL)
     run("cmake", "--build", str(folder / "build"))
+
+    # The host's own QML, against the installed module alone.
+    lint = subprocess.run([qmllint, "-I", str(prefix / "lib/qml"), *map(str, pathlib.Path(source).glob("*.qml"))],
+                          capture_output=True, text=True, timeout=60)
+    if lint.returncode or lint.stdout or lint.stderr:
+        sys.exit(f"qmllint: {lint.returncode} {lint.stdout} {lint.stderr}")
 
     # A host shows its window until it is closed, so being alive and silent after its start is what passes.
     environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", QT_QUICK_BACKEND="software", XDG_RUNTIME_DIR=name)

@@ -62,6 +62,13 @@ TEST(Screen, WidthIsReadAloneAndHeightWhenItIsAskedFor)
     EXPECT_EQ(platform->calls.size(), 2);
 }
 
+TEST(Screen, HeightIsReadAlone)
+{
+    const InstalledRecordingPlatform platform;
+    EXPECT_EQ(screenHeight(), 844);
+    EXPECT_EQ(platform->calls, QStringList{QStringLiteral("screenBounds()")});
+}
+
 TEST(Screen, ScaleIsReadAlone)
 {
     const InstalledRecordingPlatform platform;

@@ -290,6 +290,31 @@ TEST(Icon, EveryCaseHasItsOwnPicture)
     EXPECT_EQ(pictures.size(), 10);
 }
 
+TEST(Icon, IsTheAverageOfItsArtworkAndSoNeitherJaggedNorBlurred)
+{
+    const InstalledRecordingPlatform platform;
+    platform->scale = 1;
+    constexpr int block = 6; // the artwork's pixels for each of the thumbnail's
+    const QImage artwork = QImage(QStringLiteral(":/TQFoundation/Icons/larch-page.png"))
+                               .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QImage icon = TQApp::larch.icon().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    ASSERT_EQ(artwork.size(), icon.size() * block);
+    for (int y = 0; y < icon.height(); ++y) {
+        for (int x = 0; x < icon.width(); ++x) {
+            int red = 0;
+            int alpha = 0;
+            for (int pixel = 0; pixel < block * block; ++pixel) {
+                const auto *line = reinterpret_cast<const QRgb *>(artwork.constScanLine(y * block + pixel / block));
+                red += qRed(line[x * block + pixel % block]);
+                alpha += qAlpha(line[x * block + pixel % block]);
+            }
+            const QRgb shown = reinterpret_cast<const QRgb *>(icon.constScanLine(y))[x];
+            ASSERT_NEAR(qRed(shown), red / (block * block), 3) << x << ',' << y;
+            ASSERT_NEAR(qAlpha(shown), alpha / (block * block), 3) << x << ',' << y;
+        }
+    }
+}
+
 TEST(Icon, ArtworkOfAnySizeIsStretchedToTheSquare)
 {
     const QTemporaryDir folder;

@@ -171,6 +171,19 @@ TEST_F(AppRow, ADragScrollsAndOpensNothing)
     EXPECT_EQ(opened(), 0);
 }
 
+TEST_F(AppRow, ATapThatStopsAFlickOpensNothing)
+{
+    QmlWindow host(row(TQApp::hazel, "width: 200; flickDeceleration: 100"));
+    ASSERT_TRUE(QMetaObject::invokeMethod(host.item, "flick", Q_ARG(double, -600.0), Q_ARG(double, 0.0)));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return scrolled(host) > 5; }));
+    ASSERT_TRUE(host.item->property("moving").toBool());
+    QTest::mouseClick(&host.window, Qt::LeftButton, {}, {100, 18});
+    EXPECT_EQ(opened(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !host.item->property("moving").toBool(); }));
+    QTest::mouseClick(&host.window, Qt::LeftButton, {}, {100, 18});
+    EXPECT_EQ(opened(), 1);
+}
+
 TEST_F(AppRow, ShowsNoScrollIndicatorWhileItScrolls)
 {
     QmlWindow host(row(TQApp::hazel, "width: 200; height: 60"), {200, 60});
@@ -271,6 +284,18 @@ TEST_F(AppRow, MirroredItStartsAtTheRightAndRunsToTheLeft)
     EXPECT_EQ(icons.last()->mapToScene({0, 0}).x(), 200 - 16 - 36 + 44);
     turnWheel(host, QPoint(0, 120));
     EXPECT_EQ(icons.last()->mapToScene({0, 0}).x(), 200 - 16 - 36);
+}
+
+TEST_F(AppRow, StartsAnewWhenTheDirectionOfReadingChanges)
+{
+    QmlWindow host(row(TQApp::hazel,
+                       "width: 200; property bool arabic; LayoutMirroring.enabled: arabic; "
+                       "LayoutMirroring.childrenInherit: true"));
+    QTest::keyClick(&host.window, Qt::Key_Right);
+    host.item->setProperty("arabic", true);
+    EXPECT_EQ(shownIcons(host).last()->mapToScene({0, 0}).x(), 200 - 16 - 36);
+    host.item->setProperty("arabic", false);
+    EXPECT_EQ(shownIcons(host).first()->mapToScene({0, 0}).x(), 16);
 }
 
 TEST_F(AppRow, MirroredInAWideWindowItLiesAtTheRight)

@@ -3,6 +3,7 @@
 #include <QtCore/qsize.h>
 #include <QtCore/qstring.h>
 #include <QtGui/qfont.h>
+#include <QtGui/qfontdatabase.h>
 #include <QtGui/qfontmetrics.h>
 #include <QtGui/qimage.h>
 #include <QtGui/qpainter.h>
@@ -67,6 +68,23 @@ TEST_F(TextMeasurement, IsNotRounded)
     EXPECT_NEAR(height(QStringLiteral("a\nb\nc")), 2 * QFontMetricsF(font).lineSpacing() + line, 1.0 / 32);
 }
 
+TEST_F(TextMeasurement, LinesLieAsFarApartAsTheFontSays)
+{
+    for (const QString &family : QFontDatabase::families()) {
+        QFont other(family);
+        other.setPixelSize(40);
+        const QFontMetricsF metrics(other);
+        if (!metrics.inFont(u'a'))
+            continue; // another font would stand in
+        // Hinting may round a line and the font's own figure differently.
+        EXPECT_NEAR(heightOfString(QStringLiteral("a\na"), other) - heightOfString(QStringLiteral("a"), other),
+                    metrics.lineSpacing(), 1.01)
+            << family.toStdString() << ", whose leading is " << metrics.leading();
+        if (HasFailure())
+            break;
+    }
+}
+
 TEST_F(TextMeasurement, EveryKindOfLineBreakStartsALine)
 {
     const double two = height(QStringLiteral("a\nb"));
@@ -85,6 +103,7 @@ TEST_F(TextMeasurement, BlanksAtTheEndCount)
 {
     EXPECT_GT(width(QStringLiteral("a ")), width(QStringLiteral("a")));
     EXPECT_GT(width(QStringLiteral(" ")), 0);
+    EXPECT_EQ(width(QStringLiteral("wide   \na")), width(QStringLiteral("wide   ")));
 }
 
 TEST_F(TextMeasurement, ALongLineIsNotBroken)

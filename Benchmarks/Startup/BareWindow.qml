@@ -4,6 +4,7 @@ Window {
     width: 390
     height: 844
     visible: true
+    title: line.text
 
     Rectangle {
         width: 390
@@ -12,6 +13,8 @@ Window {
     }
 
     Text {
+        id: line
+
         text: "Version 2.3.1(57)"
     }
 }

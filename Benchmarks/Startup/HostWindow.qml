@@ -5,6 +5,7 @@ Window {
     width: 390
     height: 844
     visible: true
+    title: line.text
 
     Rectangle {
         width: 390
@@ -13,6 +14,8 @@ Window {
     }
 
     Text {
+        id: line
+
         text: TQMore.versionText
     }
 }

@@ -147,7 +147,7 @@ Mit den besten Wünschen und vorzüglicher Hochachtung</translation>
     <message>
         <source>Follow me on Social Media Platforms</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>Auf Social Media folgen</translation>
+        <translation>Mir auf Social Media folgen</translation>
     </message>
     <message>
         <source>Browse My Personal Website</source>

@@ -26,7 +26,7 @@
     <message>
         <source>More Apps I Developed</source>
         <extracomment>Title of a row that leads to the developer&apos;s other apps.</extracomment>
-        <translation>Ver mis otras apps</translation>
+        <translation>Mis otras apps</translation>
     </message>
     <message>
         <source>Welcome to the Hazel Grid.
@@ -107,7 +107,7 @@ Después de cada envío, es posible que cambie el color de los trazos:</translat
 
 El carácter correcto contiene este trazo y su posición en el orden de los trazos es la adecuada.
 
-Todos los trazos así acertados se muestran, tanto en el carácter correcto como en el enviado.</translation>
+Se muestran todos los trazos acertados de este modo, tanto en el carácter correcto como en el enviado.</translation>
     </message>
     <message>
         <source>灰色，
@@ -147,12 +147,12 @@ Reciba mis más respetuosos saludos y mis mejores deseos.</translation>
     <message>
         <source>Follow me on Social Media Platforms</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>Seguirme en redes sociales</translation>
+        <translation>Sígueme en redes sociales</translation>
     </message>
     <message>
         <source>Browse My Personal Website</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>Visitar mi sitio web personal</translation>
+        <translation>Mi sitio web personal</translation>
     </message>
     <message>
         <source>Version</source>

@@ -47,7 +47,7 @@ Le jeu se déroule sur une grille orthogonale infinie, à deux dimensions, faite
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
         <translation>1.
 
-Toute cellule vivante ayant moins de deux voisines vivantes meurt, comme sous l’effet de la sous-population.</translation>
+Toute cellule vivante ayant moins de deux voisines vivantes meurt, comme par sous-population.</translation>
     </message>
     <message>
         <source>2.
@@ -63,7 +63,7 @@ Toute cellule vivante ayant deux ou trois voisines vivantes reste en vie à la g
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
         <translation>3.
 
-Toute cellule vivante ayant plus de trois voisines vivantes meurt, comme sous l’effet de la surpopulation.</translation>
+Toute cellule vivante ayant plus de trois voisines vivantes meurt, comme par surpopulation.</translation>
     </message>
     <message>
         <source>4.

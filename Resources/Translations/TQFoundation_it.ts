@@ -35,7 +35,7 @@ The game is an infinite, two-dimensional orthogonal grid of square cells, each o
 
 At each step in time, the following transitions occur:</source>
         <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
-        <translation>Benvenuti in Hazel Grid.
+        <translation>Ti do il benvenuto in Hazel Grid.
 
 Il gioco è una griglia ortogonale bidimensionale e infinita di celle quadrate, ciascuna delle quali si trova in uno di due stati possibili: viva o morta.
 
@@ -137,7 +137,7 @@ Voglia gradire, con i migliori auguri, i miei più distinti saluti.</translation
     <message>
         <source>Contact</source>
         <extracomment>Title of a row of the More screen that leads to writing to the developer.</extracomment>
-        <translation>Contatti</translation>
+        <translation>Contattami</translation>
     </message>
     <message>
         <source>Rate on the App Store</source>

@@ -37,7 +37,7 @@ At each step in time, the following transitions occur:</source>
         <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
         <translation>Welkom bij Hazel Grid.
 
-Het spel is een oneindig, tweedimensionaal, rechthoekig raster van vierkante cellen. Elke cel bevindt zich in een van twee mogelijke toestanden: levend of dood.
+Het spel is een oneindig, tweedimensionaal, orthogonaal raster van vierkante cellen. Elke cel bevindt zich in een van twee mogelijke toestanden: levend of dood.
 
 Bij elke tijdstap vinden de volgende overgangen plaats:</translation>
     </message>
@@ -47,7 +47,7 @@ Bij elke tijdstap vinden de volgende overgangen plaats:</translation>
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
         <translation>1.
 
-Elke levende cel met minder dan twee levende buren sterft, als door onderbevolking.</translation>
+Elke levende cel met minder dan twee levende buren sterft, als het ware door onderbevolking.</translation>
     </message>
     <message>
         <source>2.
@@ -63,7 +63,7 @@ Elke levende cel met twee of drie levende buren leeft voort in de volgende gener
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
         <translation>3.
 
-Elke levende cel met meer dan drie levende buren sterft, als door overbevolking.</translation>
+Elke levende cel met meer dan drie levende buren sterft, als het ware door overbevolking.</translation>
     </message>
     <message>
         <source>4.
@@ -71,7 +71,7 @@ Elke levende cel met meer dan drie levende buren sterft, als door overbevolking.
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
         <translation>4.
 
-Elke dode cel met precies drie levende buren wordt een levende cel, als door voortplanting.</translation>
+Elke dode cel met precies drie levende buren wordt een levende cel, als het ware door voortplanting.</translation>
     </message>
     <message>
         <source>Next, please enjoy the Hazel Grid.
@@ -79,7 +79,7 @@ Elke dode cel met precies drie levende buren wordt een levende cel, als door voo
 Best regards.</source>
         <translation>En nu veel plezier met Hazel Grid.
 
-Hartelijke groet</translation>
+Hartelijke groeten</translation>
     </message>
     <message>
         <source>欢迎使用「青岚」。
@@ -93,7 +93,7 @@ In dit spel voert u het ene na het andere Chinese karakter in. Aan de hand van d
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
-        <translation>Voer een geldig Chinees karakter in en druk op de returntoets om het in te dienen.
+        <translation>Voer een geldig Chinees karakter in en druk op de returntoets om het te bevestigen.
 
 Na elke poging kunnen de kleuren van de streken veranderen:</translation>
     </message>
@@ -107,7 +107,7 @@ Na elke poging kunnen de kleuren van de streken veranderen:</translation>
 
 Het juiste karakter bevat deze streek en ook de plaats in de streekvolgorde klopt.
 
-Zulke streken worden allemaal getoond, zowel in het juiste als in het ingediende karakter.</translation>
+Zulke streken worden allemaal getoond, zowel in het juiste als in het ingevoerde karakter.</translation>
     </message>
     <message>
         <source>灰色，
@@ -119,7 +119,7 @@ Zulke streken worden allemaal getoond, zowel in het juiste als in het ingediende
 
 Het juiste karakter bevat deze streek wel, maar de plaats in de streekvolgorde klopt niet.
 
-Zijn meerdere van deze streken gelijk, dan wordt er in het juiste karakter maar één getoond, terwijl ze in het ingediende karakter allemaal te zien zijn.</translation>
+Zijn meerdere van deze streken gelijk, dan wordt er in het juiste karakter maar één getoond, terwijl ze in het ingevoerde karakter allemaal te zien zijn.</translation>
     </message>
     <message>
         <source>接下来请使用「青岚」。

@@ -70,7 +70,7 @@ int main(int argc, char *argv[])
     const QGuiApplication application(argc, argv);
 
     QTranslator german;
-    if (!german.load(QStringLiteral(":/TQFoundation/Translations/TQFoundation_de.qm")))
+    if (!german.load(QStringLiteral(":/qt-project.org/imports/TQFoundation/Translations/TQFoundation_de.qm")))
         return 1;
     const QString key = QStringLiteral("Privacy Policy");
     if (localizedInLibrary(key) != german.translate("TQFoundation", "Privacy Policy") || localizedInLibrary(key) == key)

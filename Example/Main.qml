@@ -19,6 +19,19 @@ ApplicationWindow {
     LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
+    // On the first launch only. No window is key yet, so that the guide goes into this one.
+    Component.onCompleted: {
+        if (app.guideText.length > 0 && guide.shouldShowGuide())
+            guide.showGuide(root);
+    }
+
+    TQGuide {
+        id: guide
+
+        tintColor: root.app.tintColor
+        descriptions: root.app.guideText
+    }
+
     onScreenNameChanged: {
         const operation = animated ? StackView.Transition : StackView.Immediate;
         if (screenName === "more" && stack.depth === 1)

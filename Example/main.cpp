@@ -1,7 +1,8 @@
-// Grove is a host app of the catalogue: it says which app it is and shows that app's More screen.
+// Grove is a host app of the catalogue: it says which app it is and shows that app's guide and More screen.
 
 #include <TQFoundation/DesktopPlatform.h>
 #include <TQFoundation/TQApp.h>
+#include <TQFoundation/TQGuideView.h>
 
 #include <QtCore/qcommandlineparser.h>
 #include <QtCore/qdir.h>
@@ -14,6 +15,7 @@
 #include <QtQml/qqmlapplicationengine.h>
 #include <QtQuick/qquickwindow.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <optional>
 #include <span>
@@ -29,11 +31,12 @@ struct Options
     QString language;
     bool dark = false;
     QSize size{390, 844};
+    bool resetGuide = false;
     QString shots; // the folder for pictures; empty for a window
 };
 
 /// A desktop whose screen is the example's window and whose storefront is what the command line says.
-class GrovePlatform final : public DesktopPlatform
+class GrovePlatform : public DesktopPlatform
 {
 public:
     explicit GrovePlatform(const Options &options) : m_size(options.size), m_storefront(options.storefront) {}
@@ -44,6 +47,16 @@ public:
 private:
     QSizeF m_size;
     std::optional<QString> m_storefront;
+};
+
+/// For pictures: every time is the first launch, and nothing is stored.
+class PicturePlatform final : public GrovePlatform
+{
+public:
+    using GrovePlatform::GrovePlatform;
+
+    QVariant userDefault(const QString &) const override { return {}; }
+    void setUserDefault(const QString &, const QVariant &) override {}
 };
 
 std::optional<TQApp> appNamed(const QString &name)
@@ -78,11 +91,13 @@ Options parseOptions(const QStringList &arguments)
     const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Dark appearance."));
     const QCommandLineOption size(QStringLiteral("size"), QStringLiteral("The window's size in points."),
                                   QStringLiteral("widthxheight"), QStringLiteral("390x844"));
+    const QCommandLineOption resetGuide(QStringLiteral("reset-guide"),
+                                        QStringLiteral("Show the app's guide again, as on the first launch."));
     const QCommandLineOption shots(QStringLiteral("shots"),
                                    QStringLiteral("Walk through the screens off-screen and write pictures."),
                                    QStringLiteral("folder"));
     QCommandLineParser parser;
-    parser.addOptions({app, storefront, language, dark, size, shots});
+    parser.addOptions({app, storefront, language, dark, size, resetGuide, shots});
     const QCommandLineOption help = parser.addHelpOption();
     if (!parser.parse(arguments))
         refuse(parser.errorText());
@@ -104,6 +119,7 @@ Options parseOptions(const QStringList &arguments)
         options.storefront = parser.value(storefront);
     options.language = parser.value(language);
     options.dark = parser.isSet(dark);
+    options.resetGuide = parser.isSet(resetGuide);
     options.shots = parser.value(shots);
     if (parser.isSet(shots) && options.shots.isEmpty())
         refuse(QStringLiteral("--shots needs a folder"));
@@ -140,14 +156,32 @@ QPalette darkPalette()
     return palette;
 }
 
-// Shows each screen without animation and writes what the window then holds.
+TQGuideView *guideIn(const QQuickWindow &window)
+{
+    const QList<QQuickItem *> items = window.contentItem()->childItems();
+    const auto guide = std::ranges::find_if(items, [](QQuickItem *item) { return qobject_cast<TQGuideView *>(item); });
+    return guide == items.end() ? nullptr : static_cast<TQGuideView *>(*guide);
+}
+
+// Shows the guide, where the app has one, and each screen without animation, and writes what the window then holds.
 bool takePictures(QQuickWindow *window, const QString &folder)
 {
     QTextStream out(stdout);
-    for (const char *screen : {"home", "more"}) {
-        window->setProperty("screenName", QLatin1String(screen));
+    QStringList screens{QStringLiteral("home"), QStringLiteral("more")};
+    if (guideIn(*window))
+        screens.prepend(QStringLiteral("guide"));
+    for (const QString &screen : std::as_const(screens)) {
+        QQuickItem *guide = guideIn(*window);
+        if (screen == u"guide") {
+            while (guide->opacity() < 1)
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        } else {
+            if (guide)
+                guide->setParentItem(nullptr);
+            window->setProperty("screenName", screen);
+        }
         QCoreApplication::processEvents();
-        const QString path = QDir(folder).filePath(QLatin1String(screen) + u".png");
+        const QString path = QDir(folder).filePath(screen + u".png");
         if (!QDir().mkpath(folder) || !window->grabWindow().save(path)) {
             QTextStream(stderr) << "Grove: cannot write " << path << '\n';
             return false;
@@ -166,7 +200,6 @@ int main(int argc, char *argv[])
         arguments += QString::fromLocal8Bit(argument);
     Options options = parseOptions(arguments);
     chooseDisplay(options);
-    installPlatform(std::make_unique<GrovePlatform>(options));
     if (!options.language.isEmpty())
         QLocale::setDefault(QLocale(options.language));
 
@@ -175,6 +208,18 @@ int main(int argc, char *argv[])
         options.shots = QDir::current().filePath(QStringLiteral("shots"));
         QTextStream(stdout) << "There is no display, so here are pictures of the screens:\n";
     }
+    // Whose settings they are: each app of the catalogue keeps its own.
+    const auto *caseName = QMetaEnum::fromType<TQApp::Case>().valueToKey(static_cast<int>(TQApp::Case(options.app)));
+    QCoreApplication::setOrganizationName(QStringLiteral("TQ Studio"));
+    QCoreApplication::setOrganizationDomain(QStringLiteral("tqstudio.example"));
+    QCoreApplication::setApplicationName(u"Grove " + QLatin1String(caseName));
+    if (options.shots.isEmpty())
+        installPlatform(std::make_unique<GrovePlatform>(options));
+    else
+        installPlatform(std::make_unique<PicturePlatform>(options));
+    if (options.resetGuide)
+        platform().setUserDefault(QStringLiteral("KeyOfDidShowGuide"), false);
+
     if (options.dark)
         QGuiApplication::setPalette(darkPalette());
     QGuiApplication::setLayoutDirection(QLocale().textDirection());
@@ -193,7 +238,6 @@ int main(int argc, char *argv[])
     QCoreApplication::installTranslator(&translator);
 
     QQmlApplicationEngine engine;
-    const auto *caseName = QMetaEnum::fromType<TQApp::Case>().valueToKey(static_cast<int>(TQApp::Case(options.app)));
     const QUrl iconSource(u"qrc:/Icons/" + QLatin1String(caseName) + u".png");
     engine.setInitialProperties({{QStringLiteral("app"), QVariant::fromValue(options.app)},
                                  {QStringLiteral("iconSource"), iconSource},

@@ -21,16 +21,21 @@ class QmlColor
     Q_PROPERTY(QColor dark READ dark CONSTANT FINAL)
 
 public:
-    QColor light() const { return painted(Appearance::light); }
-    QColor dark() const { return painted(Appearance::dark); }
+    QColor light() const { return painted(m_color.resolved(Appearance::light)); }
+    QColor dark() const { return painted(m_color.resolved(Appearance::dark)); }
 
     /// The colour in dark appearance where \a darkAppearance is true, else in light.
     Q_INVOKABLE QColor resolved(bool darkAppearance) const { return darkAppearance ? dark() : light(); }
 
-private:
-    QColor painted(Appearance appearance) const
+    /// Black or white, whichever is easier to read on the colour.
+    Q_INVOKABLE QColor textColor(bool darkAppearance) const
     {
-        const Rgba rgba = m_color.resolved(appearance);
+        return painted(m_color.textColor(darkAppearance ? Appearance::dark : Appearance::light));
+    }
+
+private:
+    static QColor painted(const Rgba &rgba)
+    {
         return QColor::fromRgbF(rgba.red, rgba.green, rgba.blue, rgba.alpha);
     }
 

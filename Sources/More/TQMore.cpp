@@ -4,8 +4,12 @@
 #include "DeveloperIdentity.h"
 #include "DeveloperPage.h"
 #include "Environment.h"
+#include "KeyWindow.h"
 #include "MoreKeys.h"
 #include "TQApp.h"
+#include "ViewController.h"
+
+#include <QtQuick/qquickwindow.h>
 
 namespace TQFoundation {
 namespace {
@@ -119,6 +123,14 @@ QString TQMore::blogOrSocialText(const std::optional<QString> &icp)
 QString TQMore::blogOrSocialUrl(const std::optional<QString> &icp)
 {
     return showsFiling(icp) ? blogUrl() : threadsUrl();
+}
+
+std::shared_ptr<ViewController> TQMore::topViewController()
+{
+    auto top = ViewController::rootOf(keyWindow());
+    while (top && top->presentedViewController())
+        top = top->presentedViewController();
+    return top;
 }
 
 } // namespace TQFoundation

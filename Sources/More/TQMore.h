@@ -4,9 +4,12 @@
 
 #include <QtCore/qstring.h>
 
+#include <memory>
 #include <optional>
 
 namespace TQFoundation {
+
+class ViewController;
 
 /// The rows of an app's More screen: their titles, the links behind them and the version line. The host builds the
 /// rows.
@@ -44,6 +47,11 @@ public:
     static QString icpOrBlogUrl(const std::optional<QString> &icp);
     static QString blogOrSocialText(const std::optional<QString> &icp);
     static QString blogOrSocialUrl(const std::optional<QString> &icp);
+
+    /// The controller to present a screen on: from the root controller of the key window of the app's active window
+    /// scene, the last of the chain of modal presentations. Null where no scene is active, none of its windows is key,
+    /// or that window is not one of Qt Quick. Looked up at each call. Main thread.
+    static std::shared_ptr<ViewController> topViewController();
 };
 
 } // namespace TQFoundation

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 namespace TQFoundation {
 
 /// How the system paints its windows: dark text on light ground, or light text on dark ground.
@@ -15,6 +17,25 @@ struct Rgba
 
     friend constexpr bool operator==(const Rgba &, const Rgba &) = default;
 };
+
+/// How bright a colour is, from 0 for black to 1 for white; its opacity does not count. The relative luminance of WCAG
+/// 2.1.
+inline double luminance(const Rgba &color) noexcept
+{
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
+}
+
+/// How far apart two opaque colours are for the eye, from 1 to 21. The contrast ratio of WCAG 2.1, which asks for 4.5
+/// between a text and its ground.
+inline double contrast(const Rgba &one, const Rgba &other) noexcept
+{
+    const double brighter = std::fmax(luminance(one), luminance(other));
+    const double darker = std::fmin(luminance(one), luminance(other));
+    return (brighter + 0.05) / (darker + 0.05);
+}
 
 /// A colour of the catalogue or of a host: either one sRGB value, or a pair that follows light and dark appearance.
 ///
@@ -44,6 +65,19 @@ public:
     constexpr Rgba resolved(Appearance appearance) const noexcept
     {
         return appearance == Appearance::dark ? m_dark : m_light;
+    }
+
+    /// Black or white, whichever is easier to read on the colour: at least 4.5 in contrast on an opaque one. What shines
+    /// through a translucent one is taken for white in light appearance and black in dark.
+    Rgba textColor(Appearance appearance) const noexcept
+    {
+        const Rgba ground = resolved(appearance);
+        const float below = (1 - ground.alpha) * (appearance == Appearance::dark ? 0.0F : 1.0F);
+        const Rgba seen{ground.red * ground.alpha + below, ground.green * ground.alpha + below,
+                        ground.blue * ground.alpha + below};
+        constexpr Rgba black{0, 0, 0};
+        constexpr Rgba white{1, 1, 1};
+        return contrast(black, seen) > contrast(white, seen) ? black : white;
     }
 
     /// Whether light and dark appearance differ.

@@ -84,8 +84,8 @@ public:
     /// The host's stored setting \a key, or an invalid value where none is stored or the store cannot be read.
     virtual QVariant userDefault(const QString &key) const = 0;
 
-    /// Stores a setting of the host. It is on disk once control is back in the event loop; a store that cannot be
-    /// written changes nothing.
+    /// Stores a setting of the host. It is on disk once control is back in the event loop. A store that cannot be
+    /// written, or read whole, stays as it is.
     virtual void setUserDefault(const QString &key, const QVariant &value) = 0;
 
     /// The host's scenes, in no particular order.
@@ -93,6 +93,9 @@ public:
 
     /// Hands \a url to the system's own handler; whether that succeeds is not known.
     virtual void openUrl(const QUrl &url) = 0;
+
+    /// Gives the soft tap that a phone's haptics answer a touch with. Does nothing where there are none.
+    virtual void softImpact() = 0;
 
     /// Seconds of a clock that never jumps, from an arbitrary start. Any thread.
     virtual double mediaTime() const = 0;

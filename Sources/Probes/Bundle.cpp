@@ -27,12 +27,12 @@ public:
 
     const QString &root() const { return m_root; }
 
-    QString entry(const QString &key) const
+    QString entry(const char *context, const QString &key) const
     {
         // The look-up takes a C string and would find the entry of what stands before a NUL.
         if (key.contains(QChar::Null))
             return key;
-        const QString entry = m_translator.translate("TQFoundation", key.toUtf8().constData());
+        const QString entry = m_translator.translate(context, key.toUtf8().constData());
         return entry.isNull() ? key : entry;
     }
 
@@ -50,10 +50,20 @@ QImage Bundle::image(const QString &name) const
 
 QString Bundle::localizedString(const QString &key) const
 {
+    return entry("TQFoundation", key);
+}
+
+QString Bundle::interfaceString(const QString &key) const
+{
+    return entry("TQFoundationInterface", key);
+}
+
+QString Bundle::entry(const char *context, const QString &key) const
+{
     static const StringsTable first(m_root);
     if (m_root == first.root())
-        return first.entry(key);
-    return StringsTable(m_root).entry(key);
+        return first.entry(context, key);
+    return StringsTable(m_root).entry(context, key);
 }
 
 Bundle libraryBundle()

@@ -26,7 +26,13 @@ public:
     /// process. Any thread.
     QString localizedString(const QString &key) const;
 
+    /// The same for the texts of the library's own sheets and for assistive technology, which are no part of an app's
+    /// texts.
+    QString interfaceString(const QString &key) const;
+
 private:
+    QString entry(const char *context, const QString &key) const;
+
     QString m_root;
 };
 

@@ -6,6 +6,7 @@
 
 #include <QtCore/qfile.h>
 #include <QtCore/qfileinfo.h>
+#include <QtCore/qtemporaryfile.h>
 #include <QtCore/qtimer.h>
 #include <QtCore/qurl.h>
 #include <QtGui/qdesktopservices.h>
@@ -124,6 +125,36 @@ QVariant applicationValue(const QString &key)
     return {};
 }
 
+// Whether the settings lie in a text file, which keeps no types.
+bool isText(const QSettings &settings)
+{
+#if defined(Q_OS_DARWIN) || defined(Q_OS_WIN)
+    return settings.format() == QSettings::IniFormat;
+#else
+    static_cast<void>(settings);
+    return true;
+#endif
+}
+
+// Whether all that the settings hold can be read: what cannot be would be lost when they are written anew. Asked of a
+// copy, because Qt parses a file once in a process and tells of errors only whoever came first.
+bool isWhole(const QSettings &settings)
+{
+    QFile file(settings.fileName());
+    if (!isText(settings) || !file.exists())
+        return true;
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    QTemporaryFile copy;
+    if (!copy.open())
+        return true;
+    copy.write(file.readAll());
+    copy.close();
+    const QSettings read(copy.fileName(), settings.format());
+    static_cast<void>(read.allKeys());
+    return read.status() == QSettings::NoError;
+}
+
 ActivationState activationState(Qt::ApplicationState state)
 {
     switch (state) {
@@ -194,12 +225,22 @@ QVariant DesktopPlatform::infoDictionaryValue(const QString &key) const
 QVariant DesktopPlatform::userDefault(const QString &key) const
 {
     const QSettings *stored = settings();
-    return stored ? stored->value(key) : QVariant();
+    if (!stored)
+        return {};
+    const QVariant value = stored->value(key);
+    if (isText(*stored) && value.typeId() == QMetaType::QString) {
+        if (value.toString() == u"true")
+            return true;
+        if (value.toString() == u"false")
+            return false;
+    }
+    return value;
 }
 
 void DesktopPlatform::setUserDefault(const QString &key, const QVariant &value)
 {
-    if (QSettings *stored = settings())
+    QSettings *stored = settings();
+    if (stored && isWhole(*stored))
         stored->setValue(key, value);
 }
 
@@ -220,6 +261,8 @@ void DesktopPlatform::openUrl(const QUrl &url)
     QDesktopServices::openUrl(url);
 }
 
+void DesktopPlatform::softImpact() {}
+
 double DesktopPlatform::mediaTime() const
 {
     return static_cast<double>(m_clock.nsecsElapsed()) * 1e-9;
@@ -233,7 +276,7 @@ std::shared_ptr<RepeatingTimer> DesktopPlatform::makeTimer(double interval, std:
 
 QString DesktopPlatform::resourceRoot() const
 {
-    return QStringLiteral(":/TQFoundation");
+    return QStringLiteral(":/qt-project.org/imports/TQFoundation");
 }
 
 QSettings *DesktopPlatform::settings() const

@@ -34,6 +34,8 @@ public:
 
     /// From the application's own settings file, never from its organisation's or from the system's, which other apps
     /// share. An invalid value also where no application object exists.
+    ///
+    /// Settings files that are texts keep no types: there exactly the texts "true" and "false" are booleans.
     QVariant userDefault(const QString &key) const override;
     void setUserDefault(const QString &key, const QVariant &value) override;
 
@@ -42,6 +44,9 @@ public:
     QList<Scene> connectedScenes() const override;
 
     void openUrl(const QUrl &url) override;
+
+    /// Nothing: a desktop has no haptics.
+    void softImpact() override;
     double mediaTime() const override;
     std::shared_ptr<RepeatingTimer> makeTimer(double interval, std::function<void()> tick) override;
     QString resourceRoot() const override;

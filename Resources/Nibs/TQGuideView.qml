@@ -1,0 +1,208 @@
+import QtQuick
+import QtQuick.Templates as T
+import TQFoundation
+
+// What the guide looks like: the paragraph, which scrolls where it does not fit, and below it the next button. It is laid
+// out in the part of the overlay that the window shows.
+TQGuideView {
+    id: root
+
+    readonly property bool dark: system.window.hslLightness < system.windowText.hslLightness
+    readonly property color ground: backgroundColor.resolved(dark)
+    readonly property color ink: backgroundColor.textColor(dark)
+
+    // Grows with the text size that the user has chosen in the system.
+    readonly property real textSize: Math.max(24, Math.round(systemText.fontInfo.pixelSize * 1.8))
+    readonly property real margin: Math.max(20, Math.min(40, page.width * 0.08))
+
+    guideLabel: label
+    nextButton: button
+    onImpactOccurred: pulse.restart()
+
+    LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+
+    Accessible.role: Accessible.Dialog
+
+    Keys.onUpPressed: scroller.scroll(-2 * textSize)
+    Keys.onDownPressed: scroller.scroll(2 * textSize)
+    Keys.onTabPressed: button.focusReason = Qt.TabFocusReason
+    Keys.onBacktabPressed: button.focusReason = Qt.BacktabFocusReason
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_PageUp)
+            scroller.scroll(-0.9 * scroller.height);
+        else if (event.key === Qt.Key_PageDown)
+            scroller.scroll(0.9 * scroller.height);
+        else if (event.key === Qt.Key_Home)
+            scroller.scroll(-scroller.contentHeight);
+        else if (event.key === Qt.Key_End)
+            scroller.scroll(scroller.contentHeight);
+        event.accepted = false;
+    }
+
+    SystemPalette {
+        id: system
+    }
+
+    Text {
+        id: systemText
+
+        visible: false
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: root.ground
+    }
+
+    Item {
+        id: page
+
+        x: root.shownArea.x
+        y: root.shownArea.y
+        width: root.shownArea.width
+        height: root.shownArea.height
+
+        Flickable {
+            id: scroller
+
+            function scroll(distance: real) {
+                contentY = Math.max(0, Math.min(contentHeight - height, contentY + distance));
+            }
+
+            anchors { left: parent.left; right: parent.right; top: parent.top; bottom: button.top; bottomMargin: root.margin / 2 }
+            contentHeight: Math.max(height, label.height + 1.5 * root.margin)
+            boundsBehavior: Flickable.StopAtBounds
+            interactive: contentHeight > height
+            clip: interactive
+
+            Text {
+                id: label
+
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: Math.max(root.margin, (scroller.contentHeight - height) / 2)
+                width: Math.max(0, Math.min(page.width - 2 * root.margin, 26 * root.textSize))
+                textFormat: Text.PlainText
+                wrapMode: Text.Wrap
+                lineHeight: 1.2
+                font { pixelSize: root.textSize; weight: Font.Medium }
+                color: root.ink
+                onTextChanged: scroller.contentY = 0
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+        }
+
+        // That there is more to read.
+        Rectangle {
+            anchors { left: scroller.left; right: scroller.right; bottom: scroller.bottom }
+            height: root.margin
+            visible: root.ground.a === 1 && scroller.interactive && !scroller.atYEnd
+            gradient: Gradient {
+                GradientStop { position: 0; color: Qt.rgba(root.ground.r, root.ground.g, root.ground.b, 0) }
+                GradientStop { position: 1; color: root.ground }
+            }
+        }
+
+        Rectangle {
+            anchors { right: scroller.right; rightMargin: 4 }
+            y: scroller.y + scroller.visibleArea.yPosition * scroller.height
+            width: 4
+            height: Math.max(24, scroller.visibleArea.heightRatio * scroller.height)
+            radius: 2
+            visible: scroller.interactive
+            color: root.ink
+            opacity: 0.4
+        }
+
+        T.AbstractButton {
+            id: button
+
+            anchors {
+                right: parent.right
+                rightMargin: (page.width - label.width) / 2
+                bottom: parent.bottom
+                bottomMargin: root.margin
+            }
+            width: 60
+            height: 60
+            focus: true
+            focusPolicy: Qt.StrongFocus
+            Accessible.name: root.nextButtonName
+            // Read out with each paragraph, because the button takes the focus again.
+            Accessible.description: label.text
+            Keys.onReturnPressed: event => press(event)
+            Keys.onEnterPressed: event => press(event)
+            onClicked: root.nextGuide(button)
+
+            // Once for each press, however long the key is held.
+            function press(event: KeyEvent) {
+                if (!event.isAutoRepeat)
+                    clicked();
+            }
+
+            background: Rectangle {
+                radius: width / 2
+                color: root.ink
+
+                Rectangle {
+                    visible: button.visualFocus
+                    anchors { fill: parent; margins: -6 }
+                    radius: width / 2
+                    color: "transparent"
+                    border { width: 3; color: root.ink }
+                }
+            }
+
+            contentItem: Arrow {
+                color: Qt.tint(root.dark ? "black" : "white", root.ground)
+                rotation: button.mirrored ? 180 : 0
+            }
+
+            SequentialAnimation {
+                id: pulse
+
+                NumberAnimation { target: button; property: "scale"; to: 0.9; duration: 90; easing.type: Easing.OutQuad }
+                NumberAnimation { target: button; property: "scale"; to: 1; duration: 210; easing.type: Easing.OutQuad }
+            }
+        }
+    }
+
+    component Arrow: Item {
+        id: arrow
+
+        required property color color
+
+        // It is turned as a whole.
+        LayoutMirroring.enabled: false
+        LayoutMirroring.childrenInherit: true
+
+        Rectangle {
+            anchors.centerIn: parent
+            width: 24
+            height: 3
+            radius: 1.5
+            color: arrow.color
+
+            Barb {
+                rotation: 45
+                color: arrow.color
+            }
+
+            Barb {
+                rotation: -45
+                color: arrow.color
+            }
+        }
+    }
+
+    // Half of the head, turned about the tip.
+    component Barb: Rectangle {
+        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        width: 13
+        height: 3
+        radius: 1.5
+        antialiasing: true
+        transformOrigin: Item.Right
+    }
+}

@@ -1,0 +1,498 @@
+#include "TQGuideView.h"
+
+#include "Bundle.h"
+#include "KeyWindow.h"
+#include "LibraryEngine.h"
+#include "OpacityAnimation.h"
+#include "Platform.h"
+#include "Precondition.h"
+#include "Topmost.h"
+
+#include <QtGui/qaccessible.h>
+#include <QtGui/qscreen.h>
+
+#include <limits>
+#include <utility>
+
+namespace TQFoundation {
+namespace {
+
+constexpr double appearing = 0.6; // seconds, as are the next two
+constexpr double disappearing = 0.6;
+constexpr double changing = 0.4; // each half of a change of paragraphs
+
+QString flagKey()
+{
+    return QStringLiteral("KeyOfDidShowGuide");
+}
+
+QQuickItem *connected(QQuickItem *outlet)
+{
+    precondition(outlet);
+    return outlet;
+}
+
+// The overlay that an item lies in, or is.
+TQGuideView *guideAround(QQuickItem *item)
+{
+    while (item && !qobject_cast<TQGuideView *>(item))
+        item = item->parentItem();
+    return qobject_cast<TQGuideView *>(item);
+}
+
+// The item that has the focus in the window, or will have it as soon as the window has it.
+QQuickItem *focusedItem(const QQuickWindow &window)
+{
+    QQuickItem *item = window.contentItem();
+    while (QQuickItem *inside = item->scopedFocusItem())
+        item = inside;
+    return item;
+}
+
+} // namespace
+
+TQGuideView::TQGuideView(QQuickItem *parent) : QQuickItem(parent)
+{
+    setFlag(ItemIsFocusScope);
+    setFlag(ItemAcceptsDrops);
+    setAcceptedMouseButtons(Qt::AllButtons);
+    setAcceptTouchEvents(true);
+    setAcceptHoverEvents(true);
+    // A host that scrolls may not take over a gesture that began on the overlay.
+    setKeepMouseGrab(true);
+    setKeepTouchGrab(true);
+}
+
+TQGuideView::~TQGuideView()
+{
+    leave();
+}
+
+bool TQGuideView::shouldShowGuide()
+{
+    const QVariant stored = platform().userDefault(flagKey());
+    switch (stored.typeId()) {
+    case QMetaType::Bool:
+        return !stored.toBool();
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Float:
+    case QMetaType::Double:
+        return stored.toDouble() != 1;
+    default:
+        return true;
+    }
+}
+
+std::shared_ptr<TQGuideView> TQGuideView::initFromNib(const Color &tintColor, const QStringList &descriptions,
+                                                      const std::function<void()> &completeClosure)
+{
+    std::unique_ptr<QObject> first = makeFromNib(libraryBundle().root() + u"/Nibs/TQGuideView.qml");
+    precondition(qobject_cast<TQGuideView *>(first.get()));
+    const std::shared_ptr<TQGuideView> view(static_cast<TQGuideView *>(first.release()), deleteInItsTurn);
+    // At the end of the application no host and no animation holds it any longer.
+    connect(untilApplicationEnds(), &QObject::destroyed, view.get(), [raw = view.get()] {
+        const auto released = std::exchange(raw->m_heldByHost, nullptr);
+    });
+    view->setBackgroundColor(tintColor);
+    view->setDescriptions(descriptions);
+    view->setCompleteClosure(completeClosure);
+    const double width = platform().screenBounds().width();
+    const double height = platform().screenBounds().height();
+    view->setPosition({0, 0});
+    view->setSize({width, height});
+    return view;
+}
+
+QQuickItem *TQGuideView::guideLabel() const
+{
+    return m_guideLabel;
+}
+
+void TQGuideView::setGuideLabel(QQuickItem *label)
+{
+    if (m_guideLabel == label)
+        return;
+    m_guideLabel = label;
+    Q_EMIT guideLabelChanged();
+}
+
+void TQGuideView::updateGuideLabel(const std::function<void(Outlet &)> &change)
+{
+    Outlet label = m_guideLabel;
+    change(label);
+    TQGuideView::setGuideLabel(label);
+}
+
+QQuickItem *TQGuideView::nextButton() const
+{
+    return m_nextButton;
+}
+
+void TQGuideView::setNextButton(QQuickItem *button)
+{
+    if (m_nextButton == button)
+        return;
+    m_nextButton = button;
+    Q_EMIT nextButtonChanged();
+}
+
+void TQGuideView::updateNextButton(const std::function<void(Outlet &)> &change)
+{
+    Outlet button = m_nextButton;
+    change(button);
+    TQGuideView::setNextButton(button);
+}
+
+std::int64_t TQGuideView::index() const
+{
+    return m_index;
+}
+
+void TQGuideView::setIndex(std::int64_t index)
+{
+    m_index = index;
+}
+
+void TQGuideView::updateIndex(const std::function<void(std::int64_t &)> &change)
+{
+    change(m_index);
+}
+
+QStringList TQGuideView::descriptions() const
+{
+    return m_descriptions;
+}
+
+void TQGuideView::setDescriptions(const QStringList &descriptions)
+{
+    m_descriptions = descriptions;
+}
+
+void TQGuideView::updateDescriptions(const std::function<void(QStringList &)> &change)
+{
+    change(m_descriptions);
+}
+
+std::function<void()> TQGuideView::completeClosure() const
+{
+    return m_completeClosure;
+}
+
+void TQGuideView::setCompleteClosure(const std::function<void()> &closure)
+{
+    m_completeClosure = closure;
+}
+
+void TQGuideView::updateCompleteClosure(const std::function<void(std::function<void()> &)> &change)
+{
+    change(m_completeClosure);
+}
+
+void TQGuideView::showGuide(QQuickWindow *inWindow, QQuickItem *orInView)
+{
+    setOpacity(0);
+    showParagraph();
+    QQuickItem *host = orInView;
+    if (QQuickWindow *window = keyWindow())
+        host = window->contentItem();
+    else if (inWindow)
+        host = inWindow->contentItem();
+    addAsTopmostChild(this, host);
+    takeFocus();
+    announceParagraph();
+    animateOpacity(this, 1, appearing, holding(&TQGuideView::stayAlive));
+}
+
+void TQGuideView::nextGuide(const QVariant &)
+{
+    // The closure of the host may let go of the overlay.
+    const auto alive = weak_from_this().lock();
+    platform().softImpact();
+    Q_EMIT impactOccurred();
+    connected(nextButton())->setEnabled(false);
+    updateIndex([](std::int64_t &index) {
+        precondition(index < std::numeric_limits<std::int64_t>::max());
+        ++index;
+    });
+    if (index() != descriptions().size()) {
+        animateOpacity(connected(guideLabel()), 0, changing, holding(&TQGuideView::showNextParagraph));
+        return;
+    }
+    platform().setUserDefault(flagKey(), true);
+    if (const auto closure = completeClosure())
+        closure();
+    animateOpacity(this, 0, disappearing, holding(&TQGuideView::removeFromHost));
+}
+
+void TQGuideView::showNextParagraph()
+{
+    showParagraph();
+    announceParagraph();
+    animateOpacity(connected(guideLabel()), 1, changing, holding(&TQGuideView::takeTapsAgain));
+}
+
+void TQGuideView::takeTapsAgain()
+{
+    connected(nextButton())->setEnabled(true);
+}
+
+void TQGuideView::removeFromHost()
+{
+    setParentItem(nullptr);
+}
+
+// What an animation calls at its end. It keeps the overlay alive until then; one that no shared pointer holds may go
+// before.
+std::function<void()> TQGuideView::holding(void (TQGuideView::*step)())
+{
+    return [view = QPointer(this), alive = weak_from_this().lock(), step] {
+        if (view)
+            (view->*step)();
+    };
+}
+
+void TQGuideView::showParagraph()
+{
+    const QStringList paragraphs = descriptions();
+    const std::int64_t shown = index();
+    precondition(shown >= 0 && shown < paragraphs.size());
+    connected(guideLabel())->setProperty("text", paragraphs.at(static_cast<qsizetype>(shown)));
+}
+
+void TQGuideView::announceParagraph()
+{
+    if (QQuickItem *label = guideLabel(); label && QAccessible::isActive()) {
+        QAccessibleEvent alert(label, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
+}
+
+void TQGuideView::setBackgroundColor(const Color &color)
+{
+    if (m_backgroundColor == color)
+        return;
+    m_backgroundColor = color;
+    Q_EMIT backgroundColorChanged();
+}
+
+QString TQGuideView::nextButtonName()
+{
+    //: What a screen reader calls the button that leads to the next page of an introduction.
+    return libraryBundle().interfaceString(QLatin1String(QT_TRANSLATE_NOOP("TQFoundationInterface", "Next")));
+}
+
+// A window may be larger than the screen whose size the overlay has; what the user does beside it is not for the host
+// either.
+bool TQGuideView::contains(const QPointF &point) const
+{
+    return (m_window && parentItem() == m_window->contentItem()) || QQuickItem::contains(point);
+}
+
+void TQGuideView::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    QQuickItem::itemChange(change, data);
+    if (change == ItemParentHasChanged) {
+        // Let go of at the end, because the host may have been the last to hold the overlay.
+        const auto released = std::exchange(m_heldByHost, data.item ? weak_from_this().lock() : nullptr);
+        updateShownArea();
+    } else if (change == ItemSceneChange) {
+        leave();
+        if (data.window)
+            enter(data.window);
+        updateShownArea();
+    }
+}
+
+void TQGuideView::enter(QQuickWindow *window)
+{
+    m_window = window;
+    window->installEventFilter(this);
+    connect(window, &QQuickWindow::afterAnimating, this, &TQGuideView::updateShownArea);
+    // The focus is taken back, unless it merely left the overlay or went to one that lies on top of it.
+    connect(window, &QQuickWindow::activeFocusItemChanged, this, [this] {
+        QQuickItem *focused = m_window ? m_window->activeFocusItem() : nullptr;
+        if (focused && !focused->isAncestorOf(this))
+            takeFocus();
+    });
+    // A gesture that is under way goes on elsewhere.
+    if (QQuickItem *grabber = window->mouseGrabberItem(); grabber && !isAncestorOf(grabber))
+        grabber->ungrabMouse();
+    connect(window->contentItem(), &QQuickItem::childrenChanged, this, &TQGuideView::silencePopups,
+            Qt::QueuedConnection);
+    silencePopups();
+}
+
+void TQGuideView::leave()
+{
+    QQuickWindow *window = m_window;
+    m_window = nullptr;
+    if (!window)
+        return;
+    window->removeEventFilter(this);
+    window->disconnect(this);
+    if (QQuickItem *content = window->contentItem()) {
+        content->disconnect(this);
+        const QList<QQuickItem *> children = content->childItems();
+        for (QQuickItem *child : children) {
+            if (child->inherits("QQuickOverlay"))
+                window->installEventFilter(child);
+        }
+        giveFocusBack(window);
+    }
+}
+
+// The layer that holds a window's popups looks at all that happens in the window before any item does, and closes or
+// shields popups by it. It is under the overlay, and has to rest.
+void TQGuideView::silencePopups()
+{
+    if (!m_window)
+        return;
+    const QList<QQuickItem *> children = m_window->contentItem()->childItems();
+    for (QQuickItem *child : children) {
+        if (child->inherits("QQuickOverlay"))
+            m_window->removeEventFilter(child);
+    }
+}
+
+void TQGuideView::takeFocus()
+{
+    if (!m_window || !m_window->contentItem())
+        return;
+    QQuickItem *focused = focusedItem(*m_window);
+    if (guideAround(focused))
+        return;
+    if (focused != m_window->contentItem())
+        m_formerFocus = focused;
+    forceActiveFocus();
+}
+
+void TQGuideView::giveFocusBack(QQuickWindow *window)
+{
+    QQuickItem *former = m_formerFocus;
+    m_formerFocus = nullptr;
+    if (former && former->window() == window && former->isVisible() && former->isEnabled()
+        && !guideAround(focusedItem(*window)))
+        former->forceActiveFocus();
+}
+
+void TQGuideView::updateShownArea()
+{
+    QRectF shown(0, 0, width(), height());
+    if (m_window && m_window->contentItem()) {
+        const QQuickItem *content = m_window->contentItem();
+        shown &= mapRectFromItem(content, QRectF(QPointF(), content->size()));
+        for (const QQuickItem *around = parentItem(); around; around = around->parentItem()) {
+            if (around->clip())
+                shown &= mapRectFromItem(around, around->clipRect());
+        }
+        // Only windows that ask for all of the screen lie under its bars and notches.
+        const bool underBars = m_window->flags().testFlag(Qt::MaximizeUsingFullscreenGeometryHint)
+            || m_window->visibility() == QWindow::FullScreen;
+        if (const QScreen *screen = m_window->screen(); screen && underBars) {
+            const QRectF clear = screen->availableGeometry();
+            shown &= QRectF(mapFromGlobal(clear.topLeft()), mapFromGlobal(clear.bottomRight()));
+        }
+    }
+    if (m_shownArea == shown)
+        return;
+    m_shownArea = shown;
+    Q_EMIT shownAreaChanged();
+}
+
+void TQGuideView::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    updateShownArea();
+}
+
+bool TQGuideView::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        // Accepted, it is a mere key press and no shortcut of the host.
+        event->accept();
+        return true;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        if (m_window && guideAround(m_window->activeFocusItem()))
+            return false;
+        event->accept();
+        return true;
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease:
+        // Ignored, it comes again as a mouse event, which the overlay can take.
+        event->ignore();
+        return true;
+    case QEvent::NativeGesture:
+        return true;
+    default:
+        return QQuickItem::eventFilter(watched, event);
+    }
+}
+
+void TQGuideView::keyPressEvent(QKeyEvent *event)
+{
+    event->accept();
+}
+
+void TQGuideView::keyReleaseEvent(QKeyEvent *event)
+{
+    event->accept();
+}
+
+void TQGuideView::mousePressEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
+void TQGuideView::mouseMoveEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
+void TQGuideView::mouseReleaseEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
+void TQGuideView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
+void TQGuideView::wheelEvent(QWheelEvent *event)
+{
+    event->accept();
+}
+
+void TQGuideView::touchEvent(QTouchEvent *event)
+{
+    event->accept();
+}
+
+void TQGuideView::hoverEnterEvent(QHoverEvent *event)
+{
+    event->accept();
+}
+
+void TQGuideView::hoverMoveEvent(QHoverEvent *event)
+{
+    event->accept();
+}
+
+void TQGuideView::hoverLeaveEvent(QHoverEvent *event)
+{
+    event->accept();
+}
+
+void TQGuideView::dragEnterEvent(QDragEnterEvent *event)
+{
+    event->setDropAction(Qt::IgnoreAction);
+    event->accept();
+}
+
+} // namespace TQFoundation

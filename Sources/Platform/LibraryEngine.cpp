@@ -1,0 +1,77 @@
+#include "LibraryEngine.h"
+
+#include <QtCore/qcoreapplication.h>
+#include <QtCore/qurl.h>
+#include <QtQml/qqmlabstracturlinterceptor.h>
+#include <QtQml/qqmlcomponent.h>
+#include <QtQml/qqmlengine.h>
+#include <QtQuick/qquickitem.h>
+
+#include <utility>
+
+namespace TQFoundation {
+namespace {
+
+/// Lets the library's own files show and load only what lies in resources or in files.
+class LocalOnly final : public QQmlAbstractUrlInterceptor
+{
+public:
+    QUrl intercept(const QUrl &url, DataType) override
+    {
+        const QString scheme = url.scheme();
+        const bool local = scheme.isEmpty() || scheme == u"qrc" || scheme == u"file";
+        return local ? url : QUrl();
+    }
+};
+
+struct Library
+{
+    Library() { engine.addUrlInterceptor(&localOnly); }
+
+    LocalOnly localOnly;
+    QQmlEngine engine;
+    QObject belongings;
+};
+
+Library *living = nullptr;
+
+Library *library()
+{
+    if (!living) {
+        living = new Library;
+        // Forgotten first, because what goes with it may ask for it.
+        qAddPostRoutine([] { delete std::exchange(living, nullptr); });
+    }
+    return living;
+}
+
+} // namespace
+
+std::unique_ptr<QObject> makeFromNib(const QString &path)
+{
+    QQmlComponent component(&library()->engine, path.startsWith(u':') ? QUrl(QString(u"qrc" + path))
+                                                                      : QUrl::fromLocalFile(path));
+    std::unique_ptr<QObject> object(component.create());
+    if (object)
+        QJSEngine::setObjectOwnership(object.get(), QJSEngine::CppOwnership);
+    return object;
+}
+
+QObject *untilApplicationEnds()
+{
+    return &library()->belongings;
+}
+
+void deleteInItsTurn(QObject *object)
+{
+    if (!living) {
+        delete object;
+        return;
+    }
+    if (auto *item = qobject_cast<QQuickItem *>(object))
+        item->setParentItem(nullptr);
+    object->setParent(&living->belongings);
+    object->deleteLater();
+}
+
+} // namespace TQFoundation

@@ -1,0 +1,88 @@
+#include "ViewController.h"
+
+#include "Topmost.h"
+
+#include <QtCore/qvariant.h>
+#include <QtQuick/qquickwindow.h>
+
+#include <utility>
+
+namespace TQFoundation {
+namespace {
+
+// The window holds its root controller as a dynamic property, so that it goes when the window does.
+constexpr char rootProperty[] = "_tq_rootViewController";
+
+} // namespace
+
+ViewController::ViewController(QQuickItem *view) : m_view(view) {}
+
+ViewController::~ViewController()
+{
+    if (m_presented)
+        m_presented->m_presenting = nullptr;
+}
+
+void ViewController::present(std::shared_ptr<ViewController> next)
+{
+    if (!next || next->m_presenting || m_presented)
+        return;
+    for (const ViewController *link = this; link; link = link->m_presenting) {
+        if (link == next.get())
+            return;
+    }
+    next->m_presenting = this;
+    m_presented = std::move(next);
+    // The nearest view below tells the window: controllers without a view are passed over.
+    const ViewController *link = this;
+    while (link && !link->m_view)
+        link = link->m_presenting;
+    m_presented->appear(link ? link->m_view->window() : nullptr);
+}
+
+void ViewController::dismiss()
+{
+    ViewController *presenter = m_presented ? this : m_presenting;
+    if (!presenter)
+        return;
+    const auto dismissed = presenter->m_presented;
+    if (dismissed->m_presented)
+        dismissed->dismiss();
+    presenter->m_presented = nullptr;
+    dismissed->m_presenting = nullptr;
+    dismissed->disappear();
+}
+
+std::shared_ptr<ViewController> ViewController::rootOf(QWindow *window)
+{
+    auto *quick = qobject_cast<QQuickWindow *>(window);
+    // A window that is being destroyed has no content any more.
+    if (!quick || !quick->contentItem())
+        return nullptr;
+    auto root = quick->property(rootProperty).value<std::shared_ptr<ViewController>>();
+    if (!root) {
+        root = std::make_shared<ViewController>(quick->contentItem());
+        setRoot(quick, root);
+    }
+    return root;
+}
+
+void ViewController::setRoot(QQuickWindow *window, const std::shared_ptr<ViewController> &root)
+{
+    if (window)
+        window->setProperty(rootProperty, root ? QVariant::fromValue(root) : QVariant());
+}
+
+void ViewController::appear(QQuickWindow *window)
+{
+    if (m_view && window)
+        addAsTopmostChild(m_view, window->contentItem());
+}
+
+void ViewController::disappear()
+{
+    if (m_view)
+        m_view->setParentItem(nullptr);
+}
+
+} // namespace TQFoundation

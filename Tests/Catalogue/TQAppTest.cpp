@@ -295,7 +295,7 @@ TEST(Icon, IsTheAverageOfItsArtworkAndSoNeitherJaggedNorBlurred)
     const InstalledRecordingPlatform platform;
     platform->scale = 1;
     constexpr int block = 6; // the artwork's pixels for each of the thumbnail's
-    const QImage artwork = QImage(QStringLiteral(":/TQFoundation/Icons/larch-page.png"))
+    const QImage artwork = QImage(QStringLiteral(":/qt-project.org/imports/TQFoundation/Icons/larch-page.png"))
                                .convertToFormat(QImage::Format_ARGB32_Premultiplied);
     const QImage icon = TQApp::larch.icon().convertToFormat(QImage::Format_ARGB32_Premultiplied);
     ASSERT_EQ(artwork.size(), icon.size() * block);

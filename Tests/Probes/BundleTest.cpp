@@ -20,7 +20,7 @@ const QString version = QStringLiteral("Version");
 TEST(Bundle, IsAskedForAtEveryUse)
 {
     const InstalledRecordingPlatform platform;
-    EXPECT_EQ(libraryBundle().root(), QStringLiteral(":/TQFoundation"));
+    EXPECT_EQ(libraryBundle().root(), QStringLiteral(":/qt-project.org/imports/TQFoundation"));
     platform->root = QStringLiteral("/elsewhere");
     EXPECT_EQ(libraryBundle().root(), QStringLiteral("/elsewhere"));
 }
@@ -75,7 +75,7 @@ TEST(Bundle, TheLanguageIsChosenOncePerProcess)
     EXPECT_EQ(localizedInLibrary(version), QStringLiteral("版本"));
     useLanguage("de-DE");
     EXPECT_EQ(localizedInLibrary(version), QStringLiteral("版本"));
-    EXPECT_EQ(Bundle(QStringLiteral(":/TQFoundation/.")).localizedString(version), QStringLiteral("版本"));
+    EXPECT_EQ(Bundle(QStringLiteral(":/qt-project.org/imports/TQFoundation/.")).localizedString(version), QStringLiteral("版本"));
 }
 
 TEST(Bundle, ABrokenTableCountsAsNone)
@@ -95,7 +95,7 @@ TEST(Bundle, EveryTruncatedTableIsSurvived)
 {
     const QTemporaryDir folder;
     ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("Translations")));
-    QFile whole(QStringLiteral(":/TQFoundation/Translations/TQFoundation_zh_Hans.qm"));
+    QFile whole(QStringLiteral(":/qt-project.org/imports/TQFoundation/Translations/TQFoundation_zh_Hans.qm"));
     ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
     const QByteArray content = whole.readAll();
 

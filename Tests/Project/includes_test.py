@@ -9,6 +9,7 @@ ALLOWED = {
     "Probes": {"Platform", "Probes"},
     "Catalogue": {"Platform", "Probes", "Catalogue"},
     "More": {"Platform", "Probes", "Catalogue", "More"},
+    "Guide": {"Platform", "Probes", "Catalogue", "More", "Guide"},
 }
 
 root = pathlib.Path(sys.argv[1]) / "Sources"

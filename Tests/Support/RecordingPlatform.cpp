@@ -131,6 +131,11 @@ void RecordingPlatform::openUrl(const QUrl &url)
     record(u"openUrl(" + url.toString(QUrl::FullyEncoded) + u')');
 }
 
+void RecordingPlatform::softImpact()
+{
+    record(QStringLiteral("softImpact()"));
+}
+
 double RecordingPlatform::mediaTime() const
 {
     return m_now;

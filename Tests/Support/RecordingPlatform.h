@@ -30,7 +30,7 @@ public:
     QVariantMap infoDictionary;
     QVariantMap defaults;
     QList<Scene> scenes;
-    QString root = QStringLiteral(":/TQFoundation");
+    QString root = QStringLiteral(":/qt-project.org/imports/TQFoundation");
 
     /// The calls in their order, each the function's name with its arguments in parentheses.
     mutable QStringList calls;
@@ -59,6 +59,7 @@ public:
     void setUserDefault(const QString &key, const QVariant &value) override;
     QList<Scene> connectedScenes() const override;
     void openUrl(const QUrl &url) override;
+    void softImpact() override;
     double mediaTime() const override;
     std::shared_ptr<RepeatingTimer> makeTimer(double interval, std::function<void()> tick) override;
     QString resourceRoot() const override;

@@ -1,0 +1,148 @@
+#include <TQFoundation/ViewController.h>
+
+#include "QmlWindow.h"
+#include "Scenes.h"
+
+#include <QtQuick/qquickwindow.h>
+
+#include <gtest/gtest.h>
+
+namespace TQFoundation {
+namespace {
+
+using Controller = std::shared_ptr<ViewController>;
+
+Controller controller(QQuickItem *view = nullptr)
+{
+    return std::make_shared<ViewController>(view);
+}
+
+TEST(ViewController, EachWindowHasOneRootWhoseViewIsItsContent)
+{
+    QQuickWindow one;
+    QQuickWindow other;
+    const Controller root = ViewController::rootOf(&one);
+    ASSERT_TRUE(root);
+    EXPECT_EQ(root->view(), one.contentItem());
+    EXPECT_EQ(ViewController::rootOf(&one), root);
+    EXPECT_NE(ViewController::rootOf(&other), root);
+}
+
+TEST(ViewController, AWindowThatIsNotOfQtQuickHasNoRoot)
+{
+    QWindow window;
+    EXPECT_EQ(ViewController::rootOf(&window), nullptr);
+    EXPECT_EQ(ViewController::rootOf(nullptr), nullptr);
+}
+
+TEST(ViewController, AHostMaySetItsOwnRoot)
+{
+    QQuickWindow window;
+    const Controller own = controller();
+    ViewController::setRoot(&window, own);
+    EXPECT_EQ(ViewController::rootOf(&window), own);
+    ViewController::setRoot(&window, nullptr);
+    EXPECT_NE(ViewController::rootOf(&window), own);
+    ViewController::setRoot(nullptr, own);
+}
+
+TEST(ViewController, AWindowTakesItsRootAndWhatThatPresentsAlong)
+{
+    std::weak_ptr<ViewController> root;
+    std::weak_ptr<ViewController> presented;
+    {
+        QQuickWindow window;
+        root = ViewController::rootOf(&window);
+        const Controller next = controller();
+        root.lock()->present(next);
+        presented = next;
+    }
+    EXPECT_TRUE(root.expired());
+    EXPECT_TRUE(presented.expired());
+}
+
+TEST(ViewController, PresentingShowsTheViewOverEverythingAndDismissingTakesItAway)
+{
+    Testing::QmlWindow host("Item { Rectangle { z: 5 } }");
+    QQuickItem view;
+    const Controller next = controller(&view);
+    const Controller root = ViewController::rootOf(&host.window);
+    root->present(next);
+    EXPECT_EQ(root->presentedViewController(), next);
+    EXPECT_EQ(view.parentItem(), host.window.contentItem());
+    const QList<QQuickItem *> siblings = host.window.contentItem()->childItems();
+    for (const QQuickItem *sibling : siblings)
+        EXPECT_TRUE(sibling == &view || sibling->z() < view.z());
+    next->dismiss();
+    EXPECT_EQ(root->presentedViewController(), nullptr);
+    EXPECT_EQ(view.parentItem(), nullptr);
+}
+
+TEST(ViewController, AControllerWithoutAViewPassesTheWindowOn)
+{
+    QQuickWindow window;
+    QQuickItem view;
+    const Controller hosts = controller();
+    const Controller next = controller(&view);
+    ViewController::rootOf(&window)->present(hosts);
+    hosts->present(next);
+    EXPECT_EQ(view.window(), &window);
+}
+
+TEST(ViewController, DismissingTakesAwayAllThatLiesOnTop)
+{
+    QQuickWindow window;
+    QQuickItem views[3];
+    const Controller root = ViewController::rootOf(&window);
+    const Controller first = controller(&views[0]);
+    const Controller second = controller(&views[1]);
+    const Controller third = controller(&views[2]);
+    root->present(first);
+    first->present(second);
+    second->present(third);
+    root->dismiss();
+    EXPECT_EQ(root->presentedViewController(), nullptr);
+    EXPECT_EQ(first->presentedViewController(), nullptr);
+    EXPECT_EQ(second->presentedViewController(), nullptr);
+    for (const QQuickItem &view : views)
+        EXPECT_EQ(view.parentItem(), nullptr);
+    // And each can be presented anew.
+    third->present(first);
+    EXPECT_EQ(third->presentedViewController(), first);
+}
+
+TEST(ViewController, RefusesWhatCannotBePresented)
+{
+    const Controller root = controller();
+    const Controller first = controller();
+    const Controller second = controller();
+    root->dismiss();
+    root->present(nullptr);
+    root->present(root);
+    EXPECT_EQ(root->presentedViewController(), nullptr);
+    root->present(first);
+    root->present(second);
+    EXPECT_EQ(root->presentedViewController(), first) << "one at a time";
+    second->present(first);
+    EXPECT_EQ(second->presentedViewController(), nullptr) << "presented elsewhere";
+    first->present(root);
+    EXPECT_EQ(first->presentedViewController(), nullptr) << "the chain has no cycle";
+}
+
+TEST(ViewController, OutlivesItsViewAndItsPresenter)
+{
+    auto view = std::make_unique<QQuickItem>();
+    const Controller next = controller(view.get());
+    controller()->present(next);
+    EXPECT_FALSE(next->presentedViewController());
+    view.reset();
+    EXPECT_EQ(next->view(), nullptr);
+    next->dismiss();
+    Controller root = controller();
+    root->present(next);
+    root.reset();
+    next->dismiss();
+}
+
+} // namespace
+} // namespace TQFoundation

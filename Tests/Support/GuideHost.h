@@ -1,0 +1,88 @@
+#pragma once
+
+#include "AnimationClock.h"
+#include "RecordingPlatform.h"
+#include "Scenes.h"
+
+#include <TQFoundation/TQGuideView.h>
+
+#include <QtCore/qdir.h>
+#include <QtCore/qfile.h>
+#include <QtCore/qtemporarydir.h>
+#include <QtQuick/qquickwindow.h>
+#include <QtTest/qtest.h>
+
+#include <gtest/gtest.h>
+
+namespace TQFoundation::Testing {
+
+/// A library's bundle that holds one nib.
+class NibBundle
+{
+public:
+    explicit NibBundle(const QByteArray &qml)
+    {
+        QDir(m_folder.path()).mkdir(QStringLiteral("Nibs"));
+        QFile nib(m_folder.filePath(QStringLiteral("Nibs/TQGuideView.qml")));
+        EXPECT_TRUE(nib.open(QIODevice::WriteOnly));
+        nib.write(qml);
+    }
+
+    QString root() const { return m_folder.path(); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+/// An app that shows a guide: a window that is key, a platform that writes everything down, time by hand.
+class GuideHost : public testing::Test
+{
+protected:
+    GuideHost()
+    {
+        window.setColor(Qt::white);
+        window.resize(390, 700);
+        window.show();
+        window.requestActivate();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        platform->scenes = keyScene(&window);
+    }
+
+    std::shared_ptr<TQGuideView> made(const QStringList &paragraphs)
+    {
+        return TQGuideView::initFromNib(Color::systemBlue(), paragraphs, [this] {
+            ++completed;
+            platform->calls.append(QStringLiteral("completeClosure"));
+        });
+    }
+
+    std::shared_ptr<TQGuideView> shown(const QStringList &paragraphs)
+    {
+        const auto guide = made(paragraphs);
+        guide->showGuide();
+        return guide;
+    }
+
+    static QStringList paragraphs(int count)
+    {
+        QStringList texts;
+        for (int number = 0; number < count; ++number)
+            texts += QStringLiteral("Paragraph %1").arg(number);
+        return texts;
+    }
+
+    static QString textOf(const TQGuideView &guide) { return guide.guideLabel()->property("text").toString(); }
+
+    void click(const QQuickItem *item)
+    {
+        const QPointF middle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+        QTest::mouseClick(item->window(), Qt::LeftButton, {}, middle.toPoint());
+    }
+
+    InstalledRecordingPlatform platform;
+    AnimationClock clock;
+    QQuickWindow window;
+    int completed = 0;
+};
+
+} // namespace TQFoundation::Testing

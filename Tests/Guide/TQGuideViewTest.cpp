@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace TQFoundation {
 namespace {
@@ -78,6 +79,13 @@ protected:
         platform->root = bundle.root();
         const auto guide = std::dynamic_pointer_cast<ProbeGuideView>(made(texts));
         EXPECT_TRUE(guide);
+        return guide;
+    }
+
+    std::shared_ptr<ProbeGuideView> shownProbe(const QStringList &texts)
+    {
+        const auto guide = probe(texts);
+        guide->showGuide();
         return guide;
     }
 };
@@ -200,7 +208,7 @@ TEST_F(Guide, TheNibsObjectIsAnOverlayWithItsOutletsAndActionInTheMetaObject)
 
 TEST_F(Guide, OutletsAreWeak)
 {
-    const auto guide = made(paragraphs(1));
+    const auto guide = probe(paragraphs(1));
     delete guide->guideLabel();
     delete guide->nextButton();
     EXPECT_EQ(guide->guideLabel(), nullptr);
@@ -590,7 +598,7 @@ TEST_F(Guide, AnOutletThatWasNeverConnectedStopsTheProcess)
 
 TEST_F(Guide, ALabelThatGoesDuringItsFadeOutStopsTheProcess)
 {
-    const auto guide = shown(paragraphs(2));
+    const auto guide = shownProbe(paragraphs(2));
     guide->nextGuide();
     clock.pass(200);
     delete guide->guideLabel();
@@ -599,7 +607,7 @@ TEST_F(Guide, ALabelThatGoesDuringItsFadeOutStopsTheProcess)
 
 TEST_F(Guide, ALabelThatGoesDuringItsFadeInIsNotMissed)
 {
-    const auto guide = shown(paragraphs(2));
+    const auto guide = shownProbe(paragraphs(2));
     guide->nextGuide();
     clock.pass(600);
     delete guide->guideLabel();
@@ -609,7 +617,7 @@ TEST_F(Guide, ALabelThatGoesDuringItsFadeInIsNotMissed)
 
 TEST_F(Guide, AButtonThatGoesDuringAChangeStopsTheProcess)
 {
-    const auto guide = shown(paragraphs(2));
+    const auto guide = shownProbe(paragraphs(2));
     guide->nextGuide();
     clock.pass(600);
     delete guide->nextButton();
@@ -618,7 +626,7 @@ TEST_F(Guide, AButtonThatGoesDuringAChangeStopsTheProcess)
 
 TEST_F(Guide, TheLastTapNeedsNoLabel)
 {
-    const auto guide = shown(paragraphs(1));
+    const auto guide = shownProbe(paragraphs(1));
     delete guide->guideLabel();
     guide->nextGuide();
     clock.pass(600);
@@ -670,13 +678,16 @@ TEST_F(Guide, AClosureMayDestroyTheHost)
 {
     auto host = std::make_unique<QQuickWindow>();
     platform->scenes = Testing::keyScene(host.get());
-    std::weak_ptr<TQGuideView> guide =
-        TQGuideView::initFromNib(Color::label(), paragraphs(1), [&] { host.reset(); });
-    guide.lock()->showGuide();
+    auto guide = TQGuideView::initFromNib(Color::label(), paragraphs(1), [&] { host.reset(); });
+    guide->showGuide();
     clock.pass(600);
-    guide.lock()->nextGuide();
-    clock.pass(600);
-    EXPECT_TRUE(guide.expired());
+    const std::weak_ptr<TQGuideView> observed = std::exchange(guide, nullptr);
+    observed.lock()->nextGuide();
+    EXPECT_FALSE(host);
+    clock.pass(590);
+    EXPECT_FALSE(observed.expired());
+    clock.pass(10);
+    EXPECT_TRUE(observed.expired());
 }
 
 TEST_F(Guide, IsDestroyedInItsTurnWhenItsOwnButtonEndsIt)
@@ -691,7 +702,9 @@ TEST_F(Guide, IsDestroyedInItsTurnWhenItsOwnButtonEndsIt)
     clock.pass(600);
     const QPointer<TQGuideView> guide(raw);
     click(raw->nextButton());
-    clock.pass(700);
+    EXPECT_FALSE(guide.isNull());
+    clock.pass(600);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(guide.isNull());
 }
 
@@ -714,8 +727,6 @@ TEST_F(Guide, AnOverlayThatNobodyAdoptedMayGoAtAnyMoment)
     auto guide = std::make_unique<TQGuideView>();
     QQuickItem label;
     guide->setGuideLabel(&label);
-    auto *probing = static_cast<ProbeGuideView *>(nullptr);
-    static_cast<void>(probing);
     guide->setParentItem(window.contentItem());
     guide.reset();
     clock.pass(100);

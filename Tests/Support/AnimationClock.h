@@ -16,12 +16,12 @@ public:
     void pass(int milliseconds)
     {
         constexpr int step = 10;
-        // Animations start when control is back in the event loop.
-        QCoreApplication::processEvents();
+        settle();
         for (int passed = 0; passed < milliseconds; passed += step) {
             m_elapsed += step;
-            advanceAnimation();
-            QCoreApplication::processEvents();
+            if (isRunning())
+                advanceAnimation();
+            settle();
         }
     }
 
@@ -35,6 +35,13 @@ protected:
     }
 
 private:
+    // An animation starts when two events, each posted by the one before, have been handled.
+    static void settle()
+    {
+        for (int round = 0; round < 2; ++round)
+            QCoreApplication::processEvents();
+    }
+
     qint64 m_elapsed = 0;
 };
 

@@ -165,4 +165,12 @@ Mit den besten Wünschen und vorzüglicher Hochachtung</translation>
         <translation>Kontakt: </translation>
     </message>
 </context>
+<context>
+    <name>TQFoundationInterface</name>
+    <message>
+        <source>Next</source>
+        <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
+        <translation>Weiter</translation>
+    </message>
+</context>
 </TS>

@@ -165,4 +165,12 @@ Best regards.</translation>
         <translation>Contact: </translation>
     </message>
 </context>
+<context>
+    <name>TQFoundationInterface</name>
+    <message>
+        <source>Next</source>
+        <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
+        <translation>Next</translation>
+    </message>
+</context>
 </TS>

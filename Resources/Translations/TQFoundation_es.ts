@@ -165,4 +165,12 @@ Reciba mis más respetuosos saludos y mis mejores deseos.</translation>
         <translation>Contacto: </translation>
     </message>
 </context>
+<context>
+    <name>TQFoundationInterface</name>
+    <message>
+        <source>Next</source>
+        <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
+        <translation>Siguiente</translation>
+    </message>
+</context>
 </TS>

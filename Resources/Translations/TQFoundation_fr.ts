@@ -37,9 +37,9 @@ At each step in time, the following transitions occur:</source>
         <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
         <translation>Bienvenue dans Hazel Grid.
 
-Le jeu se déroule sur une grille orthogonale infinie, à deux dimensions, faite de cellules carrées. Chaque cellule se trouve dans l’un des deux états possibles : vivante ou morte.
+Le jeu se déroule sur une grille orthogonale infinie, à deux dimensions, faite de cellules carrées. Chaque cellule se trouve dans l’un des deux états possibles&#xa0;: vivante ou morte.
 
-À chaque pas de temps, les transitions suivantes se produisent :</translation>
+À chaque pas de temps, les transitions suivantes se produisent&#xa0;:</translation>
     </message>
     <message>
         <source>1.
@@ -85,7 +85,7 @@ Bien à vous.</translation>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
-        <translation>Bienvenue dans « 青岚 » (Qinglan).
+        <translation>Bienvenue dans «&#xa0;青岚&#xa0;» (Qinglan).
 
 Saisissez des caractères chinois, l’un après l’autre, et devinez le bon en six essais, en vous fiant aux traits et à leur ordre.</translation>
     </message>
@@ -95,7 +95,7 @@ Saisissez des caractères chinois, l’un après l’autre, et devinez le bon en
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
         <translation>Saisissez un caractère chinois valide, puis appuyez sur la touche Entrée pour le proposer.
 
-Après chaque essai, la couleur des traits peut changer :</translation>
+Après chaque essai, la couleur des traits peut changer&#xa0;:</translation>
     </message>
     <message>
         <source>绿色，
@@ -103,7 +103,7 @@ Après chaque essai, la couleur des traits peut changer :</translation>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
-        <translation>Vert :
+        <translation>Vert&#xa0;:
 
 Le bon caractère contient ce trait, et sa place dans l’ordre des traits est juste.
 
@@ -115,7 +115,7 @@ Tous les traits concernés s’affichent, dans le bon caractère comme dans le c
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
-        <translation>Gris :
+        <translation>Gris&#xa0;:
 
 Le bon caractère contient bien ce trait, mais sa place dans l’ordre des traits n’est pas la bonne.
 
@@ -125,7 +125,7 @@ Si plusieurs de ces traits sont identiques, un seul s’affiche dans le bon cara
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
-        <translation>Il ne me reste plus qu’à vous souhaiter beaucoup de plaisir avec « 青岚 ».
+        <translation>Il ne me reste plus qu’à vous souhaiter beaucoup de plaisir avec «&#xa0;青岚&#xa0;».
 
 Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
     </message>
@@ -162,7 +162,15 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
     <message>
         <source>Contact: </source>
         <extracomment>Begins the subject of a feedback mail, before the app&apos;s name; ends in one blank.</extracomment>
-        <translation>Contact : </translation>
+        <translation>Contact&#xa0;: </translation>
+    </message>
+</context>
+<context>
+    <name>TQFoundationInterface</name>
+    <message>
+        <source>Next</source>
+        <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
+        <translation>Suivant</translation>
     </message>
 </context>
 </TS>

@@ -165,4 +165,12 @@ Voglia gradire, con i migliori auguri, i miei più distinti saluti.</translation
         <translation>Contatto: </translation>
     </message>
 </context>
+<context>
+    <name>TQFoundationInterface</name>
+    <message>
+        <source>Next</source>
+        <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
+        <translation>Avanti</translation>
+    </message>
+</context>
 </TS>

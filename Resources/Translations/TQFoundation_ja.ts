@@ -165,4 +165,12 @@ Best regards.</source>
         <translation>お問い合わせ： </translation>
     </message>
 </context>
+<context>
+    <name>TQFoundationInterface</name>
+    <message>
+        <source>Next</source>
+        <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
+        <translation>次へ</translation>
+    </message>
+</context>
 </TS>

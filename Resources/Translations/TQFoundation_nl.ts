@@ -165,4 +165,12 @@ Met de meeste hoogachting en mijn beste wensen</translation>
         <translation>Contact: </translation>
     </message>
 </context>
+<context>
+    <name>TQFoundationInterface</name>
+    <message>
+        <source>Next</source>
+        <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
+        <translation>Volgende</translation>
+    </message>
+</context>
 </TS>

@@ -165,4 +165,12 @@ Receba meus sinceros votos de estima e consideração.</translation>
         <translation>Contato: </translation>
     </message>
 </context>
+<context>
+    <name>TQFoundationInterface</name>
+    <message>
+        <source>Next</source>
+        <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
+        <translation>Avançar</translation>
+    </message>
+</context>
 </TS>

@@ -35,9 +35,9 @@ The game is an infinite, two-dimensional orthogonal grid of square cells, each o
 
 At each step in time, the following transitions occur:</source>
         <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
-        <translation>Добро пожаловать в Hazel Grid.
+        <translation>Добро пожаловать в&#xa0;Hazel Grid.
 
-Игра представляет собой бесконечную двумерную ортогональную сетку из квадратных клеток, каждая из которых находится в одном из двух состояний: живая или мёртвая.
+Игра представляет собой бесконечную двумерную ортогональную сетку из квадратных клеток, каждая из которых находится в&#xa0;одном из двух состояний: живая или мёртвая.
 
 На каждом шаге времени происходят следующие переходы:</translation>
     </message>
@@ -47,7 +47,7 @@ At each step in time, the following transitions occur:</source>
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
         <translation>1.
 
-Любая живая клетка, у которой меньше двух живых соседей, погибает, словно от одиночества.</translation>
+Любая живая клетка, у&#xa0;которой меньше двух живых соседей, погибает, словно от одиночества.</translation>
     </message>
     <message>
         <source>2.
@@ -55,7 +55,7 @@ Any live cell with fewer than two live neighbours dies, as if by underpopulation
 Any live cell with two or three live neighbours lives on to the next generation.</source>
         <translation>2.
 
-Любая живая клетка, у которой два или три живых соседа, продолжает жить в следующем поколении.</translation>
+Любая живая клетка, у&#xa0;которой два или три живых соседа, продолжает жить в&#xa0;следующем поколении.</translation>
     </message>
     <message>
         <source>3.
@@ -63,7 +63,7 @@ Any live cell with two or three live neighbours lives on to the next generation.
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
         <translation>3.
 
-Любая живая клетка, у которой больше трёх живых соседей, погибает, словно от перенаселённости.</translation>
+Любая живая клетка, у&#xa0;которой больше трёх живых соседей, погибает, словно от перенаселённости.</translation>
     </message>
     <message>
         <source>4.
@@ -71,29 +71,29 @@ Any live cell with more than three live neighbours dies, as if by overpopulation
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
         <translation>4.
 
-Любая мёртвая клетка, у которой ровно три живых соседа, становится живой, словно в результате размножения.</translation>
+Любая мёртвая клетка, у&#xa0;которой ровно три живых соседа, становится живой, словно в&#xa0;результате размножения.</translation>
     </message>
     <message>
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
-        <translation>А теперь — приятной игры в Hazel Grid.
+        <translation>А&#xa0;теперь&#xa0;— приятной игры в&#xa0;Hazel Grid.
 
-С наилучшими пожеланиями.</translation>
+С&#xa0;наилучшими пожеланиями.</translation>
     </message>
     <message>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
-        <translation>Добро пожаловать в «青岚» (Цинлань).
+        <translation>Добро пожаловать в&#xa0;«青岚» (Цинлань).
 
-В «青岚» Вам предстоит вводить иероглифы один за другим и, опираясь на черты и порядок их написания, найти загаданный иероглиф за шесть попыток.</translation>
+В&#xa0;«青岚» Вам предстоит вводить иероглифы один за другим и, опираясь на черты и&#xa0;порядок их написания, найти загаданный иероглиф за шесть попыток.</translation>
     </message>
     <message>
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
-        <translation>Введите существующий китайский иероглиф и нажмите клавишу «Ввод», чтобы отправить его.
+        <translation>Введите существующий китайский иероглиф и&#xa0;нажмите клавишу «Ввод», чтобы отправить его.
 
 После каждой попытки цвет черт может измениться:</translation>
     </message>
@@ -105,9 +105,9 @@ Best regards.</source>
 在正确文字和所提交的文字的中都会全部显示。</source>
         <translation>Зелёный
 
-Эта черта есть в загаданном иероглифе, и порядок её написания верен.
+Эта черта есть в&#xa0;загаданном иероглифе, и&#xa0;порядок её написания верен.
 
-Все такие черты показываются и в загаданном, и в отправленном иероглифе.</translation>
+Все такие черты показываются и&#xa0;в&#xa0;загаданном, и&#xa0;в&#xa0;отправленном иероглифе.</translation>
     </message>
     <message>
         <source>灰色，
@@ -117,17 +117,17 @@ Best regards.</source>
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
         <translation>Серый
 
-Эта черта есть в загаданном иероглифе, но порядок её написания неверен.
+Эта черта есть в&#xa0;загаданном иероглифе, но порядок её написания неверен.
 
-Если такие черты одинаковы, в загаданном иероглифе будет показана лишь одна из них, а в отправленном — все.</translation>
+Если такие черты одинаковы, в&#xa0;загаданном иероглифе будет показана лишь одна из них, а&#xa0;в&#xa0;отправленном&#xa0;— все.</translation>
     </message>
     <message>
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
-        <translation>А теперь — приятной игры в «青岚».
+        <translation>А&#xa0;теперь&#xa0;— приятной игры в&#xa0;«青岚».
 
-С глубоким почтением и пожеланием всех благ.</translation>
+С&#xa0;глубоким почтением и&#xa0;пожеланием всех благ.</translation>
     </message>
     <message>
         <source>Privacy Policy</source>
@@ -142,12 +142,12 @@ Best regards.</source>
     <message>
         <source>Rate on the App Store</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>Оценить в App Store</translation>
+        <translation>Оценить в&#xa0;App Store</translation>
     </message>
     <message>
         <source>Follow me on Social Media Platforms</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>Я в соцсетях</translation>
+        <translation>Я&#xa0;в&#xa0;соцсетях</translation>
     </message>
     <message>
         <source>Browse My Personal Website</source>
@@ -163,6 +163,14 @@ Best regards.</source>
         <source>Contact: </source>
         <extracomment>Begins the subject of a feedback mail, before the app&apos;s name; ends in one blank.</extracomment>
         <translation>Обратная связь: </translation>
+    </message>
+</context>
+<context>
+    <name>TQFoundationInterface</name>
+    <message>
+        <source>Next</source>
+        <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
+        <translation>Далее</translation>
     </message>
 </context>
 </TS>

@@ -165,4 +165,12 @@ Saygılarımı sunar, esenlikler dilerim.</translation>
         <translation>İletişim: </translation>
     </message>
 </context>
+<context>
+    <name>TQFoundationInterface</name>
+    <message>
+        <source>Next</source>
+        <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
+        <translation>İleri</translation>
+    </message>
+</context>
 </TS>

@@ -165,4 +165,12 @@ Best regards.</source>
         <translation>联系： </translation>
     </message>
 </context>
+<context>
+    <name>TQFoundationInterface</name>
+    <message>
+        <source>Next</source>
+        <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
+        <translation>下一步</translation>
+    </message>
+</context>
 </TS>

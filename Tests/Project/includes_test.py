@@ -10,6 +10,7 @@ ALLOWED = {
     "Catalogue": {"Platform", "Probes", "Catalogue"},
     "More": {"Platform", "Probes", "Catalogue", "More"},
     "Guide": {"Platform", "Probes", "Catalogue", "More", "Guide"},
+    "Background": {"Platform", "Probes", "Background"},
 }
 
 root = pathlib.Path(sys.argv[1]) / "Sources"

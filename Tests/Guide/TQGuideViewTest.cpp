@@ -133,7 +133,8 @@ TEST_F(Guide, ShowsWhereAStringIsStored)
 
 TEST_F(Guide, OfNumbersOnlyOneCountsAsTrue)
 {
-    for (const QVariant &one : {QVariant(1), QVariant(1U), QVariant(1LL), QVariant(1ULL), QVariant(1.0), QVariant(1.0F)}) {
+    for (const QVariant &one :
+         {QVariant(1), QVariant(1U), QVariant(1LL), QVariant(1ULL), QVariant(1.0), QVariant(1.0F)}) {
         platform->defaults[flag] = one;
         EXPECT_FALSE(TQGuideView::shouldShowGuide()) << one.typeName();
     }

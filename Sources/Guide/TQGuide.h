@@ -7,8 +7,8 @@
 
 namespace TQFoundation {
 
-/// The guide as a host written in QML asks, builds and shows it: `TQGuide { tintColor: …; descriptions: … }`, and, where
-/// shouldShowGuide() is true, showGuide().
+/// The guide as a host written in QML asks, builds and shows it: `TQGuide { tintColor: …; descriptions: … }`, and,
+/// where shouldShowGuide() is true, showGuide().
 class TQGuide : public QObject
 {
     Q_OBJECT

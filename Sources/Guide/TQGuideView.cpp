@@ -1,6 +1,7 @@
 #include "TQGuideView.h"
 
 #include "Bundle.h"
+#include "InputShield.h"
 #include "KeyWindow.h"
 #include "LibraryEngine.h"
 #include "OpacityAnimation.h"
@@ -9,6 +10,7 @@
 #include "Topmost.h"
 
 #include <QtGui/qaccessible.h>
+#include <QtGui/qevent.h>
 #include <QtGui/qscreen.h>
 
 #include <limits>
@@ -32,41 +34,14 @@ QQuickItem *connected(QQuickItem *outlet)
     return outlet;
 }
 
-// The overlay that an item lies in, or is.
-TQGuideView *guideAround(QQuickItem *item)
-{
-    while (item && !qobject_cast<TQGuideView *>(item))
-        item = item->parentItem();
-    return qobject_cast<TQGuideView *>(item);
-}
-
-// The item that has the focus in the window, or will have it as soon as the window has it.
-QQuickItem *focusedItem(const QQuickWindow &window)
-{
-    QQuickItem *item = window.contentItem();
-    while (QQuickItem *inside = item->scopedFocusItem())
-        item = inside;
-    return item;
-}
-
 } // namespace
 
-TQGuideView::TQGuideView(QQuickItem *parent) : QQuickItem(parent)
+TQGuideView::TQGuideView(QQuickItem *parent) : QQuickItem(parent), m_shield(new InputShield(this))
 {
     setFlag(ItemIsFocusScope);
-    setFlag(ItemAcceptsDrops);
-    setAcceptedMouseButtons(Qt::AllButtons);
-    setAcceptTouchEvents(true);
-    setAcceptHoverEvents(true);
-    // A host that scrolls may not take over a gesture that began on the overlay.
-    setKeepMouseGrab(true);
-    setKeepTouchGrab(true);
 }
 
-TQGuideView::~TQGuideView()
-{
-    leave();
-}
+TQGuideView::~TQGuideView() = default;
 
 bool TQGuideView::shouldShowGuide()
 {
@@ -93,9 +68,8 @@ std::shared_ptr<TQGuideView> TQGuideView::initFromNib(const Color &tintColor, co
     precondition(qobject_cast<TQGuideView *>(first.get()));
     const std::shared_ptr<TQGuideView> view(static_cast<TQGuideView *>(first.release()), deleteInItsTurn);
     // At the end of the application no host and no animation holds it any longer.
-    connect(untilApplicationEnds(), &QObject::destroyed, view.get(), [raw = view.get()] {
-        const auto released = std::exchange(raw->m_heldByHost, nullptr);
-    });
+    connect(untilApplicationEnds(), &QObject::destroyed, view.get(),
+            [raw = view.get()] { const auto released = std::exchange(raw->m_heldByHost, nullptr); });
     view->setBackgroundColor(tintColor);
     view->setDescriptions(descriptions);
     view->setCompleteClosure(completeClosure);
@@ -201,7 +175,7 @@ void TQGuideView::showGuide(QQuickWindow *inWindow, QQuickItem *orInView)
     else if (inWindow)
         host = inWindow->contentItem();
     addAsTopmostChild(this, host);
-    takeFocus();
+    m_shield->takeFocus();
     announceParagraph();
     animateOpacity(this, 1, appearing, holding(&TQGuideView::stayAlive));
 }
@@ -284,13 +258,6 @@ QString TQGuideView::nextButtonName()
     return libraryBundle().interfaceString(QLatin1String(QT_TRANSLATE_NOOP("TQFoundationInterface", "Next")));
 }
 
-// A window may be larger than the screen whose size the overlay has; what the user does beside it is not for the host
-// either.
-bool TQGuideView::contains(const QPointF &point) const
-{
-    return (m_window && parentItem() == m_window->contentItem()) || QQuickItem::contains(point);
-}
-
 void TQGuideView::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickItem::itemChange(change, data);
@@ -299,83 +266,13 @@ void TQGuideView::itemChange(ItemChange change, const ItemChangeData &data)
         const auto released = std::exchange(m_heldByHost, data.item ? weak_from_this().lock() : nullptr);
         updateShownArea();
     } else if (change == ItemSceneChange) {
-        leave();
-        if (data.window)
-            enter(data.window);
+        if (m_window)
+            m_window->disconnect(this);
+        m_window = data.window;
+        if (m_window)
+            connect(m_window, &QQuickWindow::afterAnimating, this, &TQGuideView::updateShownArea);
         updateShownArea();
     }
-}
-
-void TQGuideView::enter(QQuickWindow *window)
-{
-    m_window = window;
-    window->installEventFilter(this);
-    connect(window, &QQuickWindow::afterAnimating, this, &TQGuideView::updateShownArea);
-    // The focus is taken back, unless it merely left the overlay or went to one that lies on top of it.
-    connect(window, &QQuickWindow::activeFocusItemChanged, this, [this] {
-        QQuickItem *focused = m_window ? m_window->activeFocusItem() : nullptr;
-        if (focused && !focused->isAncestorOf(this))
-            takeFocus();
-    });
-    // A gesture that is under way goes on elsewhere.
-    if (QQuickItem *grabber = window->mouseGrabberItem(); grabber && !isAncestorOf(grabber))
-        grabber->ungrabMouse();
-    connect(window->contentItem(), &QQuickItem::childrenChanged, this, &TQGuideView::silencePopups,
-            Qt::QueuedConnection);
-    silencePopups();
-}
-
-void TQGuideView::leave()
-{
-    QQuickWindow *window = m_window;
-    m_window = nullptr;
-    if (!window)
-        return;
-    window->removeEventFilter(this);
-    window->disconnect(this);
-    if (QQuickItem *content = window->contentItem()) {
-        content->disconnect(this);
-        const QList<QQuickItem *> children = content->childItems();
-        for (QQuickItem *child : children) {
-            if (child->inherits("QQuickOverlay"))
-                window->installEventFilter(child);
-        }
-        giveFocusBack(window);
-    }
-}
-
-// The layer that holds a window's popups looks at all that happens in the window before any item does, and closes or
-// shields popups by it. It is under the overlay, and has to rest.
-void TQGuideView::silencePopups()
-{
-    if (!m_window)
-        return;
-    const QList<QQuickItem *> children = m_window->contentItem()->childItems();
-    for (QQuickItem *child : children) {
-        if (child->inherits("QQuickOverlay"))
-            m_window->removeEventFilter(child);
-    }
-}
-
-void TQGuideView::takeFocus()
-{
-    if (!m_window || !m_window->contentItem())
-        return;
-    QQuickItem *focused = focusedItem(*m_window);
-    if (guideAround(focused))
-        return;
-    if (focused != m_window->contentItem())
-        m_formerFocus = focused;
-    forceActiveFocus();
-}
-
-void TQGuideView::giveFocusBack(QQuickWindow *window)
-{
-    QQuickItem *former = m_formerFocus;
-    m_formerFocus = nullptr;
-    if (former && former->window() == window && former->isVisible() && former->isEnabled()
-        && !guideAround(focusedItem(*window)))
-        former->forceActiveFocus();
 }
 
 void TQGuideView::updateShownArea()
@@ -408,32 +305,6 @@ void TQGuideView::geometryChange(const QRectF &newGeometry, const QRectF &oldGeo
     updateShownArea();
 }
 
-bool TQGuideView::eventFilter(QObject *watched, QEvent *event)
-{
-    switch (event->type()) {
-    case QEvent::ShortcutOverride:
-        // Accepted, it is a mere key press and no shortcut of the host.
-        event->accept();
-        return true;
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-        if (m_window && guideAround(m_window->activeFocusItem()))
-            return false;
-        event->accept();
-        return true;
-    case QEvent::TabletPress:
-    case QEvent::TabletMove:
-    case QEvent::TabletRelease:
-        // Ignored, it comes again as a mouse event, which the overlay can take.
-        event->ignore();
-        return true;
-    case QEvent::NativeGesture:
-        return true;
-    default:
-        return QQuickItem::eventFilter(watched, event);
-    }
-}
-
 void TQGuideView::keyPressEvent(QKeyEvent *event)
 {
     event->accept();
@@ -441,57 +312,6 @@ void TQGuideView::keyPressEvent(QKeyEvent *event)
 
 void TQGuideView::keyReleaseEvent(QKeyEvent *event)
 {
-    event->accept();
-}
-
-void TQGuideView::mousePressEvent(QMouseEvent *event)
-{
-    event->accept();
-}
-
-void TQGuideView::mouseMoveEvent(QMouseEvent *event)
-{
-    event->accept();
-}
-
-void TQGuideView::mouseReleaseEvent(QMouseEvent *event)
-{
-    event->accept();
-}
-
-void TQGuideView::mouseDoubleClickEvent(QMouseEvent *event)
-{
-    event->accept();
-}
-
-void TQGuideView::wheelEvent(QWheelEvent *event)
-{
-    event->accept();
-}
-
-void TQGuideView::touchEvent(QTouchEvent *event)
-{
-    event->accept();
-}
-
-void TQGuideView::hoverEnterEvent(QHoverEvent *event)
-{
-    event->accept();
-}
-
-void TQGuideView::hoverMoveEvent(QHoverEvent *event)
-{
-    event->accept();
-}
-
-void TQGuideView::hoverLeaveEvent(QHoverEvent *event)
-{
-    event->accept();
-}
-
-void TQGuideView::dragEnterEvent(QDragEnterEvent *event)
-{
-    event->setDropAction(Qt::IgnoreAction);
     event->accept();
 }
 

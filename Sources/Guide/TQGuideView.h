@@ -17,12 +17,14 @@
 
 namespace TQFoundation {
 
+class InputShield;
+
 /// The overlay that walks a new user through an app's paragraphs, one at a time, with a single next button. Once per
 /// installation: the last tap stores a flag, tells the app, and the overlay fades out and removes itself.
 ///
-/// An app asks shouldShowGuide(), makes the overlay with initFromNib() and calls showGuide() on it, once. Its host holds
-/// the overlay while it is shown, and so does each animation until it has run; the app needs to keep nothing. From
-/// adding to removal nothing that the user does reaches what lies beneath, and the keyboard focus stays inside.
+/// An app asks shouldShowGuide(), makes the overlay with initFromNib() and calls showGuide() on it, once. Its host
+/// holds the overlay while it is shown, and so does each animation until it has run; the app needs to keep nothing.
+/// From adding to removal nothing that the user does reaches what lies beneath, and the keyboard focus stays inside.
 ///
 /// A label or button that is not connected when it is used, and an index outside the paragraphs when one is read, stop
 /// the process. Hosts written in QML use the type `TQGuide`; they do not declare this one. Main thread only.
@@ -50,7 +52,8 @@ public:
 
     /// Makes an overlay that is not in any window yet, painted in \a tintColor and as large as the main screen is now.
     /// \a descriptions are the paragraphs in the order shown, plain text; \a completeClosure runs once, when the user
-    /// taps past the last one, and may be empty. A nib that is missing or whose root is no TQGuideView stops the process.
+    /// taps past the last one, and may be empty. A nib that is missing or whose root is no TQGuideView stops the
+    /// process.
     static std::shared_ptr<TQGuideView> initFromNib(const Color &tintColor, const QStringList &descriptions,
                                                     const std::function<void()> &completeClosure);
 
@@ -102,8 +105,6 @@ public:
     /// What assistive technology calls the next button, in the user's language.
     static QString nextButtonName();
 
-    bool contains(const QPointF &point) const override;
-
 Q_SIGNALS:
     void guideLabelChanged();
     void nextButtonChanged();
@@ -114,21 +115,10 @@ Q_SIGNALS:
     void impactOccurred();
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
-    void mouseDoubleClickEvent(QMouseEvent *event) override;
-    void wheelEvent(QWheelEvent *event) override;
-    void touchEvent(QTouchEvent *event) override;
-    void hoverEnterEvent(QHoverEvent *event) override;
-    void hoverMoveEvent(QHoverEvent *event) override;
-    void hoverLeaveEvent(QHoverEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
 
 private:
     std::function<void()> holding(void (TQGuideView::*step)());
@@ -139,12 +129,9 @@ private:
     void removeFromHost();
     void stayAlive() {}
 
-    void enter(QQuickWindow *window);
-    void leave();
-    void takeFocus();
-    void giveFocusBack(QQuickWindow *window);
-    void silencePopups();
     void updateShownArea();
+
+    InputShield *const m_shield; // a child
 
     Outlet m_guideLabel;
     Outlet m_nextButton;
@@ -156,7 +143,6 @@ private:
     QRectF m_shownArea;
     std::shared_ptr<TQGuideView> m_heldByHost; // this, while it has a parent item
     QPointer<QQuickWindow> m_window;
-    QPointer<QQuickItem> m_formerFocus;
 };
 
 } // namespace TQFoundation

@@ -1,0 +1,442 @@
+#include "GuideHost.h"
+#include "QmlWindow.h"
+
+#include <QtCore/qmimedata.h>
+#include <QtGui/qevent.h>
+#include <QtGui/qpointingdevice.h>
+#include <QtQuick/qquickitem.h>
+
+namespace TQFoundation {
+namespace {
+
+using Testing::keyScene;
+using Testing::QmlWindow;
+
+// A host that counts all that reaches it, everywhere in its window and by every way that Qt Quick knows.
+constexpr char listening[] = R"(
+import QtQuick.Controls
+Item {
+    id: root
+    property string heard
+    property alias editor: editor
+    property alias popup: popup
+    function hear(what: string) { heard += what + " "; }
+    width: 390; height: 700
+    focus: true
+    Keys.onPressed: hear("key")
+    Keys.onReleased: hear("keyUp")
+    HoverHandler { onHoveredChanged: root.hear("hover"); onPointChanged: root.hear("hoverPoint") }
+    TapHandler { onPressedChanged: root.hear("tap") }
+    PointHandler { onActiveChanged: root.hear("point") }
+    HoverHandler { parent: root.parent; onHoveredChanged: root.hear("windowHover") }
+    TapHandler { parent: root.parent; onPressedChanged: root.hear("windowTap") }
+    WheelHandler { onWheel: root.hear("wheel") }
+    PinchHandler { onActiveChanged: root.hear("pinch") }
+    Shortcut {
+        sequences: ["Ctrl+S", "Escape", "Return", "F5", "Ctrl+Tab"]
+        context: Qt.ApplicationShortcut
+        onActivated: root.hear("shortcut")
+    }
+    MouseArea {
+        width: 200; height: parent.height
+        hoverEnabled: true
+        acceptedButtons: Qt.AllButtons
+        onPressed: root.hear("press")
+        onReleased: root.hear("release")
+        onPositionChanged: root.hear("move")
+        onDoubleClicked: root.hear("double")
+        onContainsMouseChanged: root.hear("contains")
+        onWheel: root.hear("areaWheel")
+    }
+    MultiPointTouchArea { anchors.fill: parent; mouseEnabled: false; onTouchUpdated: root.hear("touch") }
+    DropArea { anchors.fill: parent; onEntered: root.hear("drag"); onDropped: root.hear("drop") }
+    TextField { id: editor; onTextEdited: root.hear("edit") }
+    Button { y: 100; focusPolicy: Qt.TabFocus; onClicked: root.hear("click"); onActiveFocusChanged: root.hear("focus") }
+    Popup {
+        id: popup
+        x: 20; y: 200; width: 100; height: 100
+        onAboutToHide: root.hear("hide")
+    }
+}
+)";
+
+class GuideInput : public testing::Test
+{
+protected:
+    GuideInput() { platform->scenes = keyScene(&host.window); }
+
+    std::shared_ptr<TQGuideView> shown(int paragraphs = 3)
+    {
+        QStringList texts;
+        for (int number = 0; number < paragraphs; ++number)
+            texts += QStringLiteral("Paragraph %1").arg(number);
+        auto guide = TQGuideView::initFromNib(Color::systemBlue(), texts, nullptr);
+        guide->showGuide();
+        return guide;
+    }
+
+    // What the host has heard since it was last asked.
+    QString heard()
+    {
+        QCoreApplication::processEvents();
+        const QString all = host.item->property("heard").toString();
+        host.item->setProperty("heard", QString());
+        return all;
+    }
+
+    QQuickItem *editor() const { return host.item->property("editor").value<QQuickItem *>(); }
+    QObject *popup() const { return host.item->property("popup").value<QObject *>(); }
+
+    int taps() const { return static_cast<int>(platform->calls.count(QStringLiteral("softImpact()"))); }
+
+    void wheel(QPointF position)
+    {
+        QWheelEvent event(position, host.window.mapToGlobal(position), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&host.window, &event);
+    }
+
+    // Everything that a user can do with a pointer at a place.
+    void pointAt(QPoint place)
+    {
+        QTest::mouseMove(&host.window, place);
+        QTest::mouseMove(&host.window, place + QPoint(3, 3));
+        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton, Qt::BackButton})
+            QTest::mouseClick(&host.window, button, {}, place);
+        QTest::mouseDClick(&host.window, Qt::LeftButton, {}, place);
+        wheel(place);
+        QTest::touchEvent(&host.window, touchScreen).press(0, place);
+        QTest::touchEvent(&host.window, touchScreen).move(0, place + QPoint(0, 30)).press(1, place + QPoint(9, 9));
+        QTest::touchEvent(&host.window, touchScreen).release(0, place).release(1, place);
+    }
+
+    void type()
+    {
+        for (const Qt::Key key : {Qt::Key_A, Qt::Key_Escape, Qt::Key_Back, Qt::Key_Tab, Qt::Key_F5, Qt::Key_Left,
+                                  Qt::Key_PageDown, Qt::Key_Menu})
+            QTest::keyClick(&host.window, key);
+        QTest::keyClick(&host.window, Qt::Key_S, Qt::ControlModifier);
+        QTest::keyClick(&host.window, Qt::Key_Tab, Qt::ControlModifier);
+    }
+
+    static QList<QPoint> places() { return {{5, 5}, {195, 120}, {60, 250}, {380, 400}}; }
+
+    QPointingDevice *touchScreen = QTest::createTouchDevice();
+    Testing::InstalledRecordingPlatform platform;
+    Testing::AnimationClock clock;
+    QmlWindow host{listening, {390, 700}};
+};
+
+TEST_F(GuideInput, WithoutAGuideTheHostHearsAllOfIt)
+{
+    for (const QPoint place : places())
+        pointAt(place);
+    const QString pointed = heard();
+    for (const char *what : {"hover", "tap", "point", "windowHover", "windowTap", "press", "double", "areaWheel",
+                             "wheel", "windowWheel", "touch"})
+        EXPECT_TRUE(pointed.contains(QLatin1String(what))) << what;
+    type();
+    const QString typed = heard();
+    for (const char *what : {"key", "keyUp", "shortcut", "focus"})
+        EXPECT_TRUE(typed.contains(QLatin1String(what))) << what;
+}
+
+TEST_F(GuideInput, FromAddingOnNoPointerReachesTheHost)
+{
+    const auto guide = shown();
+    static_cast<void>(heard());
+    for (const QPoint place : places())
+        pointAt(place);
+    EXPECT_EQ(heard(), QString()) << "while it is still transparent";
+    clock.pass(600);
+    for (const QPoint place : places())
+        pointAt(place);
+    EXPECT_EQ(heard(), QString());
+    EXPECT_EQ(taps(), 0);
+}
+
+TEST_F(GuideInput, FromAddingOnNoKeyReachesTheHost)
+{
+    const auto guide = shown();
+    static_cast<void>(heard());
+    type();
+    EXPECT_EQ(heard(), QString());
+    EXPECT_EQ(taps(), 0) << "and none of these is a tap";
+}
+
+TEST_F(GuideInput, NothingReachesTheHostWhileTheButtonIsOff)
+{
+    const auto guide = shown();
+    clock.pass(600);
+    guide->nextGuide();
+    static_cast<void>(heard());
+    const QPointF middle = guide->nextButton()->mapToScene({30, 30});
+    pointAt(middle.toPoint());
+    for (const QPoint place : places())
+        pointAt(place);
+    type();
+    QTest::keyClick(&host.window, Qt::Key_Return);
+    QTest::keyClick(&host.window, Qt::Key_Space);
+    EXPECT_EQ(heard(), QString());
+    EXPECT_EQ(taps(), 1);
+}
+
+TEST_F(GuideInput, NothingReachesTheHostUntilTheOverlayIsRemoved)
+{
+    const auto guide = shown(1);
+    clock.pass(600);
+    guide->nextGuide();
+    clock.pass(590);
+    static_cast<void>(heard());
+    pointAt({195, 120});
+    type();
+    EXPECT_EQ(heard(), QString());
+    clock.pass(10);
+    pointAt({195, 120});
+    EXPECT_NE(heard(), QString());
+    type();
+    EXPECT_NE(heard(), QString());
+}
+
+TEST_F(GuideInput, NothingReachesTheHostBesideAnOverlayThatIsSmallerThanTheWindow)
+{
+    platform->bounds = {100, 100};
+    const auto guide = shown();
+    clock.pass(600);
+    static_cast<void>(heard());
+    pointAt({300, 500});
+    type();
+    EXPECT_EQ(heard(), QString());
+}
+
+TEST_F(GuideInput, AnOverlayInAViewLeavesTheRestOfTheWindowToTheHost)
+{
+    platform->scenes = {};
+    platform->bounds = {100, 100};
+    auto guide = TQGuideView::initFromNib(Color::systemBlue(), {QStringLiteral("Text")}, nullptr);
+    guide->showGuide(nullptr, host.item);
+    clock.pass(600);
+    static_cast<void>(heard());
+    QTest::mouseClick(&host.window, Qt::LeftButton, {}, {50, 20});
+    EXPECT_EQ(heard(), QString());
+    QTest::mouseClick(&host.window, Qt::LeftButton, {}, {300, 500});
+    EXPECT_NE(heard(), QString());
+}
+
+TEST_F(GuideInput, NoPopupClosesUnderneath)
+{
+    popup()->setProperty("closePolicy", 0x01 | 0x04 | 0x10); // a press or release outside, Escape
+    for (const bool modal : {false, true}) {
+        popup()->setProperty("modal", modal);
+        QMetaObject::invokeMethod(popup(), "open");
+        clock.pass(500);
+        const auto guide = shown(1);
+        clock.pass(600);
+        pointAt({5, 5});
+        static_cast<void>(heard()); // that the pointer has left
+        for (const QPoint place : places())
+            pointAt(place);
+        type();
+        EXPECT_EQ(heard(), QString());
+        EXPECT_TRUE(popup()->property("visible").toBool());
+        guide->nextGuide();
+        clock.pass(600);
+        QTest::mouseClick(&host.window, Qt::LeftButton, {}, {380, 600});
+        clock.pass(500);
+        EXPECT_FALSE(popup()->property("visible").toBool()) << "afterwards it closes as before";
+    }
+}
+
+TEST_F(GuideInput, APopupThatOpensLaterIsShieldedToo)
+{
+    const auto guide = shown(1);
+    clock.pass(600);
+    popup()->setProperty("modal", true);
+    QMetaObject::invokeMethod(popup(), "open");
+    clock.pass(500);
+    static_cast<void>(heard());
+    pointAt({380, 600});
+    type();
+    EXPECT_EQ(heard(), QString());
+    EXPECT_TRUE(popup()->property("visible").toBool());
+    QTest::keyClick(&host.window, Qt::Key_Return);
+    EXPECT_EQ(taps(), 1) << "and the button still has the keyboard";
+}
+
+TEST_F(GuideInput, AScrollingHostCannotTakeOverADrag)
+{
+    const QmlWindow scrolling("Flickable { width: 390; height: 200; contentWidth: 2000; contentHeight: 2000; "
+                              "pressDelay: 50; Item { objectName: \"content\"; width: 2000; height: 2000 } }");
+    platform->scenes = {};
+    auto guide = TQGuideView::initFromNib(Color::systemBlue(), {QStringLiteral("Text")}, nullptr);
+    guide->showGuide(nullptr, scrolling.item->findChild<QQuickItem *>(QStringLiteral("content")));
+    clock.pass(600);
+    auto *window = const_cast<QQuickWindow *>(&scrolling.window);
+    QTest::mousePress(window, Qt::LeftButton, {}, {200, 150});
+    for (int step = 1; step <= 10; ++step)
+        QTest::mouseMove(window, {200 - 10 * step, 150 - 10 * step});
+    QTest::mouseRelease(window, Qt::LeftButton, {}, {100, 50});
+    EXPECT_EQ(scrolling.item->property("contentX"), QVariant(0.0));
+    EXPECT_EQ(scrolling.item->property("contentY"), QVariant(0.0));
+}
+
+TEST_F(GuideInput, AGestureThatIsUnderWayEnds)
+{
+    for (const int x : {100, 300}) {
+        QTest::mousePress(&host.window, Qt::LeftButton, {}, {x, 300});
+        const auto guide = shown();
+        static_cast<void>(heard());
+        QTest::mouseMove(&host.window, {x, 350});
+        QTest::mouseRelease(&host.window, Qt::LeftButton, {}, {x, 350});
+        const QString all = heard();
+        for (const char *what : {"move", "release", "click"})
+            EXPECT_FALSE(all.contains(QLatin1String(what))) << what;
+        guide->setParentItem(nullptr);
+    }
+}
+
+TEST_F(GuideInput, ADragFromAnotherAppIsNotTakenAndDoesNotReachTheHost)
+{
+    const auto guide = shown();
+    static_cast<void>(heard());
+    QMimeData data;
+    data.setText(QStringLiteral("dragged"));
+    QDragEnterEvent enter({195, 300}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&host.window, &enter);
+    QDropEvent drop(QPointF(195, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&host.window, &drop);
+    EXPECT_EQ(heard(), QString());
+}
+
+TEST_F(GuideInput, AStylusIsAPointerLikeAnyOther)
+{
+    const auto guide = shown();
+    clock.pass(600);
+    static_cast<void>(heard());
+    const QPointingDevice stylus(QStringLiteral("stylus"), 7, QInputDevice::DeviceType::Stylus,
+                                 QPointingDevice::PointerType::Pen, QInputDevice::Capability::Position, 1, 1);
+    for (const QEvent::Type type : {QEvent::TabletPress, QEvent::TabletMove, QEvent::TabletRelease}) {
+        QTabletEvent event(type, &stylus, {195, 300}, {195, 300}, 1, 0, 0, 0, 0, 0, Qt::NoModifier, Qt::LeftButton,
+                           Qt::LeftButton);
+        QCoreApplication::sendEvent(&host.window, &event);
+        EXPECT_FALSE(event.isAccepted()) << "so that it comes again as a mouse event";
+    }
+    EXPECT_EQ(heard(), QString());
+}
+
+// What the guide itself listens to.
+
+TEST_F(GuideInput, TheButtonTakesAClickATouchAndItsKeys)
+{
+    const auto guide = shown(6);
+    clock.pass(600);
+    const QPoint middle = guide->nextButton()->mapToScene({30, 30}).toPoint();
+    QTest::mouseClick(&host.window, Qt::LeftButton, {}, middle);
+    EXPECT_EQ(taps(), 1);
+    clock.pass(800);
+    QTest::touchEvent(&host.window, touchScreen).press(0, middle);
+    QTest::touchEvent(&host.window, touchScreen).release(0, middle);
+    EXPECT_EQ(taps(), 2);
+    int expected = 2;
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+        clock.pass(800);
+        QTest::keyClick(&host.window, key);
+        EXPECT_EQ(taps(), ++expected) << key;
+    }
+}
+
+TEST_F(GuideInput, AKeyThatIsHeldCountsOnce)
+{
+    const auto guide = shown(6);
+    clock.pass(600);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+        platform->calls.clear();
+        QTest::keyPress(&host.window, key);
+        for (int repeat = 0; repeat < 200; ++repeat) {
+            QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+            QCoreApplication::sendEvent(&host.window, &again);
+            clock.pass(10);
+        }
+        QTest::keyRelease(&host.window, key);
+        EXPECT_EQ(taps(), 1) << key;
+        clock.pass(800);
+    }
+}
+
+TEST_F(GuideInput, TheFocusIsTakenAndGivenBack)
+{
+    editor()->forceActiveFocus();
+    ASSERT_TRUE(editor()->hasActiveFocus());
+    const auto guide = shown(1);
+    EXPECT_TRUE(guide->hasActiveFocus());
+    EXPECT_TRUE(guide->nextButton()->hasActiveFocus());
+    guide->nextGuide();
+    clock.pass(600);
+    EXPECT_TRUE(editor()->hasActiveFocus());
+    QTest::keyClick(&host.window, Qt::Key_A);
+    EXPECT_EQ(editor()->property("text"), QVariant(QStringLiteral("a")));
+}
+
+TEST_F(GuideInput, TheFocusIsKept)
+{
+    const auto guide = shown(2);
+    editor()->forceActiveFocus();
+    EXPECT_TRUE(guide->nextButton()->hasActiveFocus()) << "a host cannot take it";
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Tab}) {
+        QTest::keyClick(&host.window, key);
+        EXPECT_TRUE(guide->nextButton()->hasActiveFocus());
+    }
+    guide->nextGuide();
+    clock.pass(400);
+    QTest::keyClick(&host.window, Qt::Key_Tab);
+    clock.pass(400);
+    EXPECT_TRUE(guide->nextButton()->hasActiveFocus()) << "the button has it again as soon as it is on";
+}
+
+TEST_F(GuideInput, AFocusThatHasGoneIsNotGivenBack)
+{
+    auto *gone = new QQuickItem(host.item);
+    gone->forceActiveFocus();
+    const auto guide = shown(1);
+    delete gone;
+    guide->nextGuide();
+    clock.pass(600);
+    EXPECT_EQ(guide->parentItem(), nullptr);
+}
+
+TEST_F(GuideInput, TheLaterOfTwoGuidesHasTheKeyboardAndGivesItToTheEarlier)
+{
+    const auto first = shown(1);
+    const auto second = shown(1);
+    EXPECT_TRUE(second->nextButton()->hasActiveFocus());
+    clock.pass(600);
+    QTest::keyClick(&host.window, Qt::Key_Return);
+    clock.pass(600);
+    EXPECT_EQ(second->parentItem(), nullptr);
+    EXPECT_TRUE(first->nextButton()->hasActiveFocus());
+    static_cast<void>(heard());
+    type();
+    EXPECT_EQ(heard(), QString());
+    QTest::keyClick(&host.window, Qt::Key_Return);
+    clock.pass(600);
+    EXPECT_EQ(first->parentItem(), nullptr);
+    type();
+    EXPECT_NE(heard(), QString());
+}
+
+TEST_F(GuideInput, AGuideThatMovesToAnotherWindowFreesTheFirst)
+{
+    QQuickWindow other;
+    other.resize(200, 200);
+    const auto guide = shown(2);
+    platform->scenes = keyScene(&other);
+    guide->showGuide();
+    static_cast<void>(heard());
+    pointAt({195, 300});
+    EXPECT_NE(heard(), QString());
+    type();
+    EXPECT_NE(heard(), QString());
+}
+
+} // namespace
+} // namespace TQFoundation

@@ -132,8 +132,8 @@ TEST_F(GuideInput, WithoutAGuideTheHostHearsAllOfIt)
     for (const QPoint place : places())
         pointAt(place);
     const QString pointed = heard();
-    for (const char *what : {"hover", "tap", "point", "windowHover", "windowTap", "press", "double", "areaWheel",
-                             "wheel", "windowWheel", "touch"})
+    for (const char *what :
+         {"hover", "tap", "point", "windowHover", "windowTap", "press", "double", "areaWheel", "wheel", "touch"})
         EXPECT_TRUE(pointed.contains(QLatin1String(what))) << what;
     type();
     const QString typed = heard();

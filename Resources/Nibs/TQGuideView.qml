@@ -131,6 +131,10 @@ TQGuideView {
             Accessible.name: root.nextButtonName
             // Read out with each paragraph, because the button takes the focus again.
             Accessible.description: label.text
+            Accessible.onPressAction: {
+                if (enabled)
+                    clicked();
+            }
             Keys.onReturnPressed: event => press(event)
             Keys.onEnterPressed: event => press(event)
             onClicked: root.nextGuide(button)

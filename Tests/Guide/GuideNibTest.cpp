@@ -1,0 +1,379 @@
+#include "GuideHost.h"
+#include "Languages.h"
+#include "ScreenReader.h"
+
+#include <TQFoundation/TQApp.h>
+
+#include <QtGui/qguiapplication.h>
+#include <QtGui/qpalette.h>
+#include <QtQuick/qquickitem.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace TQFoundation {
+namespace {
+
+using Testing::ScreenReader;
+using Testing::useLanguage;
+
+void setAppearance(Appearance appearance)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, appearance == Appearance::dark ? Qt::black : Qt::white);
+    palette.setColor(QPalette::WindowText, appearance == Appearance::dark ? Qt::white : Qt::black);
+    QGuiApplication::setPalette(palette);
+}
+
+Rgba shownColor(const QObject *item)
+{
+    const auto color = item->property("color").value<QColor>();
+    return {color.redF(), color.greenF(), color.blueF(), color.alphaF()};
+}
+
+QQuickItem *part(const QQuickItem *button, const char *name)
+{
+    return button->property(name).value<QQuickItem *>();
+}
+
+QRectF sceneRect(const QQuickItem *item)
+{
+    return item->mapRectToScene({0, 0, item->width(), item->height()});
+}
+
+// The part of the paragraph's page that scrolls.
+QQuickItem *scroller(const TQGuideView &guide)
+{
+    QQuickItem *item = guide.guideLabel();
+    while (item && !item->inherits("QQuickFlickable"))
+        item = item->parentItem();
+    return item;
+}
+
+class GuideNib : public Testing::GuideHost
+{
+protected:
+    std::shared_ptr<TQGuideView> shownIn(QSize size, const QString &text)
+    {
+        window.resize(size);
+        platform->bounds = size;
+        auto guide = shown({text, QStringLiteral("Second")});
+        clock.pass(600);
+        window.grabWindow();
+        return guide;
+    }
+
+    static QString longText() { return QStringLiteral("The quick brown fox jumps over the lazy dog. ").repeated(40); }
+};
+
+// Legible.
+
+TEST_F(GuideNib, TextAndArrowAreLegibleOnEveryTintInLightAndDark)
+{
+    for (const Appearance appearance : {Appearance::light, Appearance::dark}) {
+        setAppearance(appearance);
+        for (const TQApp &app : TQApp::allCases()) {
+            const auto guide = TQGuideView::initFromNib(app.tintColor(), {QStringLiteral("Text")}, nullptr);
+            const Rgba ground = app.tintColor().resolved(appearance);
+            const Rgba text = shownColor(guide->guideLabel());
+            const Rgba disc = shownColor(part(guide->nextButton(), "background"));
+            const Rgba arrow = shownColor(part(guide->nextButton(), "contentItem"));
+            EXPECT_GE(contrast(text, ground), 4.5) << app.id().toStdString();
+            EXPECT_GE(contrast(disc, ground), 4.5) << app.id().toStdString();
+            EXPECT_GE(contrast(arrow, disc), 4.5) << app.id().toStdString();
+            EXPECT_EQ(text.alpha, 1);
+        }
+    }
+}
+
+TEST_F(GuideNib, FollowsTheAppearanceWhileItIsShown)
+{
+    setAppearance(Appearance::light);
+    const auto guide = TQGuideView::initFromNib(Color::label(), {QStringLiteral("Text")}, nullptr);
+    EXPECT_EQ(shownColor(guide->guideLabel()), (Rgba{1, 1, 1})) << "white on a black ground";
+    setAppearance(Appearance::dark);
+    EXPECT_EQ(shownColor(guide->guideLabel()), (Rgba{0, 0, 0}));
+}
+
+TEST_F(GuideNib, PaintsTheWholeOverlayInItsColorAsOpaqueAsThatIs)
+{
+    window.setColor(Qt::white);
+    const auto guide = TQGuideView::initFromNib(Rgba{1, 0, 0}, {QStringLiteral("Text")}, nullptr);
+    guide->showGuide();
+    clock.pass(600);
+    EXPECT_EQ(window.grabWindow().pixelColor(2, 2), QColor(255, 0, 0));
+    guide->setBackgroundColor(Rgba{1, 0, 0, 0.2F});
+    const QColor seen = window.grabWindow().pixelColor(2, 2);
+    EXPECT_NEAR(seen.green(), 204, 2);
+    EXPECT_EQ(shownColor(guide->guideLabel()), (Rgba{0, 0, 0})) << "and what shines through counts for the text";
+}
+
+// Room.
+
+TEST_F(GuideNib, TheButtonIsALargeTargetInsideTheWindow)
+{
+    for (const QSize size : {QSize(320, 568), QSize(390, 844), QSize(820, 1180), QSize(1280, 800), QSize(320, 240)}) {
+        const auto guide = shownIn(size, longText());
+        const QRectF button = sceneRect(guide->nextButton());
+        EXPECT_GE(button.width(), 44);
+        EXPECT_GE(button.height(), 44);
+        EXPECT_TRUE(QRectF(QPointF(), QSizeF(size)).contains(button)) << size.width();
+        EXPECT_LE(sceneRect(scroller(*guide)).bottom(), button.top()) << "the text does not run under it";
+        guide->setParentItem(nullptr);
+    }
+}
+
+TEST_F(GuideNib, AParagraphThatFitsDoesNotScrollAndStandsInTheMiddle)
+{
+    const auto guide = shownIn({390, 844}, QStringLiteral("Short."));
+    EXPECT_FALSE(scroller(*guide)->property("interactive").toBool());
+    EXPECT_NEAR(sceneRect(guide->guideLabel()).center().y(), sceneRect(scroller(*guide)).center().y(), 1);
+}
+
+TEST_F(GuideNib, AParagraphThatDoesNotFitScrollsByFingerWheelAndKeys)
+{
+    const auto guide = shownIn({320, 480}, longText());
+    QQuickItem *const page = scroller(*guide);
+    EXPECT_TRUE(page->property("interactive").toBool());
+    EXPECT_GE(page->property("contentHeight").toDouble(), guide->guideLabel()->height());
+
+    QTest::keyClick(&window, Qt::Key_End);
+    const double end = page->property("contentY").toDouble();
+    EXPECT_NEAR(end, page->property("contentHeight").toDouble() - page->height(), 1);
+    EXPECT_LE(sceneRect(guide->guideLabel()).bottom(), sceneRect(page).bottom()) << "the last line can be read";
+    QTest::keyClick(&window, Qt::Key_Home);
+    EXPECT_EQ(page->property("contentY").toDouble(), 0);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_PageDown}) {
+        const double before = page->property("contentY").toDouble();
+        QTest::keyClick(&window, key);
+        EXPECT_GT(page->property("contentY").toDouble(), before);
+    }
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_PageUp, Qt::Key_PageUp, Qt::Key_PageUp})
+        QTest::keyClick(&window, key);
+    EXPECT_EQ(page->property("contentY").toDouble(), 0);
+
+    QWheelEvent wheel({100, 100}, {100, 100}, {0, -200}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+    QCoreApplication::sendEvent(&window, &wheel);
+    clock.pass(1000);
+    EXPECT_GT(page->property("contentY").toDouble(), 0);
+    QTest::keyClick(&window, Qt::Key_Home);
+
+    QPointingDevice *const screen = QTest::createTouchDevice();
+    QTest::touchEvent(&window, screen).press(0, {100, 300});
+    for (int y = 290; y >= 150; y -= 10)
+        QTest::touchEvent(&window, screen).move(0, {100, y});
+    EXPECT_GT(page->property("contentY").toDouble(), 50);
+    QTest::touchEvent(&window, screen).release(0, {100, 150});
+    EXPECT_FALSE(platform->calls.contains(QStringLiteral("softImpact()")));
+}
+
+TEST_F(GuideNib, TheNextParagraphStartsAtItsTop)
+{
+    const auto guide = shownIn({320, 480}, longText());
+    QTest::keyClick(&window, Qt::Key_End);
+    guide->nextGuide();
+    clock.pass(400);
+    EXPECT_EQ(scroller(*guide)->property("contentY").toDouble(), 0);
+}
+
+TEST_F(GuideNib, TwiceTheTextSizeIsShownTwiceAsLargeAndStillFits)
+{
+    const auto guide = shownIn({320, 568}, longText());
+    const double before = guide->guideLabel()->property("font").value<QFont>().pixelSize();
+    QFont font = QGuiApplication::font();
+    font.setPointSizeF(40);
+    QGuiApplication::setFont(font);
+    const auto large = shownIn({320, 568}, longText());
+    EXPECT_GE(large->guideLabel()->property("font").value<QFont>().pixelSize(), 1.8 * before);
+    EXPECT_LE(sceneRect(large->guideLabel()).right(), 320);
+    EXPECT_TRUE(scroller(*large)->property("interactive").toBool());
+    EXPECT_TRUE(QRectF(0, 0, 320, 568).contains(sceneRect(large->nextButton())));
+}
+
+TEST_F(GuideNib, LinesStayReadableInAWideWindow)
+{
+    const auto guide = shownIn({2560, 1440}, longText());
+    const double size = guide->guideLabel()->property("font").value<QFont>().pixelSize();
+    EXPECT_LE(guide->guideLabel()->width(), 30 * size);
+    EXPECT_NEAR(sceneRect(guide->guideLabel()).center().x(), 1280, 1);
+}
+
+TEST_F(GuideNib, ContentStaysInThePartThatTheHostShows)
+{
+    // As large as the screen, in a window that is smaller and grows.
+    platform->bounds = {1000, 900};
+    window.resize(390, 500);
+    const auto guide = shown({longText()});
+    clock.pass(600);
+    window.grabWindow();
+    EXPECT_EQ(guide->shownArea(), QRectF(0, 0, 390, 500));
+    EXPECT_TRUE(QRectF(0, 0, 390, 500).contains(sceneRect(guide->nextButton())));
+    window.resize(800, 600);
+    QCoreApplication::processEvents();
+    window.grabWindow();
+    EXPECT_EQ(guide->shownArea(), QRectF(0, 0, 800, 600));
+    EXPECT_EQ(guide->size(), QSizeF(1000, 900));
+}
+
+TEST_F(GuideNib, ContentStaysInsideAHostThatClips)
+{
+    platform->scenes = {};
+    QQuickItem host(window.contentItem());
+    host.setPosition({50, 60});
+    host.setSize({200, 150});
+    host.setClip(true);
+    const auto guide = made({longText()});
+    guide->showGuide(nullptr, &host);
+    clock.pass(600);
+    window.grabWindow();
+    EXPECT_EQ(guide->shownArea(), QRectF(0, 0, 200, 150));
+    host.setPosition({-100, 60});
+    window.grabWindow();
+    EXPECT_EQ(guide->shownArea(), QRectF(100, 0, 100, 150)) << "the part that is out of the window does not count";
+    guide->setParentItem(nullptr);
+}
+
+TEST_F(GuideNib, IsMirroredWhereTheLanguageRunsFromTheRight)
+{
+    useLanguage("en");
+    const auto left = shownIn({390, 844}, QStringLiteral("Text"));
+    EXPECT_GT(sceneRect(left->nextButton()).center().x(), 195);
+    EXPECT_EQ(part(left->nextButton(), "contentItem")->rotation(), 0);
+    useLanguage("ar");
+    const auto right = shownIn({390, 844}, QStringLiteral("نص"));
+    EXPECT_LT(sceneRect(right->nextButton()).center().x(), 195);
+    EXPECT_EQ(part(right->nextButton(), "contentItem")->rotation(), 180);
+}
+
+// The button.
+
+TEST_F(GuideNib, TheButtonsLookDoesNotChangeWhileItIsOff)
+{
+    const auto guide = shownIn({390, 700}, QStringLiteral("Text"));
+    const QRect place = sceneRect(guide->nextButton()).toAlignedRect();
+    const QImage on = window.grabWindow().copy(place);
+    guide->nextButton()->setEnabled(false);
+    EXPECT_EQ(window.grabWindow().copy(place), on);
+}
+
+TEST_F(GuideNib, TheButtonShowsThatTheKeyboardIsUsed)
+{
+    const auto guide = shownIn({390, 700}, QStringLiteral("Text"));
+    const auto isMarked = [&] { return guide->nextButton()->property("visualFocus").toBool(); };
+    EXPECT_FALSE(isMarked());
+    QTest::keyClick(&window, Qt::Key_Tab);
+    EXPECT_TRUE(isMarked());
+}
+
+TEST_F(GuideNib, HasNoOtherControlThanTheButton)
+{
+    const auto guide = made(paragraphs(3));
+    const QList<QQuickItem *> items = guide->findChildren<QQuickItem *>();
+    EXPECT_EQ(std::count_if(items.begin(), items.end(),
+                            [](const QQuickItem *item) { return item->inherits("QQuickAbstractButton"); }),
+              1);
+}
+
+// Hostile paragraphs.
+
+TEST_F(GuideNib, MarkupIsShownAsItStands)
+{
+    const QString markup = QStringLiteral("<h1>a</h1><img src=\"http://127.0.0.1:9/x.png\"><a href=\"x\">b</a>&lt;");
+    const auto guide = shownIn({390, 844}, markup);
+    EXPECT_EQ(textOf(*guide), markup);
+    EXPECT_EQ(guide->guideLabel()->property("textFormat").toInt(), static_cast<int>(Qt::PlainText));
+    EXPECT_GT(guide->guideLabel()->property("implicitWidth").toDouble(), 390) << "every character takes its room";
+}
+
+TEST_F(GuideNib, NulsBidiControlsAndHalfCharactersAreNotMoreThanText)
+{
+    const QString hostile = QStringLiteral("a") + QChar::Null + QChar(0x202E) + QStringLiteral("b") + QChar(0xD800)
+        + QStringLiteral("c") + QChar(0x2066) + QStringLiteral("\r\n\u2028\u2029d") + QChar(0xFFFF);
+    const auto guide = shownIn({390, 844}, hostile);
+    EXPECT_EQ(textOf(*guide), hostile);
+    EXPECT_TRUE(guide->nextButton()->isEnabled());
+}
+
+TEST_F(GuideNib, AHugeParagraphIsShownAndCanBeLeft)
+{
+    const QString huge = QStringLiteral("All work and no play. ").repeated((1 << 20) / 22);
+    const auto guide = shownIn({390, 844}, huge);
+    EXPECT_EQ(textOf(*guide), huge);
+    QTest::keyClick(&window, Qt::Key_End);
+    window.grabWindow();
+    guide->nextGuide();
+    clock.pass(800);
+    EXPECT_EQ(textOf(*guide), QStringLiteral("Second"));
+}
+
+TEST_F(GuideNib, AnEmptyParagraphIsAPageToo)
+{
+    const auto guide = shownIn({390, 844}, QString());
+    EXPECT_EQ(textOf(*guide), QString());
+    guide->nextGuide();
+    clock.pass(800);
+    EXPECT_EQ(textOf(*guide), QStringLiteral("Second"));
+}
+
+// For assistive technology.
+
+TEST_F(GuideNib, EachParagraphIsAnnounced)
+{
+    const ScreenReader reader;
+    const auto guide = shown(paragraphs(3));
+    EXPECT_EQ(reader.alerts(), paragraphs(1));
+    clock.pass(600);
+    guide->nextGuide();
+    clock.pass(390);
+    EXPECT_EQ(reader.alerts(), paragraphs(1)) << "not before it shows";
+    clock.pass(410);
+    EXPECT_EQ(reader.alerts(), paragraphs(2));
+    guide->nextGuide();
+    clock.pass(800);
+    guide->nextGuide();
+    clock.pass(600);
+    EXPECT_EQ(reader.alerts(), paragraphs(3)) << "the end is none";
+}
+
+TEST_F(GuideNib, HasNamesAndRolesForAssistiveTechnology)
+{
+    const ScreenReader reader;
+    const auto guide = shown(paragraphs(2));
+    EXPECT_EQ(reader.describes(guide.get())->role(), QAccessible::Dialog);
+    QAccessibleInterface *const label = reader.describes(guide->guideLabel());
+    EXPECT_EQ(label->role(), QAccessible::StaticText);
+    EXPECT_EQ(label->text(QAccessible::Name), QStringLiteral("Paragraph 0"));
+    QAccessibleInterface *const button = reader.describes(guide->nextButton());
+    EXPECT_EQ(button->role(), QAccessible::Button);
+    EXPECT_EQ(button->text(QAccessible::Name), QStringLiteral("Next"));
+    EXPECT_EQ(button->text(QAccessible::Description), QStringLiteral("Paragraph 0"));
+    EXPECT_TRUE(button->state().focused);
+}
+
+TEST_F(GuideNib, AssistiveTechnologyCanPressTheButton)
+{
+    const ScreenReader reader;
+    const auto guide = shown(paragraphs(2));
+    const auto press = [&] {
+        QAccessibleActionInterface *const actions = reader.describes(guide->nextButton())->actionInterface();
+        ASSERT_TRUE(actions);
+        actions->doAction(QAccessibleActionInterface::pressAction());
+    };
+    press();
+    EXPECT_FALSE(guide->nextButton()->isEnabled());
+    press();
+    EXPECT_EQ(platform->calls.count(QStringLiteral("softImpact()")), 1) << "but not while it is off";
+    clock.pass(800);
+    press();
+    EXPECT_EQ(completed, 1);
+}
+
+TEST_F(GuideNib, TheButtonsNameIsTranslated)
+{
+    useLanguage("zh-CN");
+    EXPECT_EQ(TQGuideView::nextButtonName(), QStringLiteral("下一步"));
+}
+
+} // namespace
+} // namespace TQFoundation

@@ -1,0 +1,118 @@
+#include "GuideHost.h"
+#include "QmlWindow.h"
+
+#include <TQFoundation/TQApp.h>
+
+#include <QtQuick/qquickitem.h>
+
+namespace TQFoundation {
+namespace {
+
+using Testing::keyScene;
+using Testing::QmlWindow;
+
+// What an app that is written in QML writes.
+constexpr char host[] = R"(
+Item {
+    id: root
+    property int completions: 0
+    readonly property bool asked: guide.shouldShowGuide()
+    function start() { guide.showGuide(); }
+    function startHere() { guide.showGuide(null, root); }
+    width: 300; height: 300
+    TQGuide {
+        id: guide
+        tintColor: TQApp.birch.tintColor
+        descriptions: ["One", "Two"]
+        onCompleted: ++root.completions
+    }
+}
+)";
+
+class GuideOfAQmlHost : public testing::Test
+{
+protected:
+    static TQGuideView *guideIn(const QQuickItem *item)
+    {
+        for (QQuickItem *child : item->childItems()) {
+            if (auto *guide = qobject_cast<TQGuideView *>(child))
+                return guide;
+        }
+        return nullptr;
+    }
+
+    Testing::InstalledRecordingPlatform platform;
+    Testing::AnimationClock clock;
+    std::unique_ptr<QmlWindow> app = std::make_unique<QmlWindow>(host);
+};
+
+TEST_F(GuideOfAQmlHost, AsksBuildsAndShowsIt)
+{
+    EXPECT_EQ(app->item->property("asked"), QVariant(true));
+    platform->scenes = keyScene(&app->window);
+    QMetaObject::invokeMethod(app->item, "start");
+    TQGuideView *guide = guideIn(app->window.contentItem());
+    ASSERT_TRUE(guide);
+    EXPECT_EQ(guide->guideLabel()->property("text"), QVariant(QStringLiteral("One")));
+    EXPECT_EQ(guide->backgroundColor(), TQApp(TQApp::Case::birch).tintColor());
+    clock.pass(600);
+    guide->nextGuide();
+    clock.pass(800);
+    EXPECT_EQ(guide->guideLabel()->property("text"), QVariant(QStringLiteral("Two")));
+    EXPECT_EQ(app->item->property("completions"), QVariant(0));
+    guide->nextGuide();
+    EXPECT_EQ(app->item->property("completions"), QVariant(1));
+    clock.pass(600);
+    EXPECT_FALSE(guideIn(app->window.contentItem()));
+    EXPECT_FALSE(TQGuideView::shouldShowGuide());
+}
+
+TEST_F(GuideOfAQmlHost, HandsTheFallbacksOn)
+{
+    QMetaObject::invokeMethod(app->item, "startHere");
+    EXPECT_TRUE(guideIn(app->item));
+}
+
+TEST_F(GuideOfAQmlHost, IsHeldByItsHostAndNotByTheGarbageCollector)
+{
+    platform->scenes = keyScene(&app->window);
+    QMetaObject::invokeMethod(app->item, "start");
+    const QPointer<TQGuideView> guide = guideIn(app->window.contentItem());
+    app->engine.collectGarbage();
+    clock.pass(600);
+    app->engine.collectGarbage();
+    EXPECT_TRUE(guide);
+}
+
+TEST_F(GuideOfAQmlHost, OutlivesTheObjectThatShowedIt)
+{
+    platform->scenes = keyScene(&app->window);
+    QMetaObject::invokeMethod(app->item, "start");
+    const QPointer<TQGuideView> guide = guideIn(app->window.contentItem());
+    clock.pass(600);
+    app->object.reset();
+    guide->nextGuide();
+    clock.pass(800);
+    guide->nextGuide();
+    clock.pass(600);
+    EXPECT_FALSE(guideIn(app->window.contentItem()));
+    EXPECT_FALSE(TQGuideView::shouldShowGuide());
+}
+
+TEST_F(GuideOfAQmlHost, GoesWithItsHostAndTheHostsEngine)
+{
+    platform->scenes = keyScene(&app->window);
+    QMetaObject::invokeMethod(app->item, "start");
+    const QPointer<TQGuideView> guide = guideIn(app->window.contentItem());
+    clock.pass(600);
+    guide->nextGuide();
+    clock.pass(100);
+    platform->scenes = {};
+    app.reset();
+    clock.pass(700);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(guide);
+}
+
+} // namespace
+} // namespace TQFoundation

@@ -38,5 +38,44 @@ TEST(Color, LabelIsBlackOnLightAndWhiteOnDark)
     EXPECT_EQ(Color::label().resolved(Appearance::dark), (Rgba{1, 1, 1}));
 }
 
+TEST(Color, BlackAndWhiteAreAsFarApartAsColorsCanBe)
+{
+    EXPECT_DOUBLE_EQ(luminance(Rgba{0, 0, 0}), 0);
+    EXPECT_NEAR(luminance(Rgba{1, 1, 1}), 1, 1e-12);
+    EXPECT_NEAR(contrast(Rgba{0, 0, 0}, Rgba{1, 1, 1}), 21, 1e-9);
+    EXPECT_NEAR(contrast(Rgba{1, 1, 1}, Rgba{0, 0, 0}), 21, 1e-9);
+    EXPECT_DOUBLE_EQ(contrast(Rgba{1, 0, 0}, Rgba{1, 0, 0}), 1);
+}
+
+TEST(Color, ContrastIsThatOfTheGuidelines)
+{
+    // The grey that is known as the lightest one that is legible on white.
+    const float grey = 0x76 / 255.0F;
+    EXPECT_NEAR(contrast(Rgba{grey, grey, grey}, Rgba{1, 1, 1}), 4.54, 0.005);
+    EXPECT_NEAR(contrast(Rgba{1, 0, 0}, Rgba{1, 1, 1}), 3.998, 0.001);
+}
+
+TEST(Color, BlackOrWhiteIsLegibleOnEveryOpaqueColor)
+{
+    for (int red = 0; red <= 15; ++red) {
+        for (int green = 0; green <= 15; ++green) {
+            for (int blue = 0; blue <= 15; ++blue) {
+                const Rgba ground{static_cast<float>(red) / 15, static_cast<float>(green) / 15,
+                                  static_cast<float>(blue) / 15};
+                const Rgba text = Color(ground).textColor(Appearance::light);
+                EXPECT_TRUE(text == (Rgba{0, 0, 0}) || text == (Rgba{1, 1, 1}));
+                EXPECT_GE(contrast(text, ground), 4.5);
+            }
+        }
+    }
+}
+
+TEST(Color, TextOnATranslucentColorCountsWhatShinesThrough)
+{
+    constexpr Color clear(Rgba{0, 0, 0, 0});
+    EXPECT_EQ(clear.textColor(Appearance::light), (Rgba{0, 0, 0}));
+    EXPECT_EQ(clear.textColor(Appearance::dark), (Rgba{1, 1, 1}));
+}
+
 } // namespace
 } // namespace TQFoundation

@@ -75,7 +75,8 @@ TEST(Bundle, TheLanguageIsChosenOncePerProcess)
     EXPECT_EQ(localizedInLibrary(version), QStringLiteral("版本"));
     useLanguage("de-DE");
     EXPECT_EQ(localizedInLibrary(version), QStringLiteral("版本"));
-    EXPECT_EQ(Bundle(QStringLiteral(":/qt-project.org/imports/TQFoundation/.")).localizedString(version), QStringLiteral("版本"));
+    EXPECT_EQ(Bundle(QStringLiteral(":/qt-project.org/imports/TQFoundation/.")).localizedString(version),
+              QStringLiteral("版本"));
 }
 
 TEST(Bundle, ABrokenTableCountsAsNone)
@@ -108,6 +109,14 @@ TEST(Bundle, EveryTruncatedTableIsSurvived)
         const QString text = Bundle(folder.path()).localizedString(version);
         EXPECT_TRUE(text == version || text == QStringLiteral("版本")) << length;
     }
+}
+
+TEST(Bundle, TextsOfTheInterfaceHaveAContextOfTheirOwn)
+{
+    useLanguage("de-DE");
+    EXPECT_EQ(libraryBundle().interfaceString(QStringLiteral("Next")), QStringLiteral("Weiter"));
+    EXPECT_EQ(localizedInLibrary(QStringLiteral("Next")), QStringLiteral("Next"));
+    EXPECT_EQ(libraryBundle().interfaceString(version), version);
 }
 
 TEST(Bundle, AnImageIsFoundByItsNameAlone)

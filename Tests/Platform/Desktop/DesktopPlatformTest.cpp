@@ -7,6 +7,7 @@
 #include <QtCore/qelapsedtimer.h>
 #include <QtCore/qeventloop.h>
 #include <QtCore/qfile.h>
+#include <QtCore/qfileinfo.h>
 #include <QtCore/qprocess.h>
 #include <QtCore/qscopeguard.h>
 #include <QtCore/qsettings.h>
@@ -44,6 +45,26 @@ public:
 QByteArray listOf(const QByteArray &entries)
 {
     return "<plist version=\"1.0\"><dict>" + entries + "</dict></plist>";
+}
+
+QString settingsPath()
+{
+    return QSettings(QCoreApplication::organizationName(), QCoreApplication::applicationName()).fileName();
+}
+
+void writeSettings(const QByteArray &content)
+{
+    ASSERT_TRUE(QFileInfo(settingsPath()).dir().mkpath(QStringLiteral(".")));
+    QFile file(settingsPath());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+QByteArray readSettings()
+{
+    QFile file(settingsPath());
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
 }
 
 class DesktopPlatformTest : public testing::Test
@@ -132,12 +153,49 @@ TEST_F(DesktopPlatformTest, ASettingIsReadBackAndOnDiskOnceTheEventLoopRuns)
     platform.setUserDefault(QStringLiteral("Flag"), true);
     EXPECT_TRUE(platform.userDefault(QStringLiteral("Flag")).toBool());
 
-    const QString file =
-        QSettings(QCoreApplication::organizationName(), QCoreApplication::applicationName()).fileName();
     QCoreApplication::processEvents();
-    QFile stored(file);
-    ASSERT_TRUE(stored.open(QIODevice::ReadOnly)) << file.toStdString();
-    EXPECT_TRUE(stored.readAll().contains("Flag=true"));
+    EXPECT_TRUE(readSettings().contains("Flag=true"));
+}
+
+// A store that keeps no types has exactly one text that counts as true.
+TEST_F(DesktopPlatformTest, OfATextFileTrueAndFalseAreBooleansAndAllElseIsText)
+{
+    writeSettings("[General]\nyes=true\nno=false\none=1\nupper=True\nquoted=\"true \"\nword=yes\nlist=true, true\n");
+    EXPECT_EQ(platform.userDefault(QStringLiteral("yes")), QVariant(true));
+    EXPECT_EQ(platform.userDefault(QStringLiteral("no")), QVariant(false));
+    for (const char *key : {"one", "upper", "quoted", "word", "list"})
+        EXPECT_NE(platform.userDefault(QLatin1String(key)).typeId(), QMetaType::Bool) << key;
+}
+
+TEST_F(DesktopPlatformTest, ASettingOfTheHostIsNotLost)
+{
+    writeSettings("[General]\nname=Grove\n[Window]\nwidth=300\n");
+    platform.setUserDefault(QStringLiteral("Flag"), true);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(readSettings(), "[General]\nFlag=true\nname=Grove\n\n[Window]\nwidth=300\n");
+}
+
+TEST_F(DesktopPlatformTest, ACorruptFileKeepsAllThatItHolds)
+{
+    for (const char *corrupt : {"[General]\nname=Grove\nhalf a line", "\x7f\x45\x4c\x46\x02\x01\nname=Grove\n[Gen",
+                                "[General\nname=Grove\n"}) {
+        writeSettings(corrupt);
+        DesktopPlatform fresh;
+        EXPECT_NE(fresh.userDefault(QStringLiteral("Flag")), QVariant(true));
+        fresh.setUserDefault(QStringLiteral("Flag"), true);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(readSettings(), corrupt);
+    }
+}
+
+TEST_F(DesktopPlatformTest, WhereTheStoreCannotBeWrittenNothingHappens)
+{
+    // A folder in place of the file; permissions would not stop the superuser.
+    ASSERT_TRUE(QDir().mkpath(settingsPath()));
+    platform.setUserDefault(QStringLiteral("Flag"), true);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(QFileInfo(settingsPath()).isDir());
+    EXPECT_NE(DesktopPlatform().userDefault(QStringLiteral("Flag")), QVariant(QStringLiteral("true")));
 }
 
 TEST_F(DesktopPlatformTest, ASettingOfTheOrganisationIsNotTheApplications)

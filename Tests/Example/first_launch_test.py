@@ -1,0 +1,67 @@
+"""The example's first launch in a real window: clicks lead through the guide, and it never shows again.
+
+Needs an X server; runs under xvfb-run."""
+
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import time
+
+grove = sys.argv[1]
+flag = "KeyOfDidShowGuide=true"
+
+
+def settings(home):
+    return "".join(path.read_text(encoding="utf-8") for path in pathlib.Path(home).glob("TQ Studio/*.conf"))
+
+
+def xdotool(*arguments):
+    return subprocess.run(["xdotool", *arguments], capture_output=True, text=True).stdout.split()
+
+
+class App:
+    """The example in its window, from launch to kill."""
+
+    def __init__(self, home, *options):
+        environment = dict(os.environ, HOME=home, XDG_CONFIG_HOME=home, XDG_RUNTIME_DIR=home, QT_QPA_PLATFORM="xcb",
+                           QT_SCALE_FACTOR="1", LIBGL_ALWAYS_SOFTWARE="1")
+        self.process = subprocess.Popen([grove, "--app", "hazel", "--language", "en", *options], env=environment)
+
+    def __enter__(self):
+        deadline = time.monotonic() + 30
+        while not (found := xdotool("search", "--onlyvisible", "--pid", str(self.process.pid))):
+            assert time.monotonic() < deadline and self.process.poll() is None, "no window"
+            time.sleep(0.1)
+        self.window = found[-1]
+        time.sleep(1)  # for the first frame and the fade-in
+        return self
+
+    def __exit__(self, *_):
+        self.process.kill()
+        self.process.wait()
+
+    def click_next(self):
+        """Where the guide has its button; the screen beneath has nothing there that stores a setting."""
+        xdotool("mousemove", "--window", self.window, "329", "783", "click", "1")
+        time.sleep(1)  # a change of paragraphs takes 0.8 s
+
+
+with tempfile.TemporaryDirectory() as home:
+    with App(home) as app:
+        for paragraph in range(6):
+            assert flag not in settings(home), f"stored before click {paragraph + 1}"
+            app.click_next()
+        assert flag in settings(home), "the sixth click did not end the guide"
+    stored = settings(home)
+    with App(home) as app:
+        for _ in range(2):
+            app.click_next()
+    assert settings(home) == stored
+    with App(home, "--reset-guide") as app:
+        assert flag not in settings(home), "--reset-guide did not forget"
+        for _ in range(6):
+            app.click_next()
+        assert flag in settings(home)
+print("6 clicks, once; and 6 more after --reset-guide")

@@ -1,6 +1,6 @@
 # The front door. Everything below is CMake with the presets of CMakePresets.json.
 .DEFAULT_GOAL := help
-.PHONY: help run test lint bench install pictures format clean
+.PHONY: help run test sanitize lint bench install pictures format clean
 
 PREFIX ?= /usr/local
 ARGS ?=
@@ -12,6 +12,7 @@ units = $(shell find Sources Example -name '*.cpp')
 help:
 	@echo "make run        build and start the example (ARGS=\"--app birch --dark\"); pictures where there is no display"
 	@echo "make test       check the formatting and the QML files, build, run all tests"
+	@echo "make sanitize   run the tests under the address and undefined behaviour sanitizers"
 	@echo "make lint       clang-tidy and clazy"
 	@echo "make bench      measure; prints tables"
 	@echo "make install    install to PREFIX ($(PREFIX))"
@@ -32,6 +33,12 @@ test:
 	cmake --build --preset release
 	cmake --build --preset release --target all_qmllint
 	ctest --preset release
+
+sanitize:
+	tools/install-packages build run test
+	cmake --preset sanitize
+	cmake --build --preset sanitize --target Tests
+	ctest --preset sanitize
 
 lint:
 	tools/install-packages build run test

@@ -103,7 +103,7 @@ FocusScope {
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
             font { pixelSize: 17; weight: Font.DemiBold }
-            color: Theme.textOn(root.tint)
+            color: root.app.tintColor.textColor(Theme.dark)
         }
     }
 }

@@ -19,15 +19,4 @@ QtObject {
     readonly property real widest: 620 // of a column of text in a wide window
 
     readonly property SystemPalette system: SystemPalette {}
-
-    // The relative luminance of WCAG 2.1.
-    function luminance(of: color): real {
-        const linear = part => part <= 0.04045 ? part / 12.92 : Math.pow((part + 0.055) / 1.055, 2.4);
-        return 0.2126 * linear(of.r) + 0.7152 * linear(of.g) + 0.0722 * linear(of.b);
-    }
-
-    // Black or white, whichever is easier to read on the given ground.
-    function textOn(filled: color): color {
-        return luminance(filled) > 0.179 ? "#000000" : "#ffffff";
-    }
 }

@@ -34,10 +34,7 @@ public:
     }
 
 private:
-    static QColor painted(const Rgba &rgba)
-    {
-        return QColor::fromRgbF(rgba.red, rgba.green, rgba.blue, rgba.alpha);
-    }
+    static QColor painted(const Rgba &rgba) { return QColor::fromRgbF(rgba.red, rgba.green, rgba.blue, rgba.alpha); }
 
     Color m_color;
 };

@@ -67,8 +67,8 @@ public:
         return appearance == Appearance::dark ? m_dark : m_light;
     }
 
-    /// Black or white, whichever is easier to read on the colour: at least 4.5 in contrast on an opaque one. What shines
-    /// through a translucent one is taken for white in light appearance and black in dark.
+    /// Black or white, whichever is easier to read on the colour: at least 4.5 in contrast on an opaque one. What
+    /// shines through a translucent one is taken for white in light appearance and black in dark.
     Rgba textColor(Appearance appearance) const noexcept
     {
         const Rgba ground = resolved(appearance);

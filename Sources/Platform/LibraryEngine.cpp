@@ -49,8 +49,8 @@ Library *library()
 
 std::unique_ptr<QObject> makeFromNib(const QString &path)
 {
-    QQmlComponent component(&library()->engine, path.startsWith(u':') ? QUrl(QString(u"qrc" + path))
-                                                                      : QUrl::fromLocalFile(path));
+    QQmlComponent component(&library()->engine,
+                            path.startsWith(u':') ? QUrl(QString(u"qrc" + path)) : QUrl::fromLocalFile(path));
     std::unique_ptr<QObject> object(component.create());
     if (object)
         QJSEngine::setObjectOwnership(object.get(), QJSEngine::CppOwnership);

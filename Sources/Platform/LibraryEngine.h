@@ -18,8 +18,9 @@ std::unique_ptr<QObject> makeFromNib(const QString &path);
 /// The object that everything belongs to which has to be gone before the application object is. Main thread.
 QObject *untilApplicationEnds();
 
-/// Takes \a object off the screen and deletes it when control is back in the event loop, because one of its own handlers
-/// may be running, or at once where there is no application any more. For a shared pointer to call. Main thread.
+/// Takes \a object off the screen and deletes it when control is back in the event loop, because one of its own
+/// handlers may be running, or at once where there is no application any more. For a shared pointer to call. Main
+/// thread.
 void deleteInItsTurn(QObject *object);
 
 } // namespace TQFoundation

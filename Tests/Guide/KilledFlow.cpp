@@ -1,4 +1,5 @@
-// An app whose guide is finished at once, with settings of its own. It says when it starts, and runs until it is killed.
+// An app whose guide is finished at once, with settings of its own. It says when it starts, and runs until it is
+// killed.
 
 #include <TQFoundation/TQGuideView.h>
 
@@ -13,8 +14,8 @@ int main(int argc, char *argv[])
     QGuiApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("TQFoundation"));
     QCoreApplication::setApplicationName(QStringLiteral("KilledFlow"));
-    const auto guide = TQFoundation::TQGuideView::initFromNib(TQFoundation::Color::systemBlue(),
-                                                              {QStringLiteral("Text")}, nullptr);
+    const auto guide =
+        TQFoundation::TQGuideView::initFromNib(TQFoundation::Color::systemBlue(), {QStringLiteral("Text")}, nullptr);
     guide->showGuide();
     std::printf("%d\n", TQFoundation::TQGuideView::shouldShowGuide());
     std::fflush(stdout);

@@ -4,6 +4,15 @@
 #include <utility>
 
 namespace TQFoundation {
+namespace {
+
+// Both questions that a layer answers ask it the same way, so that its last frame shows what stays.
+bool hasEnded(const BasicAnimation &animation, double now)
+{
+    return now - *animation.beginTime >= animation.duration;
+}
+
+} // namespace
 
 void ShapeLayer::addAnimation(BasicAnimation animation, double now)
 {
@@ -18,9 +27,9 @@ Presentation ShapeLayer::presentation(double now) const
 {
     Presentation presented = model;
     for (const BasicAnimation &animation : m_animations) {
-        const double progress = (now - *animation.beginTime) / animation.duration;
-        if (!(progress >= 0 && progress < 1))
+        if (now < *animation.beginTime || hasEnded(animation, now))
             continue;
+        const double progress = (now - *animation.beginTime) / animation.duration;
         double &number =
             animation.keyPath == BasicAnimation::KeyPath::opacity ? presented.opacity : presented.strokeEnd;
         number = animation.fromValue + (animation.toValue - animation.fromValue) * progress;
@@ -32,7 +41,7 @@ std::optional<double> ShapeLayer::nextChange(double now) const
 {
     std::optional<double> next;
     for (const BasicAnimation &animation : m_animations) {
-        if (now >= *animation.beginTime + animation.duration)
+        if (hasEnded(animation, now))
             continue;
         const double change = std::max(now, *animation.beginTime);
         next = next ? std::min(*next, change) : change;

@@ -48,8 +48,8 @@ struct BasicAnimation
     double fromValue = 0;
     double toValue = 0;
     double duration = 0; ///< Seconds, more than 0.
-    std::optional<double> beginTime; ///< Media time in seconds; not set: when it is added.
-    std::string key; ///< An animation replaces the earlier one of the same key; without a key it replaces none.
+    std::optional<double> beginTime{}; ///< Media time in seconds; not set: when it is added.
+    std::string key{}; ///< An animation replaces the earlier one of the same key; without a key it replaces none.
 
     friend bool operator==(const BasicAnimation &, const BasicAnimation &) = default;
 };

@@ -13,18 +13,13 @@ FocusScope {
 
     signal moreRequested
 
+    // A wash of the app's colour, strongest behind the icon.
     Rectangle {
         anchors.fill: parent
-        color: Theme.ground
-
-        // A wash of the app's colour, strongest behind the icon.
-        Rectangle {
-            anchors.fill: parent
-            opacity: Theme.dark ? 0.24 : 0.12
-            gradient: Gradient {
-                GradientStop { position: 0; color: root.tint }
-                GradientStop { position: 0.75; color: "transparent" }
-            }
+        opacity: Theme.dark ? 0.24 : 0.12
+        gradient: Gradient {
+            GradientStop { position: 0; color: root.tint }
+            GradientStop { position: 0.75; color: "transparent" }
         }
     }
 

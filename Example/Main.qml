@@ -8,6 +8,7 @@ ApplicationWindow {
     required property tqApp app
     required property url iconSource
     property bool animated: true
+    property bool backgroundOnly: false
     property string screenName: "home"
 
     visible: true
@@ -21,7 +22,7 @@ ApplicationWindow {
 
     // On the first launch only. No window is key yet, so that the guide goes into this one.
     Component.onCompleted: {
-        if (app.guideText.length > 0 && guide.shouldShowGuide())
+        if (!backgroundOnly && app.guideText.length > 0 && guide.shouldShowGuide())
             guide.showGuide(root);
     }
 
@@ -40,10 +41,16 @@ ApplicationWindow {
             stack.pop(null, operation);
     }
 
+    TQRandomBackgroundView {
+        anchors.fill: parent
+        color: root.app.tintColor
+    }
+
     StackView {
         id: stack
 
         anchors.fill: parent
+        visible: !root.backgroundOnly
         focus: true
         initialItem: homeScreen
         onCurrentItemChanged: if (currentItem) currentItem.forceActiveFocus()

@@ -15,11 +15,6 @@ FocusScope {
     Keys.onEscapePressed: backRequested()
     Keys.onBackPressed: backRequested()
 
-    Rectangle {
-        anchors.fill: parent
-        color: Theme.ground
-    }
-
     Item {
         id: bar
 

@@ -16,6 +16,7 @@
 #include <QtQuick/qquickwindow.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdlib>
 #include <optional>
 #include <span>
@@ -32,6 +33,7 @@ struct Options
     bool dark = false;
     QSize size{390, 844};
     bool resetGuide = false;
+    bool backgroundOnly = false;
     QString shots; // the folder for pictures; empty for a window
 };
 
@@ -49,7 +51,7 @@ private:
     std::optional<QString> m_storefront;
 };
 
-/// For pictures: every time is the first launch, and nothing is stored.
+/// For pictures: every time is the first launch, nothing is stored, and the background stands still.
 class PicturePlatform final : public GrovePlatform
 {
 public:
@@ -57,6 +59,9 @@ public:
 
     QVariant userDefault(const QString &) const override { return {}; }
     void setUserDefault(const QString &, const QVariant &) override {}
+    double mediaTime() const override { return now; }
+
+    std::atomic<double> now = 0;
 };
 
 std::optional<TQApp> appNamed(const QString &name)
@@ -93,11 +98,13 @@ Options parseOptions(const QStringList &arguments)
                                   QStringLiteral("widthxheight"), QStringLiteral("390x844"));
     const QCommandLineOption resetGuide(QStringLiteral("reset-guide"),
                                         QStringLiteral("Show the app's guide again, as on the first launch."));
+    const QCommandLineOption backgroundOnly(QStringLiteral("background-only"),
+                                            QStringLiteral("Show the animated background and nothing else."));
     const QCommandLineOption shots(QStringLiteral("shots"),
                                    QStringLiteral("Walk through the screens off-screen and write pictures."),
                                    QStringLiteral("folder"));
     QCommandLineParser parser;
-    parser.addOptions({app, storefront, language, dark, size, resetGuide, shots});
+    parser.addOptions({app, storefront, language, dark, size, resetGuide, backgroundOnly, shots});
     const QCommandLineOption help = parser.addHelpOption();
     if (!parser.parse(arguments))
         refuse(parser.errorText());
@@ -120,6 +127,7 @@ Options parseOptions(const QStringList &arguments)
     options.language = parser.value(language);
     options.dark = parser.isSet(dark);
     options.resetGuide = parser.isSet(resetGuide);
+    options.backgroundOnly = parser.isSet(backgroundOnly);
     options.shots = parser.value(shots);
     if (parser.isSet(shots) && options.shots.isEmpty())
         refuse(QStringLiteral("--shots needs a folder"));
@@ -163,10 +171,21 @@ TQGuideView *guideIn(const QQuickWindow &window)
     return guide == items.end() ? nullptr : static_cast<TQGuideView *>(*guide);
 }
 
+bool writePicture(QQuickWindow *window, const QString &folder, const QString &name)
+{
+    QCoreApplication::processEvents();
+    const QString path = QDir(folder).filePath(name + u".png");
+    if (!QDir().mkpath(folder) || !window->grabWindow().save(path)) {
+        QTextStream(stderr) << "Grove: cannot write " << path << '\n';
+        return false;
+    }
+    QTextStream(stdout) << QDir(path).absolutePath() << '\n';
+    return true;
+}
+
 // Shows the guide, where the app has one, and each screen without animation, and writes what the window then holds.
 bool takePictures(QQuickWindow *window, const QString &folder)
 {
-    QTextStream out(stdout);
     QStringList screens{QStringLiteral("home"), QStringLiteral("more")};
     if (guideIn(*window))
         screens.prepend(QStringLiteral("guide"));
@@ -180,13 +199,20 @@ bool takePictures(QQuickWindow *window, const QString &folder)
                 guide->setParentItem(nullptr);
             window->setProperty("screenName", screen);
         }
-        QCoreApplication::processEvents();
-        const QString path = QDir(folder).filePath(screen + u".png");
-        if (!QDir().mkpath(folder) || !window->grabWindow().save(path)) {
-            QTextStream(stderr) << "Grove: cannot write " << path << '\n';
+        if (!writePicture(window, folder, screen))
             return false;
-        }
-        out << QDir(path).absolutePath() << '\n';
+    }
+    return true;
+}
+
+// The background alone as it fades in, half drawn, complete, and fading out.
+bool takeBackgroundPictures(QQuickWindow *window, const QString &folder)
+{
+    for (const double seconds : {0.5, 4.5, 9.1, 9.9}) {
+        static_cast<PicturePlatform &>(platform()).now = seconds;
+        window->update();
+        if (!writePicture(window, folder, QStringLiteral("background-%1").arg(seconds)))
+            return false;
     }
     return true;
 }
@@ -243,12 +269,15 @@ int main(int argc, char *argv[])
                                  {QStringLiteral("iconSource"), iconSource},
                                  {QStringLiteral("width"), options.size.width()},
                                  {QStringLiteral("height"), options.size.height()},
-                                 {QStringLiteral("animated"), options.shots.isEmpty()}});
+                                 {QStringLiteral("animated"), options.shots.isEmpty()},
+                                 {QStringLiteral("backgroundOnly"), options.backgroundOnly}});
     engine.load(QUrl(QStringLiteral("qrc:/Grove/Main.qml")));
     auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
     if (!window)
         return 1;
-    if (!options.shots.isEmpty())
-        return takePictures(window, options.shots) ? 0 : 1;
+    if (!options.shots.isEmpty()) {
+        const auto take = options.backgroundOnly ? takeBackgroundPictures : takePictures;
+        return take(window, options.shots) ? 0 : 1;
+    }
     return QGuiApplication::exec();
 }

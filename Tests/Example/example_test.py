@@ -45,6 +45,11 @@ with tempfile.TemporaryDirectory() as name:
     if result.returncode or size_of(folder / "shots" / "more.png") is None:
         failures.append(f"without a display: {result.returncode} {result.stdout} {result.stderr}")
 
+    result = run("--background-only", "--shots", str(folder / "background"))
+    pictures = sorted(path.name for path in (folder / "background").glob("*"))
+    if result.returncode or result.stderr or pictures != [f"background-{moment}.png" for moment in (0.5, 4.5, 9.1, 9.9)]:
+        failures.append(f"--background-only: {result.returncode} {pictures} {result.stderr}")
+
     def more_picture(app, storefront):
         target = folder / f"{app}-{storefront}"
         run("--app", app, "--storefront", storefront, "--shots", str(target))

@@ -144,7 +144,9 @@ double RecordingPlatform::mediaTime() const
 std::shared_ptr<RepeatingTimer> RecordingPlatform::makeTimer(double interval, std::function<void()> tick)
 {
     record(u"makeTimer(" + QString::number(interval) + u')');
-    return std::make_shared<RecordingTimer>(*this, interval, std::move(tick));
+    const auto timer = std::make_shared<RecordingTimer>(*this, interval, std::move(tick));
+    timers.push_back(timer);
+    return timer;
 }
 
 QString RecordingPlatform::resourceRoot() const

@@ -35,6 +35,9 @@ public:
     /// The calls in their order, each the function's name with its arguments in parentheses.
     mutable QStringList calls;
 
+    /// The timers that were made, in their order, each for as long as someone holds it: for tests that invalidate one.
+    std::vector<std::weak_ptr<RepeatingTimer>> timers;
+
     /// How often the storefront was asked for; counted from any thread.
     mutable std::atomic<int> storefrontReads = 0;
 

@@ -1,0 +1,218 @@
+#include "Layer.h"
+#include "QmlWindow.h"
+#include "RecordingPlatform.h"
+
+#include <TQFoundation/AnimationView.h>
+#include <TQFoundation/TQApp.h>
+#include <TQFoundation/TQRandomBackgroundView.h>
+
+#include <QtGui/qaccessible.h>
+
+namespace TQFoundation {
+namespace {
+
+using Testing::InstalledRecordingPlatform;
+using Testing::QmlWindow;
+
+constexpr Rgba red{1, 0, 0};
+constexpr Rgba green{0, 1, 0};
+
+class RandomBackground : public testing::Test
+{
+protected:
+    // The view that a placed background shows, or null before.
+    static AnimationView *viewIn(const QQuickItem *background)
+    {
+        const QList<QQuickItem *> children = background->childItems();
+        EXPECT_LE(children.size(), 1);
+        return children.isEmpty() ? nullptr : qobject_cast<AnimationView *>(children.first());
+    }
+
+    static Rgba drawnColor(const AnimationView *view)
+    {
+        EXPECT_TRUE(view && view->shapeLayer());
+        return view && view->shapeLayer() ? view->shapeLayer()->strokeColor : Rgba();
+    }
+
+    static Rgba atAFifth(const Color &color)
+    {
+        Rgba drawn = color.resolved(Appearance::light);
+        drawn.alpha = 0.2F;
+        return drawn;
+    }
+
+    int timersMade() const { return static_cast<int>(platform->timers.size()); }
+
+    InstalledRecordingPlatform platform;
+};
+
+TEST_F(RandomBackground, InQmlHasItsColourBeforeItsFirstTick)
+{
+    const QmlWindow host("TQRandomBackgroundView { color: TQApp.larch.tintColor }");
+    ASSERT_TRUE(host.item);
+    EXPECT_EQ(drawnColor(viewIn(host.item)), atAFifth(TQApp::larch.tintColor()));
+    EXPECT_EQ(timersMade(), 1);
+}
+
+TEST_F(RandomBackground, InQmlCannotBeMadeWithoutAColour)
+{
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData("import TQFoundation\nTQRandomBackgroundView {}", QUrl(QStringLiteral("qrc:/Host.qml")));
+    const std::unique_ptr<QObject> object(component.create());
+    EXPECT_FALSE(object);
+    EXPECT_TRUE(component.errorString().contains(u"color")) << component.errorString().toStdString();
+    EXPECT_EQ(timersMade(), 0);
+}
+
+TEST_F(RandomBackground, InCppStartsWhereItIsPlaced)
+{
+    QQuickWindow window;
+    TQRandomBackgroundView background(Color(red), window.contentItem());
+    EXPECT_EQ(background.color(), Color(red));
+    EXPECT_EQ(background.parentItem(), window.contentItem());
+    EXPECT_EQ(drawnColor(viewIn(&background)), atAFifth(red));
+}
+
+TEST_F(RandomBackground, MakesNothingBeforeItIsInAWindow)
+{
+    QQuickItem page;
+    TQRandomBackgroundView background(Color(red), &page);
+    background.setColor(green);
+    EXPECT_FALSE(viewIn(&background));
+    EXPECT_EQ(timersMade(), 0);
+    QQuickWindow window;
+    page.setParentItem(window.contentItem());
+    EXPECT_EQ(drawnColor(viewIn(&background)), atAFifth(green));
+    EXPECT_EQ(timersMade(), 1);
+}
+
+TEST_F(RandomBackground, EveryPlacementHasAViewOfItsOwn)
+{
+    const QmlWindow host("Item { TQRandomBackgroundView { color: TQApp.larch.tintColor }\n"
+                         "TQRandomBackgroundView { color: TQApp.birch.tintColor } }");
+    const QList<QQuickItem *> backgrounds = host.item->childItems();
+    ASSERT_EQ(backgrounds.size(), 2);
+    EXPECT_NE(viewIn(backgrounds[0]), viewIn(backgrounds[1]));
+    EXPECT_EQ(drawnColor(viewIn(backgrounds[0])), atAFifth(TQApp::larch.tintColor()));
+    EXPECT_EQ(drawnColor(viewIn(backgrounds[1])), atAFifth(TQApp::birch.tintColor()));
+    EXPECT_EQ(timersMade(), 2);
+}
+
+TEST_F(RandomBackground, GivesItsViewWhateverSizeItHas)
+{
+    QQuickWindow window;
+    TQRandomBackgroundView background(Color(red), window.contentItem());
+    EXPECT_EQ(viewIn(&background)->size(), QSizeF(0, 0)) << "without a size of its own";
+    background.setSize({120, 80});
+    EXPECT_EQ(viewIn(&background)->size(), QSizeF(120, 80));
+    EXPECT_EQ(viewIn(&background)->position(), QPointF(0, 0));
+}
+
+TEST_F(RandomBackground, UpdatesMakeNoSecondTimerAndNoTick)
+{
+    QQuickWindow window;
+    TQRandomBackgroundView background(Color(red), window.contentItem());
+    AnimationView *view = viewIn(&background);
+    const ShapeLayer line = *view->shapeLayer();
+    platform->calls.clear();
+    for (int round = 0; round < 10; ++round) {
+        background.setColor(red);
+        background.setColor(green);
+        background.setSize({10.0 * round, 10});
+    }
+    EXPECT_EQ(platform->calls, QStringList());
+    EXPECT_EQ(viewIn(&background), view);
+    EXPECT_EQ(*view->shapeLayer(), line);
+}
+
+TEST_F(RandomBackground, ANewColourShowsOnlyAtTheNextTick)
+{
+    const QmlWindow host("TQRandomBackgroundView { property bool other: false\n"
+                         "color: other ? TQApp.birch.tintColor : TQApp.larch.tintColor }");
+    const AnimationView *view = viewIn(host.item);
+    host.item->setProperty("other", true);
+    EXPECT_EQ(view->color(), TQApp::birch.tintColor());
+    platform->advance(9.9);
+    EXPECT_EQ(drawnColor(view), atAFifth(TQApp::larch.tintColor()));
+    platform->advance(0.2);
+    EXPECT_EQ(drawnColor(view), atAFifth(TQApp::birch.tintColor()));
+}
+
+TEST_F(RandomBackground, TellsOfAColourOnlyWhenItIsNew)
+{
+    TQRandomBackgroundView background{Color(red)};
+    int changes = 0;
+    QObject::connect(&background, &TQRandomBackgroundView::colorChanged, [&] { ++changes; });
+    background.setColor(red);
+    EXPECT_EQ(changes, 0);
+    background.setColor(green);
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(RandomBackground, NothingStopsWhenItIsTakenOutOfItsWindow)
+{
+    QQuickWindow window;
+    TQRandomBackgroundView background(Color(red), window.contentItem());
+    AnimationView *view = viewIn(&background);
+    background.setParentItem(nullptr);
+    const ShapeLayer line = *view->shapeLayer();
+    platform->advance(10);
+    EXPECT_NE(*view->shapeLayer(), line);
+    QQuickWindow other;
+    background.setParentItem(other.contentItem());
+    EXPECT_EQ(viewIn(&background), view) << "it is still the same placement";
+    EXPECT_EQ(timersMade(), 1);
+}
+
+TEST_F(RandomBackground, ItsViewOutlivesItTheWindowAndTheEngine)
+{
+    std::weak_ptr<AnimationView> view;
+    {
+        const QmlWindow host("TQRandomBackgroundView { color: TQApp.larch.tintColor }");
+        view = viewIn(host.item)->weak_from_this();
+    }
+    ASSERT_FALSE(view.expired());
+    EXPECT_FALSE(view.lock()->parentItem());
+    const ShapeLayer line = *view.lock()->shapeLayer();
+    platform->advance(10);
+    ASSERT_FALSE(view.expired());
+    EXPECT_NE(*view.lock()->shapeLayer(), line);
+    platform->timers.front().lock()->invalidate();
+    EXPECT_TRUE(view.expired());
+}
+
+TEST_F(RandomBackground, HoldsItsViewWhenTheTimerHasGone)
+{
+    std::weak_ptr<AnimationView> view;
+    QQuickWindow window;
+    {
+        TQRandomBackgroundView background(Color(red), window.contentItem());
+        view = viewIn(&background)->weak_from_this();
+        platform->timers.front().lock()->invalidate();
+        EXPECT_FALSE(view.expired());
+    }
+    EXPECT_TRUE(view.expired());
+}
+
+TEST_F(RandomBackground, LetsThroughWhatTheUserDoes)
+{
+    const QmlWindow host("MouseArea { property int taps: 0; width: 100; height: 100; onClicked: ++taps\n"
+                         "TQRandomBackgroundView { anchors.fill: parent; color: TQApp.larch.tintColor } }");
+    QTest::mouseClick(const_cast<QQuickWindow *>(&host.window), Qt::LeftButton, {}, QPoint(50, 50));
+    EXPECT_EQ(host.item->property("taps"), QVariant(1));
+}
+
+TEST_F(RandomBackground, IsNotSeenByAssistiveTechnology)
+{
+    QAccessible::setActive(true);
+    QmlWindow host("Item { TQRandomBackgroundView { anchors.fill: parent; color: TQApp.larch.tintColor }\n"
+                   "Item { Accessible.role: Accessible.Button; Accessible.name: 'seen' } }");
+    QAccessibleInterface *window = QAccessible::queryAccessibleInterface(&host.window);
+    ASSERT_TRUE(window);
+    ASSERT_EQ(window->childCount(), 1);
+    EXPECT_EQ(window->child(0)->text(QAccessible::Name), QStringLiteral("seen"));
+}
+
+} // namespace
+} // namespace TQFoundation

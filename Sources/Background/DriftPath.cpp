@@ -136,7 +136,7 @@ Point getControlPoint(std::int64_t index, const std::vector<Point> &transitPoint
 
 Path driftPath(const std::vector<Point> &transitPoints, const DriftScreen &screen, const RandomSource &random)
 {
-    precondition(transitPoints.size() >= 4);
+    precondition(!transitPoints.empty());
     Path path{transitPoints[0], {}, true};
     for (const std::size_t end : {1U, 2U, 3U, 0U}) {
         const auto control = [&] {

@@ -351,6 +351,7 @@ TEST(DriftPathDeathTest, FewerThanFourPointsStopTheProcess)
 {
     EXPECT_EXIT(driftPath({{300, 195}, {250, 541}, {100, 638}}, phone, Script({}).source),
                 testing::KilledBySignal(trapSignal), "");
+    EXPECT_EXIT(driftPath({}, phone, Script({}).source), testing::KilledBySignal(trapSignal), "");
 }
 
 // Against the same formulas in arithmetic that cannot overflow.

@@ -100,6 +100,26 @@ TEST_F(Background, DecodedFromAQmlFileWorksLikeOneMadeInCode)
     EXPECT_FALSE(kept.expired()) << "held by its timer";
 }
 
+TEST_F(Background, DecodedOutOfALargerFileBelongsToItNoLonger)
+{
+    std::shared_ptr<AnimationView> view;
+    {
+        QQmlEngine engine;
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick\nimport TQFoundation\nItem { AnimationView {} }",
+                          QUrl(QStringLiteral("qrc:/Nib.qml")));
+        const std::unique_ptr<QObject> root(component.create());
+        ASSERT_TRUE(root) << component.errorString().toStdString();
+        auto *item = qobject_cast<QQuickItem *>(root.get());
+        view = AnimationView::initDecoded(std::unique_ptr<QObject>(item->childItems().constFirst()));
+        ASSERT_TRUE(view);
+        EXPECT_EQ(view->parentItem(), item) << "where it stays for the time being";
+    }
+    EXPECT_FALSE(view->parentItem());
+    view->createTimer();
+    EXPECT_TRUE(view->shapeLayer());
+}
+
 TEST_F(Background, WhatIsNoBackgroundDecodesToNothing)
 {
     bool destroyed = false;

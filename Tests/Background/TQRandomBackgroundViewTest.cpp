@@ -54,6 +54,16 @@ TEST_F(RandomBackground, InQmlHasItsColourBeforeItsFirstTick)
     EXPECT_EQ(timersMade(), 1);
 }
 
+TEST_F(RandomBackground, InAWindowOfQmlHasItsColourBeforeItsFirstTickToo)
+{
+    // There it is in the window before its bindings are evaluated.
+    const QmlWindow host("Window { TQRandomBackgroundView { color: TQApp.larch.tintColor } }");
+    const auto *window = qobject_cast<QQuickWindow *>(host.object.get());
+    ASSERT_TRUE(window);
+    EXPECT_EQ(drawnColor(viewIn(window->contentItem()->childItems().constFirst())), atAFifth(TQApp::larch.tintColor()));
+    EXPECT_EQ(timersMade(), 1);
+}
+
 TEST_F(RandomBackground, InQmlCannotBeMadeWithoutAColour)
 {
     QQmlEngine engine;
@@ -107,6 +117,10 @@ TEST_F(RandomBackground, GivesItsViewWhateverSizeItHas)
     background.setSize({120, 80});
     EXPECT_EQ(viewIn(&background)->size(), QSizeF(120, 80));
     EXPECT_EQ(viewIn(&background)->position(), QPointF(0, 0));
+    TQRandomBackgroundView sized{Color(red)};
+    sized.setSize({30, 40});
+    sized.setParentItem(window.contentItem());
+    EXPECT_EQ(viewIn(&sized)->size(), QSizeF(30, 40));
 }
 
 TEST_F(RandomBackground, UpdatesMakeNoSecondTimerAndNoTick)

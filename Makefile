@@ -51,6 +51,7 @@ bench:
 	cmake --preset bench
 	cmake --build --preset bench
 	Benchmarks/run build/bench
+	Benchmarks/background build/bench --output build/bench
 
 install:
 	tools/install-packages build

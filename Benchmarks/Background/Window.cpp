@@ -1,0 +1,237 @@
+// BackgroundWindow ALTERNATIVE SECONDS LINE [LOTTIE]: shows the animated line in a window, lets it run in for a second,
+// measures for so many real seconds, and prints what that cost as one line of JSON.
+//
+// LINE is a file with the path data of the line. `ours` writes it and the others read it, so that all draw the same
+// one. LOTTIE is the same as an animation for a Lottie player.
+
+#include "Layer.h"
+#include "Line.h"
+
+#include <TQFoundation/AnimationView.h>
+#include <TQFoundation/DesktopPlatform.h>
+
+#include <QtCore/qelapsedtimer.h>
+#include <QtCore/qtextstream.h>
+#include <QtCore/qtimer.h>
+#include <QtGui/qguiapplication.h>
+#include <QtGui/qrasterwindow.h>
+#include <QtQml/qqml.h>
+#include <QtQuick/qquickpainteditem.h>
+#include <QtQuick/qquickview.h>
+
+#include <sys/resource.h>
+
+#include <atomic>
+#include <chrono>
+#include <ctime>
+#include <thread>
+
+using namespace TQFoundation;
+
+namespace {
+
+constexpr QSize phone(390, 844);
+constexpr auto frameTime = std::chrono::nanoseconds(1'000'000'000 / 60);
+
+class Phone final : public DesktopPlatform
+{
+public:
+    QSizeF screenBounds() const override { return phone; }
+    double screenScale() const override { return 3; }
+};
+
+/// Strokes the line anew in each frame.
+class PaintedLine : public QQuickPaintedItem
+{
+    Q_OBJECT
+    Q_PROPERTY(double strokeEnd MEMBER m_strokeEnd NOTIFY strokeEndChanged)
+
+public:
+    explicit PaintedLine(QQuickItem *parent = nullptr) : QQuickPaintedItem(parent)
+    {
+        connect(this, &PaintedLine::strokeEndChanged, this, [this] { update(); });
+    }
+
+    void paint(QPainter *painter) override { line->stroke(*painter, m_strokeEnd, 1); }
+
+    static inline const Line *line = nullptr;
+
+Q_SIGNALS:
+    void strokeEndChanged();
+
+private:
+    double m_strokeEnd = 0;
+};
+
+/// The same in a window without a scene.
+class RasterLine final : public QRasterWindow
+{
+public:
+    explicit RasterLine(const Line &line) : m_line(line)
+    {
+        m_clock.start();
+        m_timer.setTimerType(Qt::PreciseTimer);
+        connect(&m_timer, &QTimer::timeout, this, [this] { update(); });
+        m_timer.start(std::chrono::duration_cast<std::chrono::milliseconds>(frameTime));
+    }
+
+    std::atomic<int> frames = 0;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.fillRect(QRect({}, size()), Qt::white);
+        const Moment moment(static_cast<double>(m_clock.elapsed() % 10'000) / 1000);
+        m_line.stroke(painter, moment.strokeEnd, moment.opacity);
+        ++frames;
+    }
+
+private:
+    const Line &m_line;
+    QElapsedTimer m_clock;
+    QTimer m_timer;
+};
+
+double cpuTime(clockid_t clock)
+{
+    timespec time{};
+    clock_gettime(clock, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) * 1e-6;
+}
+
+/// What the process has used by now. On the main thread.
+struct Usage
+{
+    explicit Usage(int framesSoFar) : frames(framesSoFar)
+    {
+        rusage used{};
+        getrusage(RUSAGE_THREAD, &used);
+        wakeUps = used.ru_nvcsw;
+    }
+
+    double process = cpuTime(CLOCK_PROCESS_CPUTIME_ID); // milliseconds, as is the next
+    double main = cpuTime(CLOCK_THREAD_CPUTIME_ID);
+    long wakeUps = 0;
+    int frames;
+};
+
+// Memory of the process that no file backs, in KiB.
+qint64 anonymousMemory()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray &row : status.readAll().split('\n')) {
+        if (row.startsWith("RssAnon:"))
+            return row.simplified().split(' ').value(1).toLongLong();
+    }
+    return 0;
+}
+
+// Writes what the background draws for the alternatives to draw as well.
+void writeLine(const AnimationView &view, const QString &file)
+{
+    QFile data(file);
+    if (!view.shapeLayer() || !data.open(QIODevice::WriteOnly))
+        qFatal("cannot write the line");
+    QTextStream stream(&data);
+    const Path &path = view.shapeLayer()->path;
+    const auto write = [&](const Point &point) { stream << point.x << ' ' << point.y << ' '; };
+    stream << "M ";
+    write(path.start);
+    for (const CubicCurve &curve : path.curves) {
+        stream << "C ";
+        write(curve.control1);
+        write(curve.control2);
+        write(curve.end);
+    }
+    stream << "Z\n";
+}
+
+void measure(const QString &alternative, int seconds, const std::atomic<int> &frames)
+{
+    using namespace std::chrono_literals;
+    QTimer::singleShot(1s, Qt::PreciseTimer, qApp, [&frames, alternative, seconds] {
+        QTimer::singleShot(seconds * 1s, Qt::PreciseTimer, qApp, [&frames, alternative, before = Usage(frames.load())] {
+            const Usage after(frames.load());
+            QTextStream(stdout) << "{\"alternative\": \"" << alternative
+                                << "\", \"frames\": " << after.frames - before.frames
+                                << ", \"process\": " << after.process - before.process
+                                << ", \"main\": " << after.main - before.main
+                                << ", \"wakeUps\": " << after.wakeUps - before.wakeUps
+                                << ", \"memory\": " << anonymousMemory() << "}\n";
+            std::_Exit(0);
+        });
+    });
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_SCALE_FACTOR", "3");
+    qputenv("QSG_RENDER_LOOP", "threaded");
+    const QGuiApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    const QString alternative = arguments.value(1);
+    const int seconds = arguments.value(2).toInt();
+    const QString file = arguments.value(3);
+    if (seconds <= 0 || file.isEmpty())
+        qFatal("BackgroundWindow ALTERNATIVE SECONDS LINE [LOTTIE]");
+    installPlatform(std::make_unique<Phone>());
+    static std::atomic<int> frames = 0;
+
+    const bool isOurs = alternative.startsWith(u"ours");
+    const bool drawsLine = !isOurs && alternative != u"idle" && alternative != u"empty";
+    const std::optional<Line> line = drawsLine ? std::optional<Line>(file) : std::nullopt;
+    if (alternative == u"raster") {
+        RasterLine window(*line);
+        window.resize(phone);
+        window.show();
+        measure(alternative, seconds, window.frames);
+        return QGuiApplication::exec();
+    }
+
+    qmlRegisterType<PaintedLine>("Benchmark", 1, 0, "PaintedLine");
+    QQuickView view;
+    view.resize(phone);
+    view.setResizeMode(QQuickView::SizeRootObjectToView);
+    if (line) {
+        PaintedLine::line = &*line;
+        if (alternative == u"shapes") {
+            view.setInitialProperties({{QStringLiteral("line"), line->svg}, {QStringLiteral("length"), line->length}});
+        } else if (alternative == u"lottie") {
+            view.setInitialProperties({{QStringLiteral("source"), QUrl::fromLocalFile(arguments.value(4))}});
+        }
+    }
+    // Where nothing paces the frames, all alternatives are held to the same rate. On the thread that renders.
+    QObject::connect(
+        &view, &QQuickWindow::frameSwapped, &view,
+        [&view, isEmpty = alternative == u"empty"] {
+            static auto next = std::chrono::steady_clock::now();
+            ++frames;
+            next = std::max(next + frameTime, std::chrono::steady_clock::now());
+            std::this_thread::sleep_until(next);
+            if (isEmpty)
+                view.update();
+        },
+        Qt::DirectConnection);
+    const QString name = isOurs   ? QStringLiteral("ours")
+        : alternative == u"empty" ? QStringLiteral("idle")
+                                  : alternative;
+    view.setSource(QUrl(u"qrc:/Background/" + name + u".qml"));
+    if (view.status() != QQuickView::Ready)
+        qFatal("cannot load the alternative");
+    view.show();
+    if (isOurs) {
+        auto *background = view.rootObject()->findChild<QQuickItem *>(QStringLiteral("background"));
+        writeLine(*qobject_cast<AnimationView *>(background->childItems().value(0)), file);
+        if (alternative == u"ours-hidden")
+            background->setVisible(false);
+    }
+    measure(alternative, seconds, frames);
+    return QGuiApplication::exec();
+}
+
+#include "Window.moc"

@@ -1,0 +1,12 @@
+import QtQuick
+import Benchmark
+
+Item {
+    PaintedLine {
+        id: line
+
+        anchors.fill: parent
+    }
+
+    Cycle { item: line }
+}

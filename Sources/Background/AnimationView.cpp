@@ -80,7 +80,7 @@ AnimationView::~AnimationView()
 
 std::shared_ptr<AnimationView> AnimationView::initWithFrame(const QRectF &frame)
 {
-    const std::shared_ptr<AnimationView> view(new AnimationView, deleteInItsTurn);
+    std::shared_ptr<AnimationView> view(new AnimationView, deleteInItsTurn);
     view->setPosition(frame.topLeft());
     view->setSize(frame.size());
     return view;

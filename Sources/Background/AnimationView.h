@@ -29,7 +29,6 @@ class TQFOUNDATION_EXPORT AnimationView : public QQuickItem, public std::enable_
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(TQFoundation::Color color READ color WRITE setColor FINAL)
 
 public:
     /// A view as a QML file makes it, for initDecoded(). One that no shared pointer holds when createTimer() runs is
@@ -52,7 +51,7 @@ public:
     /// Starts the ticking: the first tick runs before this returns, the next ones come at whole multiples of ten
     /// seconds from now. Does nothing the second time. A tick on a screen of which a side is less than two points long,
     /// or so long that the numbers overflow, stops the process.
-    Q_INVOKABLE void createTimer();
+    void createTimer();
 
     /// The line that is being drawn; null before the first tick. For the library's own use.
     const ShapeLayer *shapeLayer() const;

@@ -85,13 +85,12 @@ TEST_F(Background, DecodedFromAQmlFileWorksLikeOneMadeInCode)
     {
         QQmlEngine engine;
         QQmlComponent component(&engine);
-        component.setData("import TQFoundation\nAnimationView { width: 70; color: TQApp.larch.tintColor }",
-                          QUrl(QStringLiteral("qrc:/Nib.qml")));
+        component.setData("import TQFoundation\nAnimationView { width: 70 }", QUrl(QStringLiteral("qrc:/Nib.qml")));
         view = AnimationView::initDecoded(std::unique_ptr<QObject>(component.create()));
         ASSERT_TRUE(view) << component.errorString().toStdString();
     }
     EXPECT_EQ(view->width(), 70);
-    EXPECT_NE(view->color(), Color());
+    EXPECT_EQ(view->color(), Color());
     EXPECT_FALSE(view->shapeLayer());
     view->createTimer();
     const std::weak_ptr<AnimationView> kept = view;

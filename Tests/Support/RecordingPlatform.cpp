@@ -61,7 +61,14 @@ private:
     std::function<void()> m_tick;
 };
 
-RecordingPlatform::~RecordingPlatform() = default;
+// A timer and what its tick holds may hold each other.
+RecordingPlatform::~RecordingPlatform()
+{
+    while (!m_scheduled.empty()) {
+        const auto timer = m_scheduled.back();
+        timer->invalidate();
+    }
+}
 
 void RecordingPlatform::advance(double seconds)
 {

@@ -44,6 +44,7 @@ public:
     /// False keeps `calls` empty, for tests that read from several threads.
     bool records = true;
 
+    /// Invalidates the timers that are still scheduled.
     ~RecordingPlatform() override;
 
     /// Moves the media time on by \a seconds and runs the ticks of scheduled timers that fall into them, each at its

@@ -373,7 +373,7 @@ TEST_F(Background, EachTickTakesOffAllItemsThatOthersAddedAndDestroysNone)
     platform->advance(9.9);
     EXPECT_EQ(view->childItems().size(), 2);
     platform->advance(0.1 + 1e-9);
-    EXPECT_EQ(view->childItems(), QList<QQuickItem *>());
+    EXPECT_TRUE(view->childItems().isEmpty());
     EXPECT_EQ(one.childItems(), QList<QQuickItem *>{&grandchildren}) << "which keeps what it holds itself";
     two.setParentItem(view.get());
     platform->advance(10);
@@ -403,7 +403,7 @@ TEST_F(Background, AnItemThatDestroysOrMovesOthersAsItIsTakenOffDoesNoHarm)
         third.setParentItem(&elsewhere);
     });
     platform->advance(10);
-    EXPECT_EQ(view->childItems(), QList<QQuickItem *>());
+    EXPECT_TRUE(view->childItems().isEmpty());
     EXPECT_EQ(third.parentItem(), &elsewhere) << "no child of the view by then";
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "PrintQt.h"
-
 #include <TQFoundation/Platform.h>
 
 #include <QtCore/qmap.h>

@@ -1,0 +1,47 @@
+# Installing, in three parts: what a host needs to run, what it needs to be built, and the QML module for those that do
+# not link the library. cmake/Packages.cmake makes a package of each.
+
+include(CMakePackageConfigHelpers)
+set(TQFOUNDATION_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/TQFoundation)
+set(TQFOUNDATION_INSTALL_QMLDIR ${CMAKE_INSTALL_LIBDIR}/qml CACHE STRING "Where QML modules go, below the prefix")
+
+install(TARGETS TQFoundation EXPORT TQFoundationTargets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
+install(DIRECTORY ${header_folder} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+if(TQFOUNDATION_TESTING)
+    install(TARGETS TQFoundationTesting EXPORT TQFoundationTargets
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+    install(FILES Tests/Support/RecordingPlatform.h
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/TQFoundation/Testing COMPONENT development)
+endif()
+install(EXPORT TQFoundationTargets NAMESPACE TQFoundation::
+    DESTINATION ${TQFOUNDATION_INSTALL_CMAKEDIR} COMPONENT development)
+configure_package_config_file(cmake/TQFoundationConfig.cmake.in ${PROJECT_BINARY_DIR}/TQFoundationConfig.cmake
+    INSTALL_DESTINATION ${TQFOUNDATION_INSTALL_CMAKEDIR}
+    PATH_VARS TQFOUNDATION_INSTALL_QMLDIR)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/TQFoundationConfigVersion.cmake
+    COMPATIBILITY SameMajorVersion)
+install(FILES
+    ${PROJECT_BINARY_DIR}/TQFoundationConfig.cmake
+    ${PROJECT_BINARY_DIR}/TQFoundationConfigVersion.cmake
+    cmake/TQFoundationHostInfo.cmake
+    DESTINATION ${TQFOUNDATION_INSTALL_CMAKEDIR} COMPONENT development)
+# Relative to where the file lies, so that the prefix can move.
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
+    BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/pkgconfig OUTPUT_VARIABLE prefix_from_pkgconfig)
+configure_file(cmake/tqfoundation.pc.in ${PROJECT_BINARY_DIR}/tqfoundation.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/tqfoundation.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+
+# The plugin finds the library from where it lies.
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_LIBDIR BASE_DIRECTORY ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation
+    OUTPUT_VARIABLE library_from_plugin)
+set_target_properties(TQFoundationplugin PROPERTIES INSTALL_RPATH "$ORIGIN/${library_from_plugin}")
+install(TARGETS TQFoundationplugin
+    LIBRARY DESTINATION ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation COMPONENT qml
+    RUNTIME DESTINATION ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation COMPONENT qml)
+install(DIRECTORY ${CMAKE_BINARY_DIR}/qml/TQFoundation/
+    DESTINATION ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation COMPONENT qml
+    FILES_MATCHING PATTERN "Nibs" EXCLUDE PATTERN "qmldir" PATTERN "*.qmltypes" PATTERN "*.qml")

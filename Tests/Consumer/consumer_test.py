@@ -1,47 +1,78 @@
-"""Outside projects: installs the library to a clean prefix, moves the prefix, and builds and runs each host against it."""
+"""Outside hosts: installs the library to a clean prefix, moves the prefix, and builds and runs a host against that alone."""
 
 import os
 import pathlib
+import shlex
 import subprocess
 import sys
 import tempfile
 
-build, qmllint, *sources = sys.argv[1:]
+build, source, tools = map(pathlib.Path, sys.argv[1:4])
+hosts = pathlib.Path(__file__).parent
+host = hosts / sys.argv[4]
 
 
 def run(*command, **options):
     print("+", *command, flush=True)
-    subprocess.run(command, check=True, timeout=240, **options)
+    return subprocess.run(list(map(str, command)), check=True, timeout=280, **options)
+
+
+def configure_and_build(folder, *options):
+    run("cmake", "-S", host, "-B", folder, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release", *options,
+        stdout=subprocess.DEVNULL)
+    run("cmake", "--build", folder, stdout=subprocess.DEVNULL)
+
+
+def compile_with_pkg_config(folder, prefix):
+    environment = dict(os.environ, PKG_CONFIG_PATH=str(prefix / "lib/pkgconfig"))
+    flags = run("pkg-config", "--cflags", "--libs", "tqfoundation", env=environment, stdout=subprocess.PIPE, text=True)
+    folder.mkdir()
+    run("g++", "-std=c++20", "-fPIC", host / "main.cpp", "-o", folder / host.name, *shlex.split(flags.stdout),
+        f"-Wl,-rpath,{prefix}/lib")
+
+
+def stays(*command):
+    """A host shows its window until it is closed, so being alive and silent after its start is what passes."""
+    with subprocess.Popen(list(map(str, command)), env=environment, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                          text=True) as process:
+        try:
+            output, _ = process.communicate(timeout=3)
+            sys.exit(f"{host.name} ended with {process.returncode}: {output}")
+        except subprocess.TimeoutExpired:
+            process.terminate()
+            if output := process.communicate()[0]:
+                sys.exit(f"{host.name} said: {output}")
 
 
 with tempfile.TemporaryDirectory() as name:
     folder = pathlib.Path(name)
-    run("cmake", "--install", build, "--prefix", str(folder / "first"), stdout=subprocess.DEVNULL)
+    # No variable of the library's or of Qt's module path: a host needs none.
+    environment = {key: value for key, value in os.environ.items() if not key.startswith(("QML", "LD_LIBRARY", "CMAKE_"))}
+    environment.update(QT_QPA_PLATFORM="offscreen", QT_QUICK_BACKEND="software", HOME=name, XDG_CONFIG_HOME=name,
+                       XDG_RUNTIME_DIR=name)
+    run("cmake", "--install", build, "--prefix", folder / "first", stdout=subprocess.DEVNULL)
     prefix = (folder / "first").rename(folder / "moved")
+    binary = folder / "build"
 
-    for source in map(pathlib.Path, sources):
-        binary = folder / source.name
-        run("cmake", "-S", str(source), "-B", str(binary), "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
-            f"-DCMAKE_PREFIX_PATH={prefix}", stdout=subprocess.DEVNULL)
-        run("cmake", "--build", str(binary))
+    if files := sorted(host.glob("*.qml")):
+        lint = subprocess.run([tools / "qmllint", "-I", prefix / "lib/qml", *files], capture_output=True, text=True,
+                              timeout=60)
+        if lint.returncode or lint.stdout or lint.stderr:
+            sys.exit(f"qmllint: {lint.returncode} {lint.stdout} {lint.stderr}")
 
-        # The host's own QML, against the installed module alone.
-        if files := [str(file) for file in source.glob("*.qml")]:
-            lint = subprocess.run([qmllint, "-I", str(prefix / "lib/qml"), *files],
-                                  capture_output=True, text=True, timeout=60)
-            if lint.returncode or lint.stdout or lint.stderr:
-                sys.exit(f"qmllint: {lint.returncode} {lint.stdout} {lint.stderr}")
-
-        # A host shows its window until it is closed, so being alive and silent after its start is what passes.
-        environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", QT_QUICK_BACKEND="software", HOME=name,
-                           XDG_CONFIG_HOME=name, XDG_RUNTIME_DIR=name)
-        host = subprocess.Popen([str(binary / source.name)], env=environment, stdout=subprocess.PIPE,
-                                stderr=subprocess.STDOUT, text=True)
-        try:
-            output, _ = host.communicate(timeout=3)
-            sys.exit(f"{source.name} ended with {host.returncode}: {output}")
-        except subprocess.TimeoutExpired:
-            host.terminate()
-            output, _ = host.communicate()
-            if output:
-                sys.exit(f"{source.name} said: {output}")
+    if host.name == "QmlOnlyHost":
+        stays(tools / "qml", "-I", prefix / "lib/qml", host / "Main.qml")
+    elif host.name == "FetchedHost":
+        configure_and_build(binary, f"-DTQFOUNDATION_SOURCE_DIR={source}")
+        stays(binary / host.name)
+    elif host.name == "CppHost":
+        configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
+        stays(binary / host.name)
+        compile_with_pkg_config(folder / "pkg-config", prefix)
+        stays(folder / "pkg-config" / host.name)
+    elif host.name == "HostTests":
+        configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
+        run(binary / host.name, env=environment)
+    else:
+        configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
+        stays(binary / host.name)

@@ -145,7 +145,9 @@ void AnimationView::updateTimer()
         {.keyPath = KeyPath::opacity, .fromValue = 1, .toValue = 0, .duration = 1, .beginTime = now + 9.2}, now);
 
     m_stored->shapeLayer = std::move(line);
-    update();
+    // What nobody sees takes no frame; it is made up for when the view is seen again.
+    if (isVisible())
+        update();
 }
 
 void AnimationView::removeSublayers()
@@ -158,6 +160,13 @@ void AnimationView::removeSublayers()
         if (child && child->parentItem() == this)
             child->setParentItem(nullptr);
     }
+}
+
+void AnimationView::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    QQuickItem::itemChange(change, data);
+    if (change == ItemVisibleHasChanged && data.boolValue)
+        update();
 }
 
 QSGNode *AnimationView::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)

@@ -57,6 +57,7 @@ public:
     const ShapeLayer *shapeLayer() const;
 
 protected:
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
     QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;
 
 private Q_SLOTS:

@@ -407,6 +407,71 @@ TEST_F(Background, AnItemThatDestroysOrMovesOthersAsItIsTakenOffDoesNoHarm)
     EXPECT_EQ(third.parentItem(), &elsewhere) << "no child of the view by then";
 }
 
+// When it asks for frames.
+
+/// Counts how often it is asked what to draw.
+class CountedView : public AnimationView
+{
+public:
+    int drawn = 0;
+
+protected:
+    QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override
+    {
+        ++drawn;
+        return AnimationView::updatePaintNode(node, data);
+    }
+};
+
+TEST_F(Background, IsDrawnAnewAtEachTickAndOnlyThen)
+{
+    QQuickWindow window;
+    CountedView view;
+    view.setParentItem(window.contentItem());
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    view.createTimer();
+    window.grabWindow();
+    EXPECT_GT(view.drawn, 0);
+    for (int tick = 0; tick < 3; ++tick) {
+        const int before = view.drawn;
+        view.setColor(Rgba{1, 0, 0});
+        platform->advance(9);
+        window.grabWindow();
+        EXPECT_EQ(view.drawn, before);
+        platform->advance(1);
+        window.grabWindow();
+        EXPECT_EQ(view.drawn, before + 1);
+    }
+}
+
+TEST_F(Background, ThatIsInvisibleAsksForNoFrameAndIsDrawnWhenItIsSeenAgain)
+{
+    QQuickWindow window;
+    QQuickItem page;
+    page.setParentItem(window.contentItem());
+    CountedView view;
+    view.setParentItem(&page);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    view.createTimer();
+    window.grabWindow();
+    EXPECT_GT(view.drawn, 0);
+    page.setVisible(false);
+    window.grabWindow();
+    QCoreApplication::processEvents();
+    int frames = 0;
+    QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&] { ++frames; });
+    const int before = view.drawn;
+    platform->advance(30);
+    QTest::qWait(50); // as long as a frame that was asked for would take
+    EXPECT_EQ(frames, 0);
+    EXPECT_EQ(view.drawn, before);
+    page.setVisible(true);
+    window.grabWindow();
+    EXPECT_EQ(view.drawn, before + 1);
+}
+
 // Who holds it.
 
 TEST_F(Background, NeverStartedGoesWithItsLastHolder)

@@ -1,6 +1,6 @@
 # The front door. Everything below is CMake with the presets of CMakePresets.json.
 .DEFAULT_GOAL := help
-.PHONY: help run test sanitize lint bench install pictures format clean
+.PHONY: help run test sanitize lint bench install packages pictures format clean
 
 PREFIX ?= /usr/local
 ARGS ?=
@@ -16,6 +16,7 @@ help:
 	@echo "make lint       clang-tidy and clazy"
 	@echo "make bench      measure; prints tables"
 	@echo "make install    install to PREFIX ($(PREFIX))"
+	@echo "make packages   build Debian packages into build/packages/packages"
 	@echo "make pictures   write the pictures of the documentation anew"
 	@echo "make format     format all sources"
 	@echo "make clean      remove what was built"
@@ -58,6 +59,13 @@ install:
 	cmake --preset release -DTQFOUNDATION_TESTS=OFF
 	cmake --build --preset release
 	cmake --install $(release) --prefix $(PREFIX)
+
+packages:
+	tools/install-packages build packages
+	cmake --preset packages
+	cmake --build --preset packages
+	cpack --config build/packages/CPackConfig.cmake
+	lintian --fail-on error build/packages/packages/*.deb
 
 pictures:
 	tools/install-packages build run

@@ -3,7 +3,12 @@
 
 include(CMakePackageConfigHelpers)
 set(TQFOUNDATION_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/TQFoundation)
-set(TQFOUNDATION_INSTALL_QMLDIR ${CMAKE_INSTALL_LIBDIR}/qml CACHE STRING "Where QML modules go, below the prefix")
+# Below /usr, where Debian's own Qt looks for modules.
+set(qml_folder ${CMAKE_INSTALL_LIBDIR}/qml)
+if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+    set(qml_folder ${CMAKE_INSTALL_LIBDIR}/qt6/qml)
+endif()
+set(TQFOUNDATION_INSTALL_QMLDIR ${qml_folder} CACHE STRING "Where QML modules go, below the prefix")
 
 install(TARGETS TQFoundation EXPORT TQFoundationTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
@@ -35,10 +40,12 @@ configure_file(cmake/tqfoundation.pc.in ${PROJECT_BINARY_DIR}/tqfoundation.pc @O
 install(FILES ${PROJECT_BINARY_DIR}/tqfoundation.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 
-# The plugin finds the library from where it lies.
+# The plugin finds the library from where it lies; one of the system does so by itself.
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_LIBDIR BASE_DIRECTORY ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation
     OUTPUT_VARIABLE library_from_plugin)
-set_target_properties(TQFoundationplugin PROPERTIES INSTALL_RPATH "$ORIGIN/${library_from_plugin}")
+if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+    set_target_properties(TQFoundationplugin PROPERTIES INSTALL_RPATH "$ORIGIN/${library_from_plugin}")
+endif()
 install(TARGETS TQFoundationplugin
     LIBRARY DESTINATION ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation COMPONENT qml
     RUNTIME DESTINATION ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation COMPONENT qml)

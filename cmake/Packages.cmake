@@ -1,0 +1,68 @@
+# Debian packages of the three installed parts. `make packages` builds them; CMAKE_INSTALL_PREFIX is /usr there.
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME tqfoundation)
+set(CPACK_PACKAGE_VENDOR "TQ Studio")
+set(CPACK_PACKAGE_CONTACT "TQ Studio <support@tqstudio.example>")
+set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://tqstudio.example")
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_ALL runtime development qml)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+set(CPACK_STRIP_FILES ON)
+# Of folders and files that the packages hold, whatever the mask of whoever builds them.
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+
+set(library_package libtqfoundation${PROJECT_VERSION_MAJOR})
+set(version "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
+
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${library_package})
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/cmake/debian/triggers)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "qml6-module-qtquick, qml6-module-qtquick-controls, qml6-module-qtquick-templates")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "qml6-module-qtwebengine")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "default-mta | mail-transport-agent")
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "The catalogue itself, a row of its icons, an onboarding guide, the texts
+and links of a More screen, and an animated background, for apps on Qt Quick.")
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libtqfoundation-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+    "${library_package} ${version}, qml6-module-tqfoundation ${version}, qt6-base-dev (>= 6.4), qt6-declarative-dev (>= 6.4)")
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "For building such apps: headers, the packages for CMake and pkg-config,
+and a recording platform for the tests of apps.")
+
+set(CPACK_DEBIAN_QML_PACKAGE_NAME qml6-module-tqfoundation)
+set(CPACK_DEBIAN_QML_PACKAGE_SECTION libs)
+# What else it links, the library links too.
+set(CPACK_DEBIAN_QML_PACKAGE_DEPENDS "${library_package} ${version}, libc6")
+set(CPACK_COMPONENT_QML_DESCRIPTION "The QML module for apps that are written in QML alone and started by the
+QML runtime.")
+
+# What every package of Debian has to say of itself.
+set(changelog ${PROJECT_BINARY_DIR}/debian/changelog.Debian.gz)
+string(TIMESTAMP date "%a, %d %b %Y 00:00:00 +0000" UTC)
+file(CONFIGURE OUTPUT debian/changelog CONTENT
+"tqfoundation (@PROJECT_VERSION@-@CPACK_DEBIAN_PACKAGE_RELEASE@) unstable; urgency=medium
+
+  * See CHANGELOG.md.
+
+ -- @CPACK_PACKAGE_CONTACT@  @date@
+" @ONLY)
+find_program(GZIP gzip REQUIRED)
+execute_process(COMMAND ${GZIP} -9nc ${PROJECT_BINARY_DIR}/debian/changelog
+    OUTPUT_FILE ${changelog} COMMAND_ERROR_IS_FATAL ANY)
+foreach(part IN ITEMS RUNTIME DEVELOPMENT QML)
+    string(TOLOWER ${part} component)
+    set(documents ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${part}_PACKAGE_NAME})
+    install(FILES ${changelog} DESTINATION ${documents} COMPONENT ${component})
+    install(FILES LICENSE DESTINATION ${documents} RENAME copyright COMPONENT ${component})
+endforeach()
+
+include(CPack)

@@ -33,6 +33,14 @@ public:
         return painted(m_color.textColor(darkAppearance ? Appearance::dark : Appearance::light));
     }
 
+    /// The colour as it can be read on an opaque \a ground: darker or brighter where it has to be.
+    Q_INVOKABLE QColor legibleOn(const QColor &ground, bool darkAppearance) const
+    {
+        const Rgba below{ground.redF(), ground.greenF(), ground.blueF()};
+        return painted(
+            TQFoundation::legibleOn(m_color.resolved(darkAppearance ? Appearance::dark : Appearance::light), below));
+    }
+
 private:
     static QColor painted(const Rgba &rgba) { return QColor::fromRgbF(rgba.red, rgba.green, rgba.blue, rgba.alpha); }
 

@@ -4,11 +4,13 @@
 
 #include <QtCore/qobject.h>
 #include <QtCore/qvariant.h>
+#include <QtGui/qcolor.h>
 #include <QtQml/qqmlregistration.h>
 
 namespace TQFoundation {
 
-/// The QML singleton `TQMore`. A filing text that is undefined or null is absent, any other value counts as its text.
+/// The QML singleton `TQMore`. A filing text that is undefined or null is absent, any other value counts as its text. A
+/// tint is a `tqColor` or a `color`; any other value is none.
 class QmlMore : public QObject
 {
     Q_OBJECT
@@ -48,7 +50,26 @@ public:
     Q_INVOKABLE QString blogOrSocialText(const QVariant &icp) const { return TQMore::blogOrSocialText(textOf(icp)); }
     Q_INVOKABLE QString blogOrSocialUrl(const QVariant &icp) const { return TQMore::blogOrSocialUrl(textOf(icp)); }
 
+    Q_INVOKABLE void openUrl(const QString &urlString, const QVariant &tintColor = {}) const
+    {
+        TQMore::openUrl(urlString, colorOf(tintColor));
+    }
+    Q_INVOKABLE void sendFeedbackEmail(const QVariant &tintColor, const QString &message) const
+    {
+        TQMore::sendFeedbackEmail(colorOf(tintColor), message);
+    }
+
 private:
+    static std::optional<Color> colorOf(const QVariant &tint)
+    {
+        if (tint.metaType() == QMetaType::fromType<Color>())
+            return tint.value<Color>();
+        if (tint.typeId() != QMetaType::QColor)
+            return std::nullopt;
+        const auto color = tint.value<QColor>();
+        return Color({color.redF(), color.greenF(), color.blueF(), color.alphaF()});
+    }
+
     static std::optional<QString> textOf(const QVariant &icp)
     {
         if (!icp.isValid() || icp.typeId() == QMetaType::Nullptr)

@@ -4,9 +4,13 @@
 #include "DeveloperIdentity.h"
 #include "DeveloperPage.h"
 #include "Environment.h"
+#include "InAppBrowser.h"
 #include "KeyWindow.h"
+#include "MailComposer.h"
 #include "MoreKeys.h"
+#include "Platform.h"
 #include "TQApp.h"
+#include "Url.h"
 #include "ViewController.h"
 
 #include <QtQuick/qquickwindow.h>
@@ -17,6 +21,24 @@ namespace {
 QString localized(const char *key)
 {
     return localizedInLibrary(QLatin1String(key));
+}
+
+// Statement by statement, because the operands of one expression would be read in any order.
+QString &appendVersion(QString &text)
+{
+    text += TQApp::version();
+    text += u'(';
+    text += TQApp::buildNumber();
+    text += u')';
+    return text;
+}
+
+QString feedbackSubject()
+{
+    QString subject = localized(MoreKeys::feedbackSubject);
+    subject += TQApp::name();
+    subject += u' ';
+    return appendVersion(subject);
 }
 
 bool showsFiling(const std::optional<QString> &icp)
@@ -92,15 +114,10 @@ QString TQMore::moreAppUrl()
 
 QString TQMore::versionText()
 {
-    // Statement by statement, because the operands of one expression would be read in any order.
     static const QString text = [] {
         QString line = localized(MoreKeys::version);
         line += u' ';
-        line += TQApp::version();
-        line += u'(';
-        line += TQApp::buildNumber();
-        line += u')';
-        return line;
+        return appendVersion(line);
     }();
     return text;
 }
@@ -131,6 +148,41 @@ std::shared_ptr<ViewController> TQMore::topViewController()
     while (top && top->presentedViewController())
         top = top->presentedViewController();
     return top;
+}
+
+void TQMore::openUrl(const QString &urlString, const std::optional<Color> &tintColor)
+{
+    const auto url = urlFromString(urlString);
+    if (!url)
+        return;
+    if (!isChn() || !tintColor || urlString != QLatin1String(DeveloperIdentity::filingSite)) {
+        platform().openUrl(*url);
+        return;
+    }
+    const auto browser = platform().makeInAppBrowser(*url);
+    browser->setPreferredControlTintColor(*tintColor);
+    browser->setDismissButtonStyle(InAppBrowser::DismissButtonStyle::close);
+    browser->setModalPresentationStyle(InAppBrowser::ModalPresentationStyle::pageSheet);
+    if (const auto top = topViewController())
+        top->present(browser);
+}
+
+void TQMore::sendFeedbackEmail(const std::optional<Color> &tintColor, const QString &message)
+{
+    const QString subject = feedbackSubject();
+    const auto composer = platform().makeMailComposer();
+    composer->setMailComposeDelegate(topViewController());
+    if (tintColor)
+        composer->setNavigationBarTintColor(*tintColor);
+    composer->setToRecipients({QLatin1String(DeveloperIdentity::supportAddress)});
+    composer->setSubject(subject);
+    composer->setMessageBody(message, true);
+    if (platform().canSendMail()) {
+        if (const auto top = topViewController())
+            top->present(composer);
+    } else if (const auto page = urlFromString(feedbackUrl())) {
+        platform().openUrl(*page);
+    }
 }
 
 } // namespace TQFoundation

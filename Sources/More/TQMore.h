@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Color.h"
 #include "tqfoundation_export.h"
 
 #include <QtCore/qstring.h>
@@ -16,7 +17,7 @@ class ViewController;
 ///
 /// Texts and links are worked out on their first read and kept for the life of the process: another language shows at
 /// the next launch. Links are in the user's language where the site has such a page. A text without a translation is
-/// English. Never instantiated. Any thread.
+/// English. Never instantiated. Any thread, except where a member says otherwise.
 class TQFOUNDATION_EXPORT TQMore
 {
 public:
@@ -52,6 +53,21 @@ public:
     /// scene, the last of the chain of modal presentations. Null where no scene is active, none of its windows is key,
     /// or that window is not one of Qt Quick. Looked up at each call. Main thread.
     static std::shared_ptr<ViewController> topViewController();
+
+    /// Opens the link behind a row. A text that is no URL does nothing.
+    ///
+    /// The site where filings are looked up stays in the app: given exactly as icpOrBlogUrl() spells it, in mainland
+    /// China and with a tint, it opens in the in-app browser on topViewController(), or not at all where that is null.
+    /// Every other link is handed to the system. Main thread.
+    static void openUrl(const QString &urlString, const std::optional<Color> &tintColor);
+
+    /// Lets the user write to the developer: shows the mail composer on topViewController(), or nothing where that is
+    /// null. The subject names the host, its version and its build; \a message is the body as HTML and passed on as it
+    /// is. The controller that was on top when the composer was made is its delegate. Without a tint the composer keeps
+    /// the system's colour.
+    ///
+    /// Where no mail can be sent, hands feedbackUrl() to the system, or does nothing where that is no URL. Main thread.
+    static void sendFeedbackEmail(const std::optional<Color> &tintColor, const QString &message);
 };
 
 } // namespace TQFoundation

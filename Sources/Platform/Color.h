@@ -37,6 +37,31 @@ inline double contrast(const Rgba &one, const Rgba &other) noexcept
     return (brighter + 0.05) / (darker + 0.05);
 }
 
+/// \a color as it can be read on an opaque \a ground, at 4.5 in contrast or more: the colour itself where it can, else
+/// mixed with as much black or white as that takes. A translucent one is laid over the ground first.
+inline Rgba legibleOn(const Rgba &color, const Rgba &ground) noexcept
+{
+    constexpr double enough = 4.55; // room for rounding when it is painted
+    const auto mixed = [](const Rgba &from, const Rgba &to, float share) {
+        return Rgba{std::lerp(from.red, to.red, share), std::lerp(from.green, to.green, share),
+                    std::lerp(from.blue, to.blue, share)};
+    };
+    const Rgba seen = mixed(ground, color, color.alpha);
+    if (contrast(seen, ground) >= enough)
+        return seen;
+    constexpr Rgba black{0, 0, 0};
+    constexpr Rgba white{1, 1, 1};
+    const Rgba &end = contrast(black, ground) > contrast(white, ground) ? black : white;
+    // Between a share of the end that does not do and one that does.
+    float low = 0;
+    float high = 1;
+    for (int halving = 0; halving < 16; ++halving) {
+        const float middle = (low + high) / 2;
+        (contrast(mixed(seen, end, middle), ground) >= enough ? high : low) = middle;
+    }
+    return mixed(seen, end, high);
+}
+
 /// A colour of the catalogue or of a host: either one sRGB value, or a pair that follows light and dark appearance.
 ///
 /// A plain value. The components are kept bit for bit until something is painted, because a toolkit's own colour type

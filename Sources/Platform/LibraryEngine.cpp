@@ -1,12 +1,14 @@
 #include "LibraryEngine.h"
 
 #include <QtCore/qcoreapplication.h>
+#include <QtCore/qfile.h>
 #include <QtCore/qurl.h>
 #include <QtQml/qqmlabstracturlinterceptor.h>
 #include <QtQml/qqmlcomponent.h>
 #include <QtQml/qqmlengine.h>
 #include <QtQuick/qquickitem.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace TQFoundation {
@@ -47,14 +49,25 @@ Library *library()
 
 } // namespace
 
-std::unique_ptr<QObject> makeFromNib(const QString &path)
+std::unique_ptr<QObject> makeFromNib(const QString &path, const QVariantMap &properties)
 {
     QQmlComponent component(&library()->engine,
                             path.startsWith(u':') ? QUrl(QString(u"qrc" + path)) : QUrl::fromLocalFile(path));
-    std::unique_ptr<QObject> object(component.create());
+    if (!component.isReady())
+        return nullptr;
+    std::unique_ptr<QObject> object(component.createWithInitialProperties(properties));
     if (object)
         QJSEngine::setObjectOwnership(object.get(), QJSEngine::CppOwnership);
     return object;
+}
+
+bool hasQmlModule(const QString &name)
+{
+    const QStringList folders = library()->engine.importPathList();
+    return std::ranges::any_of(folders, [&name](const QString &folder) {
+        const QString path = folder.startsWith(u"qrc:") ? folder.mid(3) : folder;
+        return QFile::exists(path + u'/' + name + u"/qmldir");
+    });
 }
 
 QObject *untilApplicationEnds()

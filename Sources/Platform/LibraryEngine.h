@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/qstring.h>
+#include <QtCore/qvariant.h>
 
 #include <memory>
 
@@ -8,12 +9,15 @@ class QObject;
 
 namespace TQFoundation {
 
-/// Makes the root object of the QML file at \a path, in an engine that belongs to the library: what a host's engine
-/// makes loses its handlers when that engine goes. The engine loads nothing from a network and goes when the
-/// application object does. Null where the file is missing or in error.
+/// Makes the root object of the QML file at \a path with the given \a properties, in an engine that belongs to the
+/// library: what a host's engine makes loses its handlers when that engine goes. The engine loads nothing from a
+/// network and goes when the application object does. Null where the file is missing or in error.
 ///
 /// The caller owns the object. Needs an application object. Main thread.
-std::unique_ptr<QObject> makeFromNib(const QString &path);
+std::unique_ptr<QObject> makeFromNib(const QString &path, const QVariantMap &properties = {});
+
+/// Whether files of the library can import the QML module in the folder \a name of an import path. Main thread.
+bool hasQmlModule(const QString &name);
 
 /// The object that everything belongs to which has to be gone before the application object is. Main thread.
 QObject *untilApplicationEnds();

@@ -17,6 +17,9 @@ class QUrl;
 
 namespace TQFoundation {
 
+class InAppBrowser;
+class MailComposer;
+
 /// How far a scene is from the user's fingers.
 enum class ActivationState { foregroundActive, foregroundInactive, background, unattached };
 
@@ -93,6 +96,15 @@ public:
 
     /// Hands \a url to the system's own handler; whether that succeeds is not known.
     virtual void openUrl(const QUrl &url) = 0;
+
+    /// Whether the user can send mail with this system's composer. Asked at each use.
+    virtual bool canSendMail() const = 0;
+
+    /// Makes a mail composer that is empty and not presented yet. Never null, also where no mail can be sent.
+    virtual std::shared_ptr<MailComposer> makeMailComposer() = 0;
+
+    /// Makes an in-app browser for \a url that is not presented yet and has loaded nothing. Never null.
+    virtual std::shared_ptr<InAppBrowser> makeInAppBrowser(const QUrl &url) = 0;
 
     /// Gives the soft tap that a phone's haptics answer a touch with. Does nothing where there are none.
     virtual void softImpact() = 0;

@@ -37,7 +37,9 @@ void ViewController::present(std::shared_ptr<ViewController> next)
     const ViewController *link = this;
     while (link && !link->m_view)
         link = link->m_presenting;
-    m_presented->appear(link ? link->m_view->window() : nullptr);
+    // What cannot appear may dismiss itself at once.
+    const auto presented = m_presented;
+    presented->appear(link ? link->m_view->window() : nullptr);
 }
 
 void ViewController::dismiss()

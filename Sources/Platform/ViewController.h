@@ -13,6 +13,8 @@ class QWindow;
 
 namespace TQFoundation {
 
+class MailComposer;
+
 /// What a screen of the library is presented on, and what it is presented as: a link of the chain of modal screens of
 /// one window.
 ///
@@ -22,8 +24,13 @@ namespace TQFoundation {
 class TQFOUNDATION_EXPORT ViewController : public QObject
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("MailComposer.h")
 
 public:
+    /// How the user was done with a mail.
+    enum class MailComposeResult { cancelled, saved, sent, failed };
+    Q_ENUM(MailComposeResult)
+
     /// A controller of \a view, which is not owned and may go away at any time. Without a view it is a mere link of the
     /// chain, for a screen that the host shows by itself.
     explicit ViewController(QQuickItem *view = nullptr);
@@ -47,6 +54,13 @@ public:
 
     /// Makes \a root the root controller of \a window, or one that is made anew where it is null.
     static void setRoot(QQuickWindow *window, const std::shared_ptr<ViewController> &root);
+
+    /// What a mail composer tells its delegate, which any controller can be, when the user is done; \a error says in
+    /// words what went wrong, and is empty where nothing did. Whatever the result, the composer is dismissed, also
+    /// where another controller presented it. Nothing is shown or kept.
+    Q_INVOKABLE virtual void mailComposeController(TQFoundation::MailComposer *controller,
+                                                   TQFoundation::ViewController::MailComposeResult result,
+                                                   const QString &error);
 
 protected:
     /// Puts the view on the screen: on top of all that \a window shows, which is null where the presenting controller

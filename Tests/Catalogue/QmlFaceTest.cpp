@@ -111,5 +111,29 @@ TEST_F(QmlFace, AnIconOfAnyAppCanBeShown)
     EXPECT_FALSE(host.item->property("empty").toBool());
 }
 
+TEST_F(QmlFace, LinksAreOpenedWithATintOfEitherTypeOrNone)
+{
+    platform->storefront = QStringLiteral("CHN");
+    for (const char *tint : {"TQApp.hazel.tintColor", "Qt.rgba(1, 0, 0, 1)"}) {
+        const QByteArray call = QByteArray("TQMore.openUrl('https://beian.miit.gov.cn', ") + tint + ')';
+        const QmlWindow host("Item { Component.onCompleted: " + call + " }");
+        EXPECT_FALSE(platform->calls.filter(QStringLiteral("makeInAppBrowser")).isEmpty()) << tint;
+        platform->calls.clear();
+    }
+    for (const char *tint : {"undefined", "null", "'red'", "3"}) {
+        const QByteArray call = QByteArray("TQMore.openUrl('https://beian.miit.gov.cn', ") + tint + ')';
+        const QmlWindow host("Item { Component.onCompleted: " + call + " }");
+        EXPECT_TRUE(platform->calls.contains(QStringLiteral("openUrl(https://beian.miit.gov.cn)"))) << tint;
+        platform->calls.clear();
+    }
+}
+
+TEST_F(QmlFace, AMailToTheDeveloperIsBegun)
+{
+    const QmlWindow host("Item { Component.onCompleted: TQMore.sendFeedbackEmail(Qt.rgba(1, 0, 0, 1), 'a\nb') }");
+    EXPECT_TRUE(platform->calls.contains(QStringLiteral("composer.setNavigationBarTintColor(#ffff0000 #ffff0000)")));
+    EXPECT_TRUE(platform->calls.contains(QStringLiteral("composer.setMessageBody(a\nb, html)")));
+}
+
 } // namespace
 } // namespace TQFoundation

@@ -1,6 +1,10 @@
 #include <TQFoundation/Color.h>
+#include <TQFoundation/TQApp.h>
 
 #include <gtest/gtest.h>
+
+#include <array>
+#include <utility>
 
 namespace TQFoundation {
 namespace {
@@ -36,6 +40,48 @@ TEST(Color, LabelIsBlackOnLightAndWhiteOnDark)
 {
     EXPECT_EQ(Color::label().resolved(Appearance::light), (Rgba{0, 0, 0}));
     EXPECT_EQ(Color::label().resolved(Appearance::dark), (Rgba{1, 1, 1}));
+}
+
+TEST(Color, EveryTintOfTheCatalogueCanBeReadOnLightAndDarkGround)
+{
+    for (const TQApp app : TQApp::allCases()) {
+        for (const auto &[appearance, grounds] :
+             {std::pair(Appearance::light, std::array{Rgba{1, 1, 1}, Rgba{0.99F, 0.93F, 0.92F}}),
+              std::pair(Appearance::dark, std::array{Rgba{0.11F, 0.11F, 0.12F}, Rgba{0.23F, 0.14F, 0.15F}})}) {
+            for (const Rgba &ground : grounds)
+                EXPECT_GE(contrast(legibleOn(app.tintColor().resolved(appearance), ground), ground), 4.5);
+        }
+    }
+}
+
+TEST(Color, AColorThatCanBeReadStaysAsItIs)
+{
+    constexpr Rgba blue{0, 0, 0.5F};
+    EXPECT_EQ(legibleOn(blue, {1, 1, 1}), blue);
+}
+
+TEST(Color, AColorThatCannotBeReadIsChangedAsLittleAsThatTakes)
+{
+    for (int red = 0; red <= 8; ++red) {
+        for (int green = 0; green <= 8; ++green) {
+            for (int ground = 0; ground <= 8; ++ground) {
+                const auto part = [](int eighths) { return static_cast<float>(eighths) / 8; };
+                const Rgba below{part(ground), part(ground), part(ground)};
+                const Rgba color{part(red), part(green), 0.5F};
+                const Rgba seen = legibleOn(color, below);
+                EXPECT_GE(contrast(seen, below), 4.5);
+                EXPECT_TRUE(seen == color || contrast(seen, below) < 4.56);
+                EXPECT_EQ(legibleOn(seen, below), seen);
+            }
+        }
+    }
+}
+
+TEST(Color, ATranslucentColorIsReadAsItIsSeen)
+{
+    constexpr Rgba white{1, 1, 1};
+    EXPECT_GE(contrast(legibleOn({0, 0, 0, 0}, white), white), 4.5);
+    EXPECT_EQ(legibleOn({0, 0, 0, 0.9F}, white).alpha, 1);
 }
 
 TEST(Color, BlackAndWhiteAreAsFarApartAsColorsCanBe)

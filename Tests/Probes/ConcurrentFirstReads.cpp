@@ -1,8 +1,9 @@
 // Built with the thread sanitizer from the sources themselves: many threads read each value for the first time at once.
 
-#include "Environment.h"
 #include "RecordingPlatform.h"
-#include "TQMore.h"
+
+#include <TQFoundation/Environment.h>
+#include <TQFoundation/TQMore.h>
 
 #include <cstdio>
 #include <latch>

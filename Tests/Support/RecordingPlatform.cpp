@@ -1,10 +1,93 @@
 #include "RecordingPlatform.h"
 
+#include <QtCore/qmetaobject.h>
+#include <QtGui/qcolor.h>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 namespace TQFoundation::Testing {
+
+namespace {
+
+QString written(const Color &color)
+{
+    const auto hex = [&color](Appearance appearance) {
+        const Rgba rgba = color.resolved(appearance);
+        return QColor::fromRgbF(rgba.red, rgba.green, rgba.blue, rgba.alpha).name(QColor::HexArgb);
+    };
+    return hex(Appearance::light) + u' ' + hex(Appearance::dark);
+}
+
+} // namespace
+
+void RecordingMailComposer::setMailComposeDelegate(const std::shared_ptr<ViewController> &next)
+{
+    delegate = next;
+    m_platform.record(next ? QStringLiteral("composer.setMailComposeDelegate(controller)")
+                           : QStringLiteral("composer.setMailComposeDelegate(null)"));
+}
+
+void RecordingMailComposer::setNavigationBarTintColor(const Color &color)
+{
+    m_platform.record(u"composer.setNavigationBarTintColor(" + written(color) + u')');
+}
+
+void RecordingMailComposer::setToRecipients(const QStringList &addresses)
+{
+    m_platform.record(u"composer.setToRecipients(" + addresses.join(u", ") + u')');
+}
+
+void RecordingMailComposer::setSubject(const QString &subject)
+{
+    m_platform.record(u"composer.setSubject(" + subject + u')');
+}
+
+void RecordingMailComposer::setMessageBody(const QString &body, bool isHtml)
+{
+    m_platform.record(u"composer.setMessageBody(" + body
+                      + (isHtml ? QStringLiteral(", html)") : QStringLiteral(", plain)")));
+}
+
+void RecordingMailComposer::appear(QQuickWindow *)
+{
+    m_platform.record(QStringLiteral("composer.appear()"));
+}
+
+void RecordingMailComposer::disappear()
+{
+    m_platform.record(QStringLiteral("composer.disappear()"));
+}
+
+void RecordingInAppBrowser::setPreferredControlTintColor(const Color &color)
+{
+    m_platform.record(u"browser.setPreferredControlTintColor(" + written(color) + u')');
+}
+
+void RecordingInAppBrowser::setDismissButtonStyle(DismissButtonStyle style)
+{
+    m_platform.record(u"browser.setDismissButtonStyle("
+                      + QLatin1String(QMetaEnum::fromType<DismissButtonStyle>().valueToKey(static_cast<int>(style)))
+                      + u')');
+}
+
+void RecordingInAppBrowser::setModalPresentationStyle(ModalPresentationStyle style)
+{
+    m_platform.record(u"browser.setModalPresentationStyle("
+                      + QLatin1String(QMetaEnum::fromType<ModalPresentationStyle>().valueToKey(static_cast<int>(style)))
+                      + u')');
+}
+
+void RecordingInAppBrowser::appear(QQuickWindow *)
+{
+    m_platform.record(QStringLiteral("browser.appear()"));
+}
+
+void RecordingInAppBrowser::disappear()
+{
+    m_platform.record(QStringLiteral("browser.disappear()"));
+}
 
 class RecordingTimer final : public RepeatingTimer, public std::enable_shared_from_this<RecordingTimer>
 {
@@ -136,6 +219,28 @@ QList<Scene> RecordingPlatform::connectedScenes() const
 void RecordingPlatform::openUrl(const QUrl &url)
 {
     record(u"openUrl(" + url.toString(QUrl::FullyEncoded) + u')');
+}
+
+bool RecordingPlatform::canSendMail() const
+{
+    record(QStringLiteral("canSendMail()"));
+    return mailCanBeSent;
+}
+
+std::shared_ptr<MailComposer> RecordingPlatform::makeMailComposer()
+{
+    record(QStringLiteral("makeMailComposer()"));
+    const auto made = std::make_shared<RecordingMailComposer>(*this);
+    mailComposer = made;
+    return made;
+}
+
+std::shared_ptr<InAppBrowser> RecordingPlatform::makeInAppBrowser(const QUrl &url)
+{
+    record(u"makeInAppBrowser(" + url.toString(QUrl::FullyEncoded) + u')');
+    const auto made = std::make_shared<RecordingInAppBrowser>(*this);
+    inAppBrowser = made;
+    return made;
 }
 
 void RecordingPlatform::softImpact()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <TQFoundation/InAppBrowser.h>
+#include <TQFoundation/MailComposer.h>
 #include <TQFoundation/Platform.h>
 
 #include <QtCore/qmap.h>
@@ -12,6 +14,48 @@
 namespace TQFoundation::Testing {
 
 class RecordingTimer;
+
+class RecordingPlatform;
+
+/// A mail composer that shows nothing and writes down what it is told.
+class RecordingMailComposer final : public MailComposer
+{
+public:
+    explicit RecordingMailComposer(RecordingPlatform &platform) : m_platform(platform) {}
+
+    void setMailComposeDelegate(const std::shared_ptr<ViewController> &delegate) override;
+    void setNavigationBarTintColor(const Color &color) override;
+    void setToRecipients(const QStringList &addresses) override;
+    void setSubject(const QString &subject) override;
+    void setMessageBody(const QString &body, bool isHtml) override;
+
+    std::weak_ptr<ViewController> delegate;
+
+protected:
+    void appear(QQuickWindow *window) override;
+    void disappear() override;
+
+private:
+    RecordingPlatform &m_platform;
+};
+
+/// An in-app browser that shows nothing and writes down what it is told.
+class RecordingInAppBrowser final : public InAppBrowser
+{
+public:
+    explicit RecordingInAppBrowser(RecordingPlatform &platform) : m_platform(platform) {}
+
+    void setPreferredControlTintColor(const Color &color) override;
+    void setDismissButtonStyle(DismissButtonStyle style) override;
+    void setModalPresentationStyle(ModalPresentationStyle style) override;
+
+protected:
+    void appear(QQuickWindow *window) override;
+    void disappear() override;
+
+private:
+    RecordingPlatform &m_platform;
+};
 
 /// A platform for tests: answers what the test sets, writes every call to one ordered list, and stands still in time
 /// until it is driven by hand.
@@ -29,6 +73,12 @@ public:
     QVariantMap defaults;
     QList<Scene> scenes;
     QString root = QStringLiteral(":/qt-project.org/imports/TQFoundation");
+
+    bool mailCanBeSent = true;
+
+    /// What was made last, for as long as it lives.
+    std::weak_ptr<RecordingMailComposer> mailComposer;
+    std::weak_ptr<RecordingInAppBrowser> inAppBrowser;
 
     /// The calls in their order, each the function's name with its arguments in parentheses.
     mutable QStringList calls;
@@ -61,15 +111,19 @@ public:
     void setUserDefault(const QString &key, const QVariant &value) override;
     QList<Scene> connectedScenes() const override;
     void openUrl(const QUrl &url) override;
+    bool canSendMail() const override;
+    std::shared_ptr<MailComposer> makeMailComposer() override;
+    std::shared_ptr<InAppBrowser> makeInAppBrowser(const QUrl &url) override;
     void softImpact() override;
     double mediaTime() const override;
     std::shared_ptr<RepeatingTimer> makeTimer(double interval, std::function<void()> tick) override;
     QString resourceRoot() const override;
 
+    /// Adds a call to the list.
+    void record(const QString &call) const;
+
 private:
     friend class RecordingTimer;
-
-    void record(const QString &call) const;
 
     double m_now = 0;
     std::vector<std::shared_ptr<RecordingTimer>> m_scheduled;

@@ -1,9 +1,12 @@
 #include "DesktopPlatform.h"
 
+#include "BrowserSheet.h"
 #include "InfoPlist.h"
+#include "MailSheet.h"
 #include "Precondition.h"
 #include "TickGrid.h"
 
+#include <QtCore/qdir.h>
 #include <QtCore/qfile.h>
 #include <QtCore/qfileinfo.h>
 #include <QtCore/qtemporaryfile.h>
@@ -259,6 +262,28 @@ QList<Scene> DesktopPlatform::connectedScenes() const
 void DesktopPlatform::openUrl(const QUrl &url)
 {
     QDesktopServices::openUrl(url);
+}
+
+bool DesktopPlatform::canSendMail() const
+{
+    return !sendmailProgram(programFolders()).isEmpty();
+}
+
+std::shared_ptr<MailComposer> DesktopPlatform::makeMailComposer()
+{
+    return std::make_shared<DesktopMailComposer>(programFolders());
+}
+
+std::shared_ptr<InAppBrowser> DesktopPlatform::makeInAppBrowser(const QUrl &url)
+{
+    return std::make_shared<DesktopInAppBrowser>(url);
+}
+
+QStringList DesktopPlatform::programFolders() const
+{
+    const QString path = qEnvironmentVariable("PATH");
+    return QStringList{QStringLiteral("/usr/sbin"), QStringLiteral("/usr/lib")}
+    + path.split(QDir::listSeparator(), Qt::SkipEmptyParts);
 }
 
 void DesktopPlatform::softImpact() {}

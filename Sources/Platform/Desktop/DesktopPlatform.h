@@ -45,11 +45,25 @@ public:
 
     void openUrl(const QUrl &url) override;
 
+    /// Whether one of programFolders() holds an executable program called sendmail.
+    bool canSendMail() const override;
+
+    /// A sheet that sends through that program, looked for again when the user sends.
+    std::shared_ptr<MailComposer> makeMailComposer() override;
+
+    /// A sheet with the web view of Qt WebEngine. Where that is not installed or cannot run, presenting the browser
+    /// hands its page to openUrl() instead.
+    std::shared_ptr<InAppBrowser> makeInAppBrowser(const QUrl &url) override;
+
     /// Nothing: a desktop has no haptics.
     void softImpact() override;
     double mediaTime() const override;
     std::shared_ptr<RepeatingTimer> makeTimer(double interval, std::function<void()> tick) override;
     QString resourceRoot() const override;
+
+protected:
+    /// Where the sendmail program is looked for, in this order: /usr/sbin, /usr/lib, and the folders of PATH.
+    virtual QStringList programFolders() const;
 
 private:
     QSettings *settings() const;

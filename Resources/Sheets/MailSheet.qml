@@ -1,0 +1,400 @@
+import QtQuick
+import QtQuick.Templates as T
+import TQFoundation
+
+// Where the user writes a mail: a bar with Cancel and Send, and below it a page that scrolls as a whole: what went wrong,
+// whom the mail goes to, its subject, its text.
+Sheet {
+    id: root
+
+    required property MailDraft page
+
+    readonly property color tint: page.tint.legibleOn(ground, dark)
+    readonly property color danger: dark ? "#ff8a80" : "#b3261e"
+    // Where a line has no room for a label and what it is the label of.
+    readonly property bool stacked: width < 18 * textSize
+
+    onOpened: message.forceActiveFocus()
+
+    Connections {
+        target: root.page
+
+        function onDiscardQuestioned() {
+            question.open();
+        }
+
+        function onStateChanged() {
+            if (root.page.problem)
+                scroller.contentY = 0;
+        }
+    }
+
+    contentItem: FocusScope {
+        LayoutMirroring.enabled: root.rightToLeft
+        LayoutMirroring.childrenInherit: true
+        Accessible.role: Accessible.Dialog
+        Accessible.name: root.page.titleText
+        Keys.onEscapePressed: root.page.cancel()
+        Keys.onBackPressed: root.page.cancel()
+
+        Item {
+            id: bar
+
+            readonly property real roomForButton: (width - root.gap) / 2
+
+            width: parent.width
+            height: Math.max(56, cancel.height + 12)
+
+            SheetButton {
+                id: cancel
+
+                anchors { left: parent.left; leftMargin: root.gap - leftPadding; verticalCenter: parent.verticalCenter }
+                width: Math.min(implicitWidth, bar.roomForButton)
+                text: root.page.cancelText
+                textSize: root.textSize
+                tint: root.tint
+                pressedGround: root.pressed
+                enabled: !root.page.isSending
+                onClicked: root.page.cancel()
+            }
+
+            Text {
+                anchors.centerIn: parent
+                width: bar.width - 2 * Math.max(cancel.width, send.width) - 2 * root.gap
+                visible: width > 3 * root.textSize
+                text: root.page.isSending ? root.page.sendingText : root.page.titleText
+                textFormat: Text.PlainText
+                horizontalAlignment: Text.AlignHCenter
+                elide: Text.ElideRight
+                font { pixelSize: root.textSize; weight: Font.DemiBold }
+                color: root.ink
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+
+            SheetButton {
+                id: send
+
+                anchors { right: parent.right; rightMargin: root.gap - rightPadding; verticalCenter: parent.verticalCenter }
+                width: Math.min(implicitWidth, bar.roomForButton)
+                text: root.page.sendText
+                textSize: root.textSize
+                strong: true
+                tint: root.tint
+                pressedGround: root.pressed
+                enabled: !root.page.isSending
+                onClicked: root.page.send()
+            }
+
+            Rectangle {
+                anchors.bottom: parent.bottom
+                width: parent.width
+                height: 1
+                color: root.line
+            }
+
+            // That the mail is on its way, for how long nobody knows.
+            Item {
+                anchors { bottom: parent.bottom }
+                width: parent.width
+                height: 3
+                clip: true
+                visible: root.page.isSending
+                Accessible.role: Accessible.ProgressBar
+                Accessible.name: root.page.sendingText
+
+                Rectangle {
+                    width: parent.width / 3
+                    height: parent.height
+                    color: root.tint
+
+                    NumberAnimation on x {
+                        running: root.page.isSending
+                        from: -bar.width / 3
+                        to: bar.width
+                        duration: 1200
+                        loops: Animation.Infinite
+                    }
+                }
+            }
+        }
+
+        Flickable {
+            id: scroller
+
+            function reveal(item: Item, area: rect) {
+                const top = item.mapToItem(contentItem, area.x, area.y).y;
+                if (top < contentY)
+                    contentY = Math.max(0, top - root.gap);
+                else if (top + area.height > contentY + height)
+                    contentY = top + area.height + root.gap - height;
+            }
+
+            anchors { top: bar.bottom; left: parent.left; right: parent.right; bottom: parent.bottom; bottomMargin: root.narrow ? 0 : root.corner }
+            contentHeight: lines.height
+            boundsBehavior: Flickable.StopAtBounds
+            interactive: contentHeight > height
+            clip: true
+
+            Column {
+                id: lines
+
+                width: scroller.width
+
+                // Why the mail was not sent.
+                Rectangle {
+                    width: parent.width
+                    height: reasons.height + 2 * root.gap
+                    visible: root.page.problem !== ""
+                    color: root.dark ? "#3b2426" : "#fdeceb"
+                    Accessible.role: Accessible.AlertMessage
+                    Accessible.name: root.page.problem
+
+                    Column {
+                        id: reasons
+
+                        x: root.gap
+                        y: root.gap
+                        width: parent.width - 2 * root.gap
+                        spacing: 6
+
+                        Text {
+                            width: parent.width
+                            text: root.page.problem
+                            textFormat: Text.PlainText
+                            wrapMode: Text.Wrap
+                            horizontalAlignment: Text.AlignLeft
+                            font { pixelSize: root.textSize; weight: Font.Medium }
+                            color: root.ink
+                        }
+
+                        Text {
+                            width: parent.width
+                            visible: text !== ""
+                            text: root.page.problemDetail
+                            textFormat: Text.PlainText
+                            wrapMode: Text.Wrap
+                            maximumLineCount: 3
+                            elide: Text.ElideRight
+                            horizontalAlignment: Text.AlignLeft
+                            font.pixelSize: Math.round(root.textSize * 0.8)
+                            color: root.dark ? "#c7b7b8" : "#6a5556"
+                        }
+
+                        SheetButton {
+                            anchors.left: parent.left
+                            anchors.leftMargin: -leftPadding
+                            width: Math.min(implicitWidth, parent.width)
+                            text: root.page.againText
+                            textSize: root.textSize
+                            strong: true
+                            tint: root.page.tint.legibleOn(root.dark ? "#3b2426" : "#fdeceb", root.dark)
+                            pressedGround: root.pressed
+                            onClicked: root.page.send()
+                        }
+                    }
+                }
+
+                Line {
+                    id: recipientLine
+
+                    label: root.page.toText
+
+                    Text {
+                        width: parent.width
+                        y: recipientLine.room
+                        text: root.page.recipient
+                        textFormat: Text.PlainText
+                        wrapMode: Text.WrapAnywhere
+                        horizontalAlignment: Text.AlignLeft
+                        font.pixelSize: root.textSize
+                        color: root.ink
+                        Accessible.role: Accessible.StaticText
+                        Accessible.name: text
+                    }
+                }
+
+                Line {
+                    id: subjectLine
+
+                    label: root.page.subjectText
+
+                    T.TextField {
+                        id: subject
+
+                        width: parent.width
+                        implicitHeight: contentHeight + topPadding + bottomPadding
+                        verticalPadding: subjectLine.room
+                        text: root.page.subject
+                        font.pixelSize: root.textSize
+                        color: root.ink
+                        selectionColor: root.tint
+                        selectedTextColor: root.ground
+                        selectByMouse: true
+                        readOnly: root.page.isSending
+                        onTextEdited: root.page.subject = text
+                        onActiveFocusChanged: if (activeFocus) scroller.reveal(subject, Qt.rect(0, 0, width, height))
+                        Accessible.name: root.page.subjectText
+                    }
+                }
+
+                Rectangle {
+                    width: parent.width
+                    height: message.height
+                    color: root.page.hasColors ? "#ffffff" : root.ground
+
+                    T.TextArea {
+                        id: message
+
+                        width: parent.width
+                        height: Math.max(contentHeight + topPadding + bottomPadding, scroller.height - parent.y)
+                        padding: root.gap
+                        topPadding: root.gap * 0.75
+                        textFormat: TextEdit.RichText
+                        wrapMode: TextEdit.Wrap
+                        font.pixelSize: root.textSize
+                        color: root.page.hasColors ? "#000000" : root.ink
+                        selectionColor: root.tint
+                        selectedTextColor: root.ground
+                        selectByMouse: true
+                        readOnly: root.page.isSending
+                        KeyNavigation.priority: KeyNavigation.BeforeItem
+                        KeyNavigation.tab: cancel
+                        KeyNavigation.backtab: subject
+                        Keys.onPressed: event => {
+                            event.accepted = event.matches(StandardKey.Paste);
+                            if (event.accepted && !readOnly)
+                                root.page.paste(selectionStart, selectionEnd);
+                        }
+                        onCursorRectangleChanged: if (activeFocus) scroller.reveal(message, cursorRectangle)
+                        Component.onCompleted: root.page.fill(textDocument)
+                        Accessible.name: root.page.messageText
+
+                        // Would paste what the user has selected elsewhere, with its images and styles.
+                        MouseArea {
+                            anchors.fill: parent
+                            acceptedButtons: Qt.MiddleButton
+                        }
+                    }
+                }
+            }
+        }
+
+        Rectangle {
+            anchors { right: parent.right; rightMargin: 3 }
+            y: scroller.y + scroller.visibleArea.yPosition * scroller.height
+            width: 4
+            height: Math.max(24, scroller.visibleArea.heightRatio * scroller.height)
+            radius: 2
+            visible: scroller.interactive
+            color: root.ink
+            opacity: 0.3
+        }
+
+        T.Popup {
+            id: question
+
+            parent: root.contentItem
+            width: Math.min(parent.width - 2 * root.gap, 22 * root.textSize)
+            height: Math.min(answers.implicitHeight + 2 * padding, parent.height - root.gap)
+            x: Math.round((parent.width - width) / 2)
+            y: Math.round((parent.height - height) / 2)
+            padding: root.gap
+            modal: true
+            focus: true
+            closePolicy: T.Popup.CloseOnEscape
+            onOpened: keep.forceActiveFocus()
+            onClosed: message.forceActiveFocus()
+
+            T.Overlay.modal: Rectangle {
+                color: "#66000000"
+            }
+
+            background: Rectangle {
+                radius: root.corner
+                color: root.dark ? "#2c2c2e" : "#ffffff"
+            }
+
+            contentItem: Column {
+                id: answers
+
+                LayoutMirroring.enabled: root.rightToLeft
+                LayoutMirroring.childrenInherit: true
+                spacing: 4
+                Accessible.role: Accessible.AlertMessage
+                Accessible.name: root.page.discardQuestion
+
+                Text {
+                    width: parent.width
+                    bottomPadding: 12
+                    text: root.page.discardQuestion
+                    textFormat: Text.PlainText
+                    wrapMode: Text.Wrap
+                    horizontalAlignment: Text.AlignHCenter
+                    font.pixelSize: root.textSize
+                    color: root.ink
+                }
+
+                SheetButton {
+                    width: parent.width
+                    text: root.page.discardText
+                    textSize: root.textSize
+                    tint: root.danger
+                    pressedGround: root.pressed
+                    onClicked: root.page.discard()
+                }
+
+                SheetButton {
+                    id: keep
+
+                    width: parent.width
+                    text: root.page.keepText
+                    textSize: root.textSize
+                    strong: true
+                    tint: root.page.tint.legibleOn(root.dark ? "#2c2c2e" : "#ffffff", root.dark)
+                    pressedGround: root.pressed
+                    onClicked: question.close()
+                }
+            }
+        }
+    }
+
+    // A label and beside it, or below it, one value.
+    component Line: Item {
+        id: line
+
+        required property string label
+        default property alias value: place.data
+
+        // Above and below the value.
+        readonly property real room: Math.max(8, (44 - root.textSize * 1.35) / 2)
+
+        width: parent ? parent.width : 0
+        height: place.y + place.height + 1
+
+        Text {
+            id: caption
+
+            anchors { left: parent.left; leftMargin: root.gap }
+            y: line.room
+            text: line.label
+            textFormat: Text.PlainText
+            font.pixelSize: root.textSize
+            color: root.quietInk
+        }
+
+        Item {
+            id: place
+
+            anchors { left: root.stacked ? parent.left : caption.right; leftMargin: root.stacked ? root.gap : 8; right: parent.right; rightMargin: root.gap }
+            y: root.stacked ? caption.y + caption.height - line.room / 2 : 0
+            height: childrenRect.y + childrenRect.height + (childrenRect.y > 0 ? line.room : 0)
+        }
+
+        Rectangle {
+            anchors { left: parent.left; leftMargin: root.gap; right: parent.right; bottom: parent.bottom }
+            height: 1
+            color: root.line
+        }
+    }
+}

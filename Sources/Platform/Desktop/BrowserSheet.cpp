@@ -1,0 +1,185 @@
+#include "BrowserSheet.h"
+
+#include "Bundle.h"
+#include "LibraryEngine.h"
+#include "Platform.h"
+
+#include <QtCore/qcoreapplication.h>
+#include <QtGui/qopenglcontext.h>
+
+#include <utility>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
+namespace TQFoundation {
+namespace {
+
+// The web view shares its pictures through OpenGL, which has to be said before there is an application, and would end
+// the process otherwise.
+[[maybe_unused]] const bool sharesContexts = [] {
+    if (QCoreApplication::instance())
+        return false;
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    return true;
+}();
+
+// The web view's sandbox ends the process of a superuser, who has to renounce it.
+bool runsWithoutItsSandbox()
+{
+#ifdef Q_OS_UNIX
+    return geteuid() == 0 && qgetenv("QTWEBENGINE_DISABLE_SANDBOX") != "1";
+#else
+    return false;
+#endif
+}
+
+// Asked of the context itself, because the attribute may have been set too late.
+bool canShowPages()
+{
+    return QOpenGLContext::globalShareContext() && !runsWithoutItsSandbox()
+        && hasQmlModule(QStringLiteral("QtWebEngine"));
+}
+
+QString words(const char *key)
+{
+    return libraryBundle().interfaceString(QLatin1String(key));
+}
+
+} // namespace
+
+BrowserPage::~BrowserPage()
+{
+    endLoading();
+}
+
+QString BrowserPage::problemText() const
+{
+    switch (m_problem) {
+    case NoProblem:
+        break;
+    case Unreachable:
+        //: Stands in place of a web page.
+        return words(QT_TRANSLATE_NOOP("TQFoundationInterface",
+                                       "This page cannot be reached. Check your connection and try again."));
+    case Insecure:
+        //: Stands in place of a web page whose certificate is not valid.
+        return words(QT_TRANSLATE_NOOP("TQFoundationInterface",
+                                       "The connection to this site is not secure, so the page was not opened."));
+    case Crashed:
+        //: Stands in place of a web page whose process has ended.
+        return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "This page has stopped working."));
+    case Slow:
+        //: Stands in place of, or below, a web page.
+        return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "This page takes too long to load."));
+    }
+    return {};
+}
+
+bool BrowserPage::mayOpen(const QUrl &target, bool isMainFrame) const
+{
+    const QString scheme = target.scheme();
+    const bool isWeb = scheme == u"https" || scheme == u"http";
+    const bool isOwn = scheme == u"about" || scheme == u"blob" || scheme == u"data";
+    return isWeb || (isOwn && !isMainFrame);
+}
+
+QString BrowserPage::siteOf(const QUrl &shown) const
+{
+    if (!mayOpen(shown, true))
+        return {};
+    const QString authority = shown.authority(QUrl::FullyEncoded | QUrl::RemoveUserInfo);
+    return shown.scheme() == u"https" ? authority : QString(u"http://" + authority);
+}
+
+void BrowserPage::beginLoading()
+{
+    setProblem(NoProblem);
+    endLoading();
+    m_bound = platform().makeTimer(patience, [this] { fail(Slow); });
+    m_bound->schedule();
+}
+
+void BrowserPage::endLoading()
+{
+    if (const auto bound = std::exchange(m_bound, nullptr))
+        bound->invalidate();
+}
+
+void BrowserPage::fail(Problem problem)
+{
+    endLoading();
+    if (m_problem == NoProblem)
+        setProblem(problem);
+}
+
+void BrowserPage::setProblem(Problem problem)
+{
+    if (m_problem == problem)
+        return;
+    m_problem = problem;
+    Q_EMIT problemChanged();
+}
+
+QString BrowserPage::closeText()
+{
+    //: Button that closes the in-app browser.
+    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Close"));
+}
+
+QString BrowserPage::backText()
+{
+    //: Button that leads to the page before, in the in-app browser.
+    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Back"));
+}
+
+QString BrowserPage::reloadText()
+{
+    //: Button that loads the page once more, in the in-app browser.
+    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Reload"));
+}
+
+QString BrowserPage::againText()
+{
+    return words("Try Again");
+}
+
+DesktopInAppBrowser::DesktopInAppBrowser(const QUrl &url) : m_url(url) {}
+
+void DesktopInAppBrowser::setPreferredControlTintColor(const Color &color)
+{
+    m_tint = color;
+}
+
+void DesktopInAppBrowser::setDismissButtonStyle(DismissButtonStyle) {}
+
+void DesktopInAppBrowser::setModalPresentationStyle(ModalPresentationStyle) {}
+
+void DesktopInAppBrowser::appear(QQuickWindow *window)
+{
+    if (canShowPages()) {
+        auto page = std::make_unique<BrowserPage>();
+        page->tint = m_tint;
+        page->url = m_url;
+        connect(page.get(), &BrowserPage::closed, this, &DesktopInAppBrowser::close);
+        if (m_sheet.open(QStringLiteral("BrowserSheet"), std::move(page), window))
+            return;
+    }
+    close();
+    platform().openUrl(m_url);
+}
+
+void DesktopInAppBrowser::disappear()
+{
+    m_sheet.close();
+}
+
+void DesktopInAppBrowser::close()
+{
+    // Dismissing lets go of the browser.
+    const auto alive = weak_from_this().lock();
+    dismiss();
+}
+
+} // namespace TQFoundation

@@ -1,0 +1,365 @@
+#include "MailSheet.h"
+
+#include "Bundle.h"
+#include "MailMessage.h"
+
+#include <QtCore/qdatetime.h>
+#include <QtGui/qclipboard.h>
+#include <QtGui/qguiapplication.h>
+#include <QtGui/qimage.h>
+#include <QtGui/qinputmethod.h>
+#include <QtGui/qtextcursor.h>
+#include <QtGui/qtextdocument.h>
+#include <QtGui/qtextdocumentfragment.h>
+#include <QtGui/qtextobject.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace TQFoundation {
+namespace {
+
+// What stands in the editor for the name of an image, and where the image keeps its own.
+constexpr QLatin1String noImage("tq:no-image");
+constexpr int ownName = QTextFormat::UserProperty + 1;
+
+/// A document that loads nothing of what its HTML refers to.
+class SecludedDocument final : public QTextDocument
+{
+protected:
+    QVariant loadResource(int type, const QUrl &) override
+    {
+        return type == ImageResource ? QVariant(QImage()) : QVariant(QByteArray());
+    }
+};
+
+// Gives each stretch of text the format that `change` makes of its own.
+template <typename Change>
+void changeFormats(QTextDocument &document, const Change &change)
+{
+    QList<QTextFragment> fragments;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment)
+            fragments += fragment.fragment();
+    }
+    struct Run
+    {
+        int start;
+        int end;
+        QTextCharFormat format;
+    };
+    QList<Run> runs;
+    for (const QTextFragment &fragment : std::as_const(fragments)) {
+        QTextCharFormat format = fragment.charFormat();
+        if (change(format))
+            runs.append({fragment.position(), fragment.position() + fragment.length(), format});
+    }
+    QTextCursor cursor(&document);
+    for (const Run &run : std::as_const(runs)) {
+        cursor.setPosition(run.start);
+        cursor.setPosition(run.end, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(run.format);
+    }
+}
+
+// Whether the user would see colours of the text's own. Links have the toolkit's.
+bool isColored(const QTextDocument &document)
+{
+    const QList<QTextFormat> formats = document.allFormats();
+    return std::ranges::any_of(formats, [](const QTextFormat &format) {
+        const bool isLink = format.isCharFormat() && format.toCharFormat().isAnchor();
+        return format.hasProperty(QTextFormat::BackgroundBrush)
+            || (format.hasProperty(QTextFormat::ForegroundBrush) && !isLink);
+    });
+}
+
+QString words(const char *key)
+{
+    return libraryBundle().interfaceString(QLatin1String(key));
+}
+
+QString problemOf(Sendmail::Outcome outcome)
+{
+    switch (outcome) {
+    case Sendmail::Outcome::sent:
+        break;
+    case Sendmail::Outcome::noProgram:
+        //: Why a mail was not sent.
+        return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "There is no mail program on this device."));
+    case Sendmail::Outcome::notSetUp:
+        //: Why a mail was not sent.
+        return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "The mail program on this device is not set up."));
+    case Sendmail::Outcome::unreachable:
+        //: Why a mail was not sent.
+        return words(QT_TRANSLATE_NOOP("TQFoundationInterface",
+                                       "The mail server cannot be reached. Check your connection and try again."));
+    case Sendmail::Outcome::rejected:
+        //: Why a mail was not sent.
+        return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "The mail server did not accept your message."));
+    case Sendmail::Outcome::failed:
+        //: Why a mail was not sent.
+        return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Your message could not be sent."));
+    case Sendmail::Outcome::crashed:
+        //: Why a mail was not sent.
+        return words(
+            QT_TRANSLATE_NOOP("TQFoundationInterface", "The mail program stopped before your message was sent."));
+    case Sendmail::Outcome::unanswered:
+        //: The user has to know that a further attempt could send the mail twice.
+        return words(QT_TRANSLATE_NOOP(
+            "TQFoundationInterface",
+            "There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again "
+            "sends it twice."));
+    }
+    return {};
+}
+
+} // namespace
+
+void MailDraft::setSubject(const QString &subject)
+{
+    if (m_subject == subject)
+        return;
+    m_subject = subject;
+    m_subjectChanged = true;
+    Q_EMIT subjectChanged();
+}
+
+void MailDraft::fill(QQuickTextDocument *editor)
+{
+    SecludedDocument given;
+    given.setHtml(html);
+    m_hasColors = isColored(given);
+    changeFormats(given, [](QTextCharFormat &format) {
+        if (format.isImageFormat()) {
+            format.setProperty(ownName, format.toImageFormat().name());
+            format.setProperty(QTextFormat::ImageName, noImage);
+        } else if (format.isAnchor()) {
+            format.clearForeground();
+        }
+        return format.isImageFormat() || format.isAnchor();
+    });
+
+    m_document = editor->textDocument();
+    m_document->setUndoRedoEnabled(false);
+    QImage nothing(1, 1, QImage::Format_ARGB32_Premultiplied);
+    nothing.fill(Qt::transparent);
+    m_document->addResource(QTextDocument::ImageResource, QUrl(noImage), nothing);
+    QTextCursor(m_document).insertFragment(QTextDocumentFragment(&given));
+    m_document->setUndoRedoEnabled(true);
+    m_document->setModified(false);
+    Q_EMIT filled();
+}
+
+void MailDraft::paste(int start, int end)
+{
+    if (!m_document)
+        return;
+    QTextCursor cursor(m_document);
+    cursor.setPosition(start);
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    cursor.insertText(QGuiApplication::clipboard()->text());
+}
+
+void MailDraft::send()
+{
+    if (m_sending || m_finished)
+        return;
+    QGuiApplication::inputMethod()->commit();
+    m_sending = true;
+    Q_EMIT stateChanged();
+    const auto message = composeMail({
+        .from = senderAddress().toStdString(),
+        .to = recipientText().toStdString(),
+        .date = QDateTime::currentDateTime().toString(Qt::RFC2822Date).toStdString(),
+        .subject = m_subject.toStdString(),
+        .html = this->message().toStdString(),
+    });
+    const QString program = sendmailProgram(programFolders);
+    if (!message || program.isEmpty()) {
+        heardBack(message ? Sendmail::Outcome::noProgram : Sendmail::Outcome::failed, {});
+        return;
+    }
+    m_sendmail = new Sendmail(program, QByteArray::fromStdString(*message), this);
+    connect(m_sendmail, &Sendmail::finished, this, &MailDraft::heardBack);
+}
+
+void MailDraft::cancel()
+{
+    if (m_sending)
+        return;
+    QGuiApplication::inputMethod()->commit();
+    if (m_subjectChanged || (m_document && m_document->isModified()))
+        Q_EMIT discardQuestioned();
+    else
+        discard();
+}
+
+void MailDraft::discard()
+{
+    if (!m_sending)
+        finish(m_problem.isEmpty() ? ViewController::MailComposeResult::cancelled
+                                   : ViewController::MailComposeResult::failed);
+}
+
+// What the user has not changed goes out as it was given; what is changed, as the editor writes it.
+QString MailDraft::message() const
+{
+    if (!m_document || !m_document->isModified())
+        return html;
+    const std::unique_ptr<QTextDocument> copy(m_document->clone());
+    changeFormats(*copy, [](QTextCharFormat &format) {
+        if (!format.hasProperty(ownName))
+            return false;
+        format.setProperty(QTextFormat::ImageName, format.property(ownName));
+        format.clearProperty(ownName);
+        return true;
+    });
+    return copy->toHtml();
+}
+
+void MailDraft::heardBack(Sendmail::Outcome outcome, const QString &detail)
+{
+    if (m_sendmail)
+        m_sendmail->deleteLater();
+    m_sending = false;
+    m_problem = problemOf(outcome);
+    m_problemDetail = outcome == Sendmail::Outcome::sent ? QString() : detail;
+    Q_EMIT stateChanged();
+    if (outcome == Sendmail::Outcome::sent)
+        finish(ViewController::MailComposeResult::sent);
+}
+
+void MailDraft::finish(ViewController::MailComposeResult result)
+{
+    if (!std::exchange(m_finished, true))
+        Q_EMIT finished(result, m_problem);
+}
+
+QString MailDraft::titleText()
+{
+    //: Title of the sheet in which the user writes a mail.
+    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "New Message"));
+}
+
+QString MailDraft::sendingText()
+{
+    //: Stands in place of the sheet's title while a mail is on its way.
+    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Sending…"));
+}
+
+QString MailDraft::cancelText()
+{
+    //: Button that closes the sheet without sending the mail.
+    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Cancel"));
+}
+
+QString MailDraft::sendText()
+{
+    //: Button that sends the mail.
+    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Send"));
+}
+
+QString MailDraft::againText()
+{
+    //: Button that sends the mail, or loads the page, once more after that failed.
+    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Try Again"));
+}
+
+QString MailDraft::toText()
+{
+    //: Stands before the address that a mail goes to.
+    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "To:"));
+}
+
+QString MailDraft::subjectText()
+{
+    //: Stands before the subject of a mail.
+    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Subject:"));
+}
+
+QString MailDraft::messageText()
+{
+    //: What a screen reader calls the field in which the text of a mail is written.
+    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Message"));
+}
+
+QString MailDraft::discardQuestion()
+{
+    //: Asked before the sheet is closed; answered by "Discard" or "Keep Writing".
+    return words(
+        QT_TRANSLATE_NOOP("TQFoundationInterface", "Discard this message? What you have written will be lost."));
+}
+
+QString MailDraft::discardText()
+{
+    //: Button that closes the sheet and loses what was written.
+    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Discard"));
+}
+
+QString MailDraft::keepText()
+{
+    //: Button that leads back to the mail that is being written.
+    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Keep Writing"));
+}
+
+DesktopMailComposer::DesktopMailComposer(const QStringList &programFolders) : m_draft(std::make_unique<MailDraft>())
+{
+    m_draft->programFolders = programFolders;
+}
+
+void DesktopMailComposer::setMailComposeDelegate(const std::shared_ptr<ViewController> &delegate)
+{
+    m_delegate = delegate;
+}
+
+void DesktopMailComposer::setNavigationBarTintColor(const Color &color)
+{
+    if (m_draft)
+        m_draft->tint = color;
+}
+
+void DesktopMailComposer::setToRecipients(const QStringList &addresses)
+{
+    if (m_draft)
+        m_draft->recipients = addresses;
+}
+
+void DesktopMailComposer::setSubject(const QString &subject)
+{
+    if (m_draft)
+        m_draft->begin(subject);
+}
+
+void DesktopMailComposer::setMessageBody(const QString &body, bool isHtml)
+{
+    if (m_draft)
+        m_draft->html =
+            isHtml ? body : QString(u"<div style=\"white-space: pre-wrap\">" + body.toHtmlEscaped() + u"</div>");
+}
+
+void DesktopMailComposer::appear(QQuickWindow *window)
+{
+    if (m_draft) {
+        connect(m_draft.get(), &MailDraft::finished, this, &DesktopMailComposer::tellDelegate);
+        if (m_sheet.open(QStringLiteral("MailSheet"), std::move(m_draft), window))
+            return;
+    }
+    tellDelegate(MailComposeResult::failed, problemOf(Sendmail::Outcome::failed));
+}
+
+void DesktopMailComposer::disappear()
+{
+    m_sheet.close();
+}
+
+void DesktopMailComposer::tellDelegate(MailComposeResult result, const QString &error)
+{
+    // Dismissing lets go of the composer.
+    const auto alive = weak_from_this().lock();
+    if (const auto delegate = m_delegate.lock())
+        delegate->mailComposeController(this, result, error);
+    else
+        dismiss();
+}
+
+} // namespace TQFoundation

@@ -1,0 +1,150 @@
+#pragma once
+
+#include "MailComposer.h"
+#include "Sendmail.h"
+#include "Sheet.h"
+
+#include <QtCore/qpointer.h>
+#include <QtQml/qqmlregistration.h>
+#include <QtQuick/qquicktextdocument.h>
+
+#include <memory>
+
+namespace TQFoundation {
+
+/// The mail that the user writes, as the composer's sheet MailSheet.qml shows it, and its way out.
+class MailDraft : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("A mail composer makes it.")
+    Q_PROPERTY(TQFoundation::Color tint MEMBER tint CONSTANT FINAL)
+    Q_PROPERTY(QString recipient READ recipientText CONSTANT FINAL)
+    Q_PROPERTY(QString subject READ subject WRITE setSubject NOTIFY subjectChanged FINAL)
+    Q_PROPERTY(bool hasColors READ hasColors NOTIFY filled FINAL)
+    Q_PROPERTY(bool isSending READ isSending NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString problem READ problem NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString problemDetail READ problemDetail NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString titleText READ titleText CONSTANT FINAL)
+    Q_PROPERTY(QString sendingText READ sendingText CONSTANT FINAL)
+    Q_PROPERTY(QString cancelText READ cancelText CONSTANT FINAL)
+    Q_PROPERTY(QString sendText READ sendText CONSTANT FINAL)
+    Q_PROPERTY(QString againText READ againText CONSTANT FINAL)
+    Q_PROPERTY(QString toText READ toText CONSTANT FINAL)
+    Q_PROPERTY(QString subjectText READ subjectText CONSTANT FINAL)
+    Q_PROPERTY(QString messageText READ messageText CONSTANT FINAL)
+    Q_PROPERTY(QString discardQuestion READ discardQuestion CONSTANT FINAL)
+    Q_PROPERTY(QString discardText READ discardText CONSTANT FINAL)
+    Q_PROPERTY(QString keepText READ keepText CONSTANT FINAL)
+
+public:
+    using QObject::QObject;
+
+    Color tint = Color::systemBlue();
+    QStringList recipients;
+    QString html; ///< what the message begins with
+    QStringList programFolders; ///< where to look for sendmail
+
+    QString recipientText() const { return recipients.join(QStringLiteral(", ")); }
+
+    /// The subject as it was given, until the user changes it.
+    QString subject() const { return m_subject; }
+    void begin(const QString &subject) { m_subject = subject; }
+    void setSubject(const QString &subject);
+
+    /// Whether the message says itself what it is painted in, so that its ground has to be white.
+    bool hasColors() const { return m_hasColors; }
+
+    bool isSending() const { return m_sending; }
+
+    /// Why the last attempt to send failed, in words for the user; empty while none did.
+    QString problem() const { return m_problem; }
+
+    /// What the mail program said of it; may be empty.
+    QString problemDetail() const { return m_problemDetail; }
+
+    /// Shows the message in a rich text editor, which from then on holds it. Nothing that it refers to is loaded: no
+    /// image, no style sheet.
+    Q_INVOKABLE void fill(QQuickTextDocument *editor);
+
+    /// Replaces what is between \a start and \a end in the editor with the clipboard's text, which brings no images or
+    /// styles along.
+    Q_INVOKABLE void paste(int start, int end);
+
+    /// Sends the mail. Does nothing while it is being sent.
+    Q_INVOKABLE void send();
+
+    /// Gives the mail up, or asks first where the user has changed it. Does nothing while it is being sent.
+    Q_INVOKABLE void cancel();
+
+    /// Gives the mail up.
+    Q_INVOKABLE void discard();
+
+    static QString titleText();
+    static QString sendingText();
+    static QString cancelText();
+    static QString sendText();
+    static QString againText();
+    static QString toText();
+    static QString subjectText();
+    static QString messageText();
+    static QString discardQuestion();
+    static QString discardText();
+    static QString keepText();
+
+Q_SIGNALS:
+    void subjectChanged();
+    void filled();
+    void stateChanged();
+
+    /// The user is to be asked whether the changed mail may be given up.
+    void discardQuestioned();
+
+    /// The user is done with the mail. Comes once.
+    void finished(TQFoundation::ViewController::MailComposeResult result, const QString &error);
+
+private:
+    QString message() const;
+    void heardBack(Sendmail::Outcome outcome, const QString &detail);
+    void finish(ViewController::MailComposeResult result);
+
+    QString m_subject;
+    bool m_subjectChanged = false;
+    bool m_hasColors = false;
+    QPointer<QTextDocument> m_document; // the editor's
+    QPointer<Sendmail> m_sendmail;
+    bool m_sending = false;
+    bool m_finished = false;
+    QString m_problem;
+    QString m_problemDetail;
+};
+
+/// The composer of a desktop: a sheet whose mail goes out through the system's sendmail program. It keeps no drafts,
+/// and so never reports a mail as saved.
+class DesktopMailComposer final : public MailComposer, public std::enable_shared_from_this<DesktopMailComposer>
+{
+    Q_OBJECT
+
+public:
+    /// \a programFolders are searched for sendmail in their order.
+    explicit DesktopMailComposer(const QStringList &programFolders);
+
+    void setMailComposeDelegate(const std::shared_ptr<ViewController> &delegate) override;
+    void setNavigationBarTintColor(const Color &color) override;
+    void setToRecipients(const QStringList &addresses) override;
+    void setSubject(const QString &subject) override;
+    void setMessageBody(const QString &body, bool isHtml) override;
+
+protected:
+    void appear(QQuickWindow *window) override;
+    void disappear() override;
+
+private:
+    void tellDelegate(MailComposeResult result, const QString &error);
+
+    std::weak_ptr<ViewController> m_delegate;
+    std::unique_ptr<MailDraft> m_draft; // until it is shown; afterwards the sheet has it
+    Sheet m_sheet;
+};
+
+} // namespace TQFoundation

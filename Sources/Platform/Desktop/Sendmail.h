@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QtCore/qbytearray.h>
+#include <QtCore/qobject.h>
+#include <QtCore/qpointer.h>
+#include <QtCore/qstringlist.h>
+
+#include <memory>
+
+class QProcess;
+
+namespace TQFoundation {
+
+class RepeatingTimer;
+
+/// The program called sendmail in the first of \a folders that holds an executable one; empty where none does.
+QString sendmailProgram(const QStringList &folders);
+
+/// The address that the user's mail comes from, always one by isMailAddress(): what the environment says in EMAIL,
+/// where it is an address, else the user's name at this machine.
+QByteArray senderAddress();
+
+/// Hands one message to a sendmail program, which passes it on to whom its header names. Main thread only.
+///
+/// Nothing waits: finished() comes once control is back in the event loop. A program that has the whole message goes on
+/// by itself when this object or the application goes; one that has not is ended, so that no half of a mail is sent.
+class Sendmail : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Outcome {
+        sent, ///< The program has taken charge of the mail.
+        noProgram, ///< It could not be started.
+        notSetUp, ///< It says that its configuration is missing or wrong.
+        unreachable, ///< It says that it cannot reach the server for now.
+        rejected, ///< It says that the server does not want this mail or its recipient.
+        failed, ///< It gives another reason.
+        crashed, ///< It was ended before it was done.
+        unanswered ///< It was ended because it was still busy after `patience`: the mail may have gone.
+    };
+    Q_ENUM(Outcome)
+
+    /// How long the program may take, in seconds.
+    static constexpr double patience = 30;
+
+    /// Starts \a program with \a message.
+    Sendmail(const QString &program, const QByteArray &message, QObject *parent);
+    ~Sendmail() override;
+
+Q_SIGNALS:
+    /// Comes once. \a detail is what the program itself said last, one line of plain text, or empty.
+    void finished(TQFoundation::Sendmail::Outcome outcome, const QString &detail);
+
+private:
+    void finish(Outcome outcome);
+
+    QPointer<QProcess> m_process;
+    std::shared_ptr<RepeatingTimer> m_bound;
+    QByteArray m_said;
+    bool m_finished = false;
+};
+
+} // namespace TQFoundation

@@ -1,0 +1,187 @@
+#include "Languages.h"
+#include "RecordingPlatform.h"
+#include "Scenes.h"
+
+#include <TQFoundation/TQMore.h>
+#include <TQFoundation/ViewController.h>
+
+#include <QtCore/qdir.h>
+#include <QtCore/qfile.h>
+#include <QtCore/qprocess.h>
+#include <QtCore/qtemporarydir.h>
+#include <QtQuick/qquickwindow.h>
+
+#include <gtest/gtest.h>
+
+namespace TQFoundation {
+namespace {
+
+using Result = ViewController::MailComposeResult;
+
+const QString message = QStringLiteral("<p>Hello</p>");
+
+class FeedbackEmail : public testing::Test
+{
+protected:
+    FeedbackEmail()
+    {
+        platform->scenes = Testing::keyScene(&window);
+        platform->infoDictionary = {{QStringLiteral("CFBundleDisplayName"), QStringLiteral("Hazel Grid")},
+                                    {QStringLiteral("CFBundleShortVersionString"), QStringLiteral("2.3.1")},
+                                    {QStringLiteral("CFBundleVersion"), QStringLiteral("57")}};
+    }
+
+    QString subject()
+    {
+        platform->calls.clear();
+        TQMore::sendFeedbackEmail(std::nullopt, message);
+        ViewController::rootOf(&window)->dismiss();
+        return platform->calls.filter(QStringLiteral("setSubject")).value(0);
+    }
+
+    Testing::InstalledRecordingPlatform platform;
+    QQuickWindow window;
+};
+
+TEST_F(FeedbackEmail, IsMadeInAFixedOrderOfSteps)
+{
+    TQMore::sendFeedbackEmail(Color::systemRed(), message);
+    EXPECT_EQ(
+        platform->calls,
+        (QStringList{QStringLiteral("infoDictionaryValue(CFBundleDisplayName)"),
+                     QStringLiteral("infoDictionaryValue(CFBundleShortVersionString)"),
+                     QStringLiteral("infoDictionaryValue(CFBundleVersion)"), QStringLiteral("makeMailComposer()"),
+                     QStringLiteral("connectedScenes()"), QStringLiteral("composer.setMailComposeDelegate(controller)"),
+                     QStringLiteral("composer.setNavigationBarTintColor(#ffff3b30 #ffff453a)"),
+                     QStringLiteral("composer.setToRecipients(support@tqstudio.example)"),
+                     QStringLiteral("composer.setSubject(Contact: Hazel Grid 2.3.1(57))"),
+                     QStringLiteral("composer.setMessageBody(<p>Hello</p>, html)"), QStringLiteral("canSendMail()"),
+                     QStringLiteral("connectedScenes()"), QStringLiteral("composer.appear()")}));
+    EXPECT_EQ(TQMore::topViewController(), platform->mailComposer.lock());
+}
+
+TEST_F(FeedbackEmail, TheDelegateIsTheControllerThatWasOnTop)
+{
+    TQMore::sendFeedbackEmail(std::nullopt, message);
+    EXPECT_EQ(platform->mailComposer.lock()->delegate.lock(), ViewController::rootOf(&window));
+}
+
+TEST_F(FeedbackEmail, WithoutATintTheComposerKeepsTheSystems)
+{
+    TQMore::sendFeedbackEmail(std::nullopt, message);
+    EXPECT_TRUE(platform->calls.filter(QStringLiteral("Tint")).isEmpty());
+    EXPECT_TRUE(platform->calls.contains(QStringLiteral("composer.appear()")));
+}
+
+TEST_F(FeedbackEmail, AMessageWithPlainLineBreaksIsPassedOnUnchangedAsHtml)
+{
+    TQMore::sendFeedbackEmail(std::nullopt, QStringLiteral("one\ntwo\r\n\r\n<three"));
+    EXPECT_TRUE(platform->calls.contains(QStringLiteral("composer.setMessageBody(one\ntwo\r\n\r\n<three, html)")));
+}
+
+TEST_F(FeedbackEmail, TheSubjectIsBuiltAtEachCall)
+{
+    EXPECT_EQ(subject(), QStringLiteral("composer.setSubject(Contact: Hazel Grid 2.3.1(57))"));
+    platform->infoDictionary.insert(QStringLiteral("CFBundleVersion"), QStringLiteral("58"));
+    EXPECT_EQ(subject(), QStringLiteral("composer.setSubject(Contact: Hazel Grid 2.3.1(58))"));
+    platform->infoDictionary.clear();
+    EXPECT_EQ(subject(), QStringLiteral("composer.setSubject(Contact:  ())"));
+}
+
+TEST_F(FeedbackEmail, TheSubjectBeginsInTheUsersLanguage)
+{
+    Testing::useLanguage("zh-CN");
+    EXPECT_EQ(subject(), QStringLiteral("composer.setSubject(联系： Hazel Grid 2.3.1(57))"));
+    platform->root = Testing::emptyBundle();
+    EXPECT_EQ(subject(), QStringLiteral("composer.setSubject(Contact: Hazel Grid 2.3.1(57))"));
+}
+
+TEST_F(FeedbackEmail, WithoutATopViewControllerThereIsNoDelegateAndNothingIsShown)
+{
+    platform->scenes.clear();
+    TQMore::sendFeedbackEmail(std::nullopt, message);
+    EXPECT_TRUE(platform->calls.contains(QStringLiteral("composer.setMailComposeDelegate(null)")));
+    EXPECT_EQ(platform->calls.mid(platform->calls.indexOf(QStringLiteral("canSendMail()"))),
+              (QStringList{QStringLiteral("canSendMail()"), QStringLiteral("connectedScenes()")}));
+    EXPECT_TRUE(platform->mailComposer.expired());
+}
+
+TEST_F(FeedbackEmail, WhereMailCannotBeSentTheSystemOpensTheContactPage)
+{
+    platform->mailCanBeSent = false;
+    TQMore::sendFeedbackEmail(Color::systemRed(), message);
+    EXPECT_EQ(
+        platform->calls.mid(platform->calls.indexOf(QStringLiteral("canSendMail()"))),
+        (QStringList{QStringLiteral("canSendMail()"), QStringLiteral("openUrl(https://tqstudio.example/contact-en)")}));
+    EXPECT_TRUE(platform->mailComposer.expired());
+}
+
+TEST_F(FeedbackEmail, WhereMailCannotBeSentTheTopViewControllerIsReadOnce)
+{
+    platform->mailCanBeSent = false;
+    TQMore::sendFeedbackEmail(std::nullopt, message);
+    EXPECT_EQ(platform->calls.count(QStringLiteral("connectedScenes()")), 1);
+}
+
+// A library's bundle whose English table leads the contact page to a text that is no URL.
+TEST_F(FeedbackEmail, WhereThePageIsTranslatedIntoNoUrlNothingHappens)
+{
+    const QTemporaryDir bundle;
+    ASSERT_TRUE(QDir(bundle.path()).mkdir(QStringLiteral("Translations")));
+    const QString table = bundle.filePath(QStringLiteral("Translations/TQFoundation_en"));
+    QFile source(table + u".ts");
+    ASSERT_TRUE(source.open(QIODevice::WriteOnly));
+    source.write("<TS version=\"2.1\" language=\"en\"><context><name>TQFoundation</name><message>"
+                 "<source>https://tqstudio.example/contact-en</source><translation>not a URL</translation>"
+                 "</message></context></TS>");
+    source.close();
+    ASSERT_EQ(QProcess::execute(QStringLiteral(LRELEASE), {QStringLiteral("-silent"), table + u".ts"}), 0);
+    Testing::useLanguage("en-US");
+    platform->root = bundle.path();
+    platform->mailCanBeSent = false;
+    TQMore::sendFeedbackEmail(std::nullopt, message);
+    EXPECT_EQ(TQMore::feedbackUrl(), QStringLiteral("not a URL"));
+    EXPECT_EQ(platform->calls.last(), QStringLiteral("canSendMail()"));
+}
+
+TEST_F(FeedbackEmail, WhateverTheResultTheDelegateDismissesTheComposer)
+{
+    for (const Result result : {Result::cancelled, Result::saved, Result::sent, Result::failed}) {
+        TQMore::sendFeedbackEmail(std::nullopt, message);
+        const auto composer = platform->mailComposer.lock();
+        composer->delegate.lock()->mailComposeController(composer.get(), result, QStringLiteral("words"));
+        EXPECT_EQ(platform->calls.last(), QStringLiteral("composer.disappear()"));
+        EXPECT_EQ(TQMore::topViewController(), ViewController::rootOf(&window));
+    }
+}
+
+TEST_F(FeedbackEmail, ADelegateDismissesAComposerThatAnotherControllerPresents)
+{
+    const auto presenter = std::make_shared<ViewController>();
+    const auto delegate = std::make_shared<ViewController>();
+    const auto composer = platform->makeMailComposer();
+    presenter->present(composer);
+    delegate->mailComposeController(composer.get(), Result::cancelled, {});
+    EXPECT_EQ(presenter->presentedViewController(), nullptr);
+    EXPECT_EQ(platform->calls.last(), QStringLiteral("composer.disappear()"));
+}
+
+TEST_F(FeedbackEmail, ADelegateThatIsGivenNoComposerDoesNothing)
+{
+    ViewController().mailComposeController(nullptr, Result::sent, {});
+    EXPECT_EQ(platform->calls, QStringList());
+}
+
+TEST_F(FeedbackEmail, EveryControllerCanBeToldThroughItsMetaObject)
+{
+    TQMore::sendFeedbackEmail(std::nullopt, message);
+    const auto composer = platform->mailComposer.lock();
+    ViewController other;
+    EXPECT_TRUE(QMetaObject::invokeMethod(
+        &other, "mailComposeController", Q_ARG(TQFoundation::MailComposer *, composer.get()),
+        Q_ARG(TQFoundation::ViewController::MailComposeResult, Result::sent), Q_ARG(QString, QString())));
+    EXPECT_EQ(platform->calls.last(), QStringLiteral("composer.disappear()"));
+}
+
+} // namespace
+} // namespace TQFoundation

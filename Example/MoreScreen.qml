@@ -91,9 +91,9 @@ FocusScope {
                     text: TQMore.privacyText
                     link: TQMore.privacyUrl
                 }
-                LinkRow {
+                Entry {
                     text: TQMore.feedbackText
-                    link: TQMore.feedbackUrl
+                    onClicked: TQMore.sendFeedbackEmail(root.app.tintColor, "")
                 }
                 LinkRow {
                     text: TQMore.reviewText
@@ -157,11 +157,14 @@ FocusScope {
         }
     }
 
-    component LinkRow: MoreRow {
+    component Entry: MoreRow {
+        width: parent ? parent.width : implicitWidth
+        onActiveFocusChanged: if (activeFocus) page.reveal(this)
+    }
+
+    component LinkRow: Entry {
         required property string link
 
-        width: parent ? parent.width : implicitWidth
-        onClicked: Qt.openUrlExternally(link)
-        onActiveFocusChanged: if (activeFocus) page.reveal(this)
+        onClicked: TQMore.openUrl(link, root.app.tintColor)
     }
 }

@@ -1,14 +1,19 @@
 // Grove is a host app of the catalogue: it says which app it is and shows that app's guide and More screen.
 
 #include <TQFoundation/DesktopPlatform.h>
+#include <TQFoundation/InAppBrowser.h>
 #include <TQFoundation/TQApp.h>
 #include <TQFoundation/TQGuideView.h>
+#include <TQFoundation/TQMore.h>
+#include <TQFoundation/ViewController.h>
 
 #include <QtCore/qcommandlineparser.h>
 #include <QtCore/qdir.h>
+#include <QtCore/qeventloop.h>
 #include <QtCore/qlocale.h>
 #include <QtCore/qmetaobject.h>
 #include <QtCore/qtextstream.h>
+#include <QtCore/qtimer.h>
 #include <QtCore/qtranslator.h>
 #include <QtGui/qguiapplication.h>
 #include <QtGui/qpalette.h>
@@ -34,6 +39,8 @@ struct Options
     QSize size{390, 844};
     bool resetGuide = false;
     bool backgroundOnly = false;
+    bool compose = false;
+    QString openBrowser; // the address of a page; empty for none
     QString shots; // the folder for pictures; empty for a window
 };
 
@@ -51,7 +58,8 @@ private:
     std::optional<QString> m_storefront;
 };
 
-/// For pictures: every time is the first launch, nothing is stored, and the background stands still.
+/// For pictures: every time is the first launch, nothing is stored, no other program is started, and the background
+/// stands still.
 class PicturePlatform final : public GrovePlatform
 {
 public:
@@ -59,6 +67,8 @@ public:
 
     QVariant userDefault(const QString &) const override { return {}; }
     void setUserDefault(const QString &, const QVariant &) override {}
+    void openUrl(const QUrl &) override {}
+    bool canSendMail() const override { return true; }
     double mediaTime() const override { return now; }
 
     std::atomic<double> now = 0;
@@ -100,11 +110,14 @@ Options parseOptions(const QStringList &arguments)
                                         QStringLiteral("Show the app's guide again, as on the first launch."));
     const QCommandLineOption backgroundOnly(QStringLiteral("background-only"),
                                             QStringLiteral("Show the animated background and nothing else."));
+    const QCommandLineOption compose(QStringLiteral("compose"), QStringLiteral("Begin a mail to the developer."));
+    const QCommandLineOption openBrowser(QStringLiteral("open-browser"),
+                                         QStringLiteral("Show a page in the in-app browser."), QStringLiteral("URL"));
     const QCommandLineOption shots(QStringLiteral("shots"),
                                    QStringLiteral("Walk through the screens off-screen and write pictures."),
                                    QStringLiteral("folder"));
     QCommandLineParser parser;
-    parser.addOptions({app, storefront, language, dark, size, resetGuide, backgroundOnly, shots});
+    parser.addOptions({app, storefront, language, dark, size, resetGuide, backgroundOnly, compose, openBrowser, shots});
     const QCommandLineOption help = parser.addHelpOption();
     if (!parser.parse(arguments))
         refuse(parser.errorText());
@@ -128,6 +141,10 @@ Options parseOptions(const QStringList &arguments)
     options.dark = parser.isSet(dark);
     options.resetGuide = parser.isSet(resetGuide);
     options.backgroundOnly = parser.isSet(backgroundOnly);
+    options.compose = parser.isSet(compose);
+    options.openBrowser = parser.value(openBrowser);
+    if (parser.isSet(openBrowser) && !QUrl(options.openBrowser, QUrl::StrictMode).isValid())
+        refuse(QStringLiteral("'%1' is no URL").arg(options.openBrowser));
     options.shots = parser.value(shots);
     if (parser.isSet(shots) && options.shots.isEmpty())
         refuse(QStringLiteral("--shots needs a folder"));
@@ -183,35 +200,56 @@ bool writePicture(QQuickWindow *window, const QString &folder, const QString &na
     return true;
 }
 
+// What the rows Contact and, for any page, the filing do.
+void showSheet(const Options &options)
+{
+    if (options.compose)
+        TQMore::sendFeedbackEmail(options.app.tintColor(), {});
+    const auto top = TQMore::topViewController();
+    if (options.openBrowser.isEmpty() || !top)
+        return;
+    const auto browser = platform().makeInAppBrowser(QUrl(options.openBrowser, QUrl::StrictMode));
+    browser->setPreferredControlTintColor(options.app.tintColor());
+    top->present(browser);
+}
+
 // Shows the guide, where the app has one, and each screen without animation, and writes what the window then holds.
-bool takePictures(QQuickWindow *window, const QString &folder)
+bool takePictures(QQuickWindow *window, const Options &options)
 {
     QStringList screens{QStringLiteral("home"), QStringLiteral("more")};
     if (guideIn(*window))
         screens.prepend(QStringLiteral("guide"));
+    if (options.compose || !options.openBrowser.isEmpty())
+        screens.append(QStringLiteral("sheet"));
     for (const QString &screen : std::as_const(screens)) {
         QQuickItem *guide = guideIn(*window);
         if (screen == u"guide") {
             while (guide->opacity() < 1)
                 QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        } else if (screen == u"sheet") {
+            // Until it has slid in and what it shows is there.
+            showSheet(options);
+            QEventLoop shown;
+            QTimer::singleShot(options.compose ? 500 : 3000, &shown, &QEventLoop::quit);
+            shown.exec();
         } else {
             if (guide)
                 guide->setParentItem(nullptr);
             window->setProperty("screenName", screen);
         }
-        if (!writePicture(window, folder, screen))
+        if (!writePicture(window, options.shots, screen))
             return false;
     }
     return true;
 }
 
 // The background alone as it fades in, half drawn, complete, and fading out.
-bool takeBackgroundPictures(QQuickWindow *window, const QString &folder)
+bool takeBackgroundPictures(QQuickWindow *window, const Options &options)
 {
     for (const double seconds : {0.5, 4.5, 9.1, 9.9}) {
         static_cast<PicturePlatform &>(platform()).now = seconds;
         window->update();
-        if (!writePicture(window, folder, QStringLiteral("background-%1").arg(seconds)))
+        if (!writePicture(window, options.shots, QStringLiteral("background-%1").arg(seconds)))
             return false;
     }
     return true;
@@ -277,7 +315,15 @@ int main(int argc, char *argv[])
         return 1;
     if (!options.shots.isEmpty()) {
         const auto take = options.backgroundOnly ? takeBackgroundPictures : takePictures;
-        return take(window, options.shots) ? 0 : 1;
+        return take(window, options) ? 0 : 1;
+    }
+    if (options.compose || !options.openBrowser.isEmpty()) {
+        // Sheets are shown on the window that has the keyboard.
+        window->setProperty("screenName", QStringLiteral("more"));
+        QObject::connect(
+            window, &QWindow::activeChanged, window, [&options] { showSheet(options); },
+            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+        window->requestActivate();
     }
     return QGuiApplication::exec();
 }

@@ -61,6 +61,8 @@ Sheet {
                 id: close
 
                 anchors { left: parent.left; leftMargin: 6; verticalCenter: parent.verticalCenter }
+                horizontalPadding: 0
+                verticalPadding: 0
                 text: root.page.closeText
                 tint: root.tint
                 pressedGround: root.pressed
@@ -85,6 +87,8 @@ Sheet {
                 id: back
 
                 anchors { left: close.right; verticalCenter: parent.verticalCenter }
+                horizontalPadding: 0
+                verticalPadding: 0
                 text: root.page.backText
                 tint: root.tint
                 pressedGround: root.pressed
@@ -96,17 +100,17 @@ Sheet {
                     rotation: root.rightToLeft ? 180 : 0
 
                     Stroke {
-                        x: 13
+                        x: 16
                         y: 21
-                        length: 14
+                        length: 13
                         transformOrigin: Item.Left
                         rotation: 45
                     }
 
                     Stroke {
-                        x: 13
+                        x: 16
                         y: 21
-                        length: 14
+                        length: 13
                         transformOrigin: Item.Left
                         rotation: -45
                     }
@@ -116,7 +120,7 @@ Sheet {
             Text {
                 id: site
 
-                anchors { left: back.right; right: reload.left; verticalCenter: parent.verticalCenter }
+                anchors { left: parent.left; right: parent.right; margins: 2 * close.width + 6; verticalCenter: parent.verticalCenter }
                 text: root.page.siteOf(web.url)
                 textFormat: Text.PlainText
                 horizontalAlignment: Text.AlignHCenter
@@ -132,6 +136,8 @@ Sheet {
                 id: reload
 
                 anchors { right: parent.right; rightMargin: 6; verticalCenter: parent.verticalCenter }
+                horizontalPadding: 0
+                verticalPadding: 0
                 text: root.page.reloadText
                 tint: root.tint
                 pressedGround: root.pressed
@@ -161,6 +167,7 @@ Sheet {
                         x: 19
                         y: 13
                         length: 7
+                        transformOrigin: Item.Right
                         rotation: 45
                     }
 
@@ -168,6 +175,7 @@ Sheet {
                         x: 19
                         y: 13
                         length: 7
+                        transformOrigin: Item.Right
                         rotation: -45
                     }
                 }

@@ -224,7 +224,8 @@ Sheet {
 
                         width: parent.width
                         implicitHeight: contentHeight + topPadding + bottomPadding
-                        verticalPadding: subjectLine.room
+                        topPadding: subjectLine.room
+                        bottomPadding: subjectLine.room
                         text: root.page.subject
                         font.pixelSize: root.textSize
                         color: root.ink
@@ -250,6 +251,7 @@ Sheet {
                         height: Math.max(contentHeight + topPadding + bottomPadding, scroller.height - parent.y)
                         padding: root.gap
                         topPadding: root.gap * 0.75
+                        bottomPadding: root.gap + (more.visible ? more.height + root.gap : 0)
                         textFormat: TextEdit.RichText
                         wrapMode: TextEdit.Wrap
                         font.pixelSize: root.textSize
@@ -269,6 +271,21 @@ Sheet {
                         onCursorRectangleChanged: if (activeFocus) scroller.reveal(message, cursorRectangle)
                         Component.onCompleted: root.page.fill(textDocument)
                         Accessible.name: root.page.messageText
+
+                        Text {
+                            id: more
+
+                            x: root.gap
+                            y: message.topPadding + message.contentHeight + root.gap
+                            width: parent.width - 2 * root.gap
+                            visible: root.page.isTooLarge
+                            text: root.page.tooLargeText
+                            textFormat: Text.PlainText
+                            wrapMode: Text.Wrap
+                            horizontalAlignment: Text.AlignLeft
+                            font.pixelSize: Math.round(root.textSize * 0.85)
+                            color: root.quietInk
+                        }
 
                         // Would paste what the user has selected elsewhere, with its images and styles.
                         MouseArea {

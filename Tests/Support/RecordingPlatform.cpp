@@ -230,6 +230,8 @@ bool RecordingPlatform::canSendMail() const
 std::shared_ptr<MailComposer> RecordingPlatform::makeMailComposer()
 {
     record(QStringLiteral("makeMailComposer()"));
+    if (sheets)
+        return sheets->makeMailComposer();
     const auto made = std::make_shared<RecordingMailComposer>(*this);
     mailComposer = made;
     return made;
@@ -238,6 +240,8 @@ std::shared_ptr<MailComposer> RecordingPlatform::makeMailComposer()
 std::shared_ptr<InAppBrowser> RecordingPlatform::makeInAppBrowser(const QUrl &url)
 {
     record(u"makeInAppBrowser(" + url.toString(QUrl::FullyEncoded) + u')');
+    if (sheets)
+        return sheets->makeInAppBrowser(url);
     const auto made = std::make_shared<RecordingInAppBrowser>(*this);
     inAppBrowser = made;
     return made;

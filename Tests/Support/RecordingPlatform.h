@@ -76,6 +76,9 @@ public:
 
     bool mailCanBeSent = true;
 
+    /// Makes the composers and browsers where it is set, and they are shown. Not owned.
+    Platform *sheets = nullptr;
+
     /// What was made last, for as long as it lives.
     std::weak_ptr<RecordingMailComposer> mailComposer;
     std::weak_ptr<RecordingInAppBrowser> inAppBrowser;

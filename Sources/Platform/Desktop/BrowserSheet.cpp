@@ -44,7 +44,7 @@ bool canShowPages()
 
 QString words(const char *key)
 {
-    return libraryBundle().interfaceString(QLatin1String(key));
+    return libraryBundle().interfaceString(QString::fromUtf8(key));
 }
 
 } // namespace
@@ -62,7 +62,7 @@ QString BrowserPage::problemText() const
     case Unreachable:
         //: Stands in place of a web page.
         return words(QT_TRANSLATE_NOOP("TQFoundationInterface",
-                                       "This page cannot be reached. Check your connection and try again."));
+                                       "This page could not be loaded. Check your connection and try again."));
     case Insecure:
         //: Stands in place of a web page whose certificate is not valid.
         return words(QT_TRANSLATE_NOOP("TQFoundationInterface",

@@ -75,7 +75,7 @@ bool isColored(const QTextDocument &document)
 
 QString words(const char *key)
 {
-    return libraryBundle().interfaceString(QLatin1String(key));
+    return libraryBundle().interfaceString(QString::fromUtf8(key));
 }
 
 QString problemOf(Sendmail::Outcome outcome)
@@ -101,8 +101,8 @@ QString problemOf(Sendmail::Outcome outcome)
         return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Your message could not be sent."));
     case Sendmail::Outcome::crashed:
         //: Why a mail was not sent.
-        return words(
-            QT_TRANSLATE_NOOP("TQFoundationInterface", "The mail program stopped before your message was sent."));
+        return words(QT_TRANSLATE_NOOP("TQFoundationInterface",
+                                       "The mail program stopped unexpectedly. Your message may not have been sent."));
     case Sendmail::Outcome::unanswered:
         //: The user has to know that a further attempt could send the mail twice.
         return words(QT_TRANSLATE_NOOP(
@@ -124,10 +124,19 @@ void MailDraft::setSubject(const QString &subject)
     Q_EMIT subjectChanged();
 }
 
+bool MailDraft::isTooLarge() const
+{
+    // Laying out takes time with the square of a paragraph's length and of the depth of nesting, and doubles with every
+    // table in a table.
+    return html.size() > 20000 || html.count(u'<') > 1000
+        || html.count(QStringLiteral("<table"), Qt::CaseInsensitive) > 8;
+}
+
 void MailDraft::fill(QQuickTextDocument *editor)
 {
     SecludedDocument given;
-    given.setHtml(html);
+    if (!isTooLarge())
+        given.setHtml(html);
     m_hasColors = isColored(given);
     changeFormats(given, [](QTextCharFormat &format) {
         if (format.isImageFormat()) {
@@ -214,7 +223,7 @@ QString MailDraft::message() const
         format.clearProperty(ownName);
         return true;
     });
-    return copy->toHtml();
+    return isTooLarge() ? QString(copy->toHtml() + html) : copy->toHtml();
 }
 
 void MailDraft::heardBack(Sendmail::Outcome outcome, const QString &detail)
@@ -281,6 +290,13 @@ QString MailDraft::messageText()
 {
     //: What a screen reader calls the field in which the text of a mail is written.
     return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Message"));
+}
+
+QString MailDraft::tooLargeText()
+{
+    //: Stands below what the user writes in a mail.
+    return words(QT_TRANSLATE_NOOP("TQFoundationInterface",
+                                   "More text, which is too long to be shown here, is sent along below yours."));
 }
 
 QString MailDraft::discardQuestion()

@@ -22,6 +22,7 @@ class MailDraft : public QObject
     Q_PROPERTY(QString recipient READ recipientText CONSTANT FINAL)
     Q_PROPERTY(QString subject READ subject WRITE setSubject NOTIFY subjectChanged FINAL)
     Q_PROPERTY(bool hasColors READ hasColors NOTIFY filled FINAL)
+    Q_PROPERTY(bool isTooLarge READ isTooLarge CONSTANT FINAL)
     Q_PROPERTY(bool isSending READ isSending NOTIFY stateChanged FINAL)
     Q_PROPERTY(QString problem READ problem NOTIFY stateChanged FINAL)
     Q_PROPERTY(QString problemDetail READ problemDetail NOTIFY stateChanged FINAL)
@@ -33,6 +34,7 @@ class MailDraft : public QObject
     Q_PROPERTY(QString toText READ toText CONSTANT FINAL)
     Q_PROPERTY(QString subjectText READ subjectText CONSTANT FINAL)
     Q_PROPERTY(QString messageText READ messageText CONSTANT FINAL)
+    Q_PROPERTY(QString tooLargeText READ tooLargeText CONSTANT FINAL)
     Q_PROPERTY(QString discardQuestion READ discardQuestion CONSTANT FINAL)
     Q_PROPERTY(QString discardText READ discardText CONSTANT FINAL)
     Q_PROPERTY(QString keepText READ keepText CONSTANT FINAL)
@@ -54,6 +56,10 @@ public:
 
     /// Whether the message says itself what it is painted in, so that its ground has to be white.
     bool hasColors() const { return m_hasColors; }
+
+    /// Whether the message would take the editor too long to lay out. It is not shown then, and what the user writes
+    /// goes before it.
+    bool isTooLarge() const;
 
     bool isSending() const { return m_sending; }
 
@@ -88,6 +94,7 @@ public:
     static QString toText();
     static QString subjectText();
     static QString messageText();
+    static QString tooLargeText();
     static QString discardQuestion();
     static QString discardText();
     static QString keepText();

@@ -1,0 +1,574 @@
+#include "Languages.h"
+#include "SheetHost.h"
+
+#include <QtCore/qmimedata.h>
+#include <QtGui/qaccessible.h>
+#include <QtGui/qclipboard.h>
+#include <QtGui/qguiapplication.h>
+#include <QtGui/qpalette.h>
+#include <QtGui/qtextobject.h>
+#include <QtNetwork/qtcpserver.h>
+#include <QtQuick/qquicktextdocument.h>
+
+#include <sys/stat.h>
+
+namespace TQFoundation {
+namespace {
+
+using Result = ViewController::MailComposeResult;
+
+class MailSheet : public Testing::SheetHost
+{
+protected:
+    // Makes the program what the shell does.
+    void makeProgram(const QByteArray &script)
+    {
+        QFile file(programs.filePath(QStringLiteral("sendmail")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("#!/bin/sh\n" + script + '\n');
+        file.close();
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    // Makes it one that keeps what it is given.
+    void makeKeepingProgram()
+    {
+        makeProgram("echo \"$@\" > '" + path("arguments") + "'; cat > '" + path("mail") + "'");
+    }
+
+    QByteArray path(const char *name) const { return programs.filePath(QLatin1String(name)).toLocal8Bit(); }
+
+    QByteArray kept(const char *name) const
+    {
+        QFile file(programs.filePath(QLatin1String(name)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QByteArray sentHeader(const QByteArray &name) const
+    {
+        for (const QByteArray &line : kept("mail").split('\n')) {
+            if (line.startsWith(QByteArray(name + ": ")))
+                return line.mid(name.size() + 2);
+        }
+        return {};
+    }
+
+    QString sentHtml() const
+    {
+        const QByteArray mail = kept("mail");
+        return QString::fromUtf8(QByteArray::fromBase64(mail.mid(mail.indexOf("\n\n") + 2)));
+    }
+
+    void compose(const QString &html = {})
+    {
+        TQMore::sendFeedbackEmail(Color::systemRed(), html);
+        slide();
+    }
+
+    QQuickItem *subject() const { return itemOf("QQuickTextField"); }
+    QQuickItem *message() const { return itemOf("QQuickTextArea"); }
+
+    void type(QQuickItem *field, const char *text)
+    {
+        field->forceActiveFocus();
+        for (const char *letter = text; *letter; ++letter)
+            QTest::keyClick(static_cast<QWindow *>(window.get()), *letter);
+        settle();
+    }
+
+    bool sendAndWait()
+    {
+        click(button("Send"));
+        return comes([this] { return !isShown() || isProblemShown(); });
+    }
+
+    bool isProblemShown() const { return button("Try Again"); }
+
+    QTextDocument *document() const
+    {
+        return message()->property("textDocument").value<QQuickTextDocument *>()->textDocument();
+    }
+};
+
+TEST_F(MailSheet, ShowsTheRecipientTheSubjectAndTheMessage)
+{
+    compose(QStringLiteral("<b>Hello</b> world"));
+    EXPECT_TRUE(text("New Message"));
+    EXPECT_TRUE(text("support@tqstudio.example"));
+    EXPECT_EQ(subject()->property("text").toString(), QStringLiteral("Contact: Hazel Grid 2.3.1(57)"));
+    EXPECT_EQ(document()->toPlainText(), QStringLiteral("Hello world"));
+    EXPECT_TRUE(message()->hasActiveFocus());
+}
+
+TEST_F(MailSheet, SlidesUpFromTheBottomAndLeavesNothingBehind)
+{
+    TQMore::sendFeedbackEmail(std::nullopt, {});
+    EXPECT_GE(button("Send")->mapToScene({}).y(), window->height());
+    slide();
+    EXPECT_LT(button("Send")->mapToScene({}).y(), 60);
+    const QPointer<QQuickItem> content = button("Send");
+    click(button("Cancel"));
+    clock.pass(100);
+    EXPECT_TRUE(content && content->isVisible()) << "still on its way";
+    slide();
+    EXPECT_FALSE(content);
+    EXPECT_FALSE(isShown());
+}
+
+TEST_F(MailSheet, WhatIsNotEditedIsSentAsItWasGiven)
+{
+    makeKeepingProgram();
+    const QString html =
+        QStringLiteral("<STYLE>p{}</STYLE>one\ntwo\r\n <!-- kept --> 中文 🌲 &nbsp;<p>un</b>closed") + QChar(0);
+    compose(html);
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_EQ(sentHtml(), html);
+    EXPECT_EQ(sentHeader("Subject"), "Contact: Hazel Grid 2.3.1(57)");
+    EXPECT_EQ(root->results, QList{Result::sent});
+    EXPECT_EQ(root->errors, QStringList{QString()});
+}
+
+TEST_F(MailSheet, TheProgramReadsTheRecipientFromTheMailAndNoDotEndsIt)
+{
+    makeKeepingProgram();
+    compose();
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_EQ(kept("arguments"), "-t -i\n");
+    EXPECT_EQ(sentHeader("To"), "support@tqstudio.example");
+}
+
+TEST_F(MailSheet, TheSenderIsTheOneThatTheEnvironmentNames)
+{
+    makeKeepingProgram();
+    qputenv("EMAIL", "me@home.example");
+    compose();
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_EQ(sentHeader("From"), "me@home.example");
+}
+
+TEST_F(MailSheet, ASenderThatIsNoAddressIsTheUserAtThisMachine)
+{
+    makeKeepingProgram();
+    qputenv("EMAIL", "me@home.example\nBcc: eve@evil.example");
+    qputenv("LOGNAME", "me");
+    compose();
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_TRUE(sentHeader("From").startsWith("me@")) << sentHeader("From").toStdString();
+    EXPECT_FALSE(kept("mail").contains("Bcc"));
+}
+
+TEST_F(MailSheet, TheMailSaysWhenItWasWritten)
+{
+    makeKeepingProgram();
+    compose();
+    ASSERT_TRUE(sendAndWait());
+    const QDateTime date = QDateTime::fromString(QString::fromLatin1(sentHeader("Date")), Qt::RFC2822Date);
+    EXPECT_LT(std::abs(date.secsTo(QDateTime::currentDateTime())), 60);
+}
+
+TEST_F(MailSheet, WhatTheUserWritesIsSent)
+{
+    makeKeepingProgram();
+    compose(QStringLiteral("<b>Hello</b>"));
+    type(subject(), "X");
+    type(message(), "Dear developer ");
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_TRUE(sentHtml().contains(QStringLiteral("Dear developer"))) << sentHtml().toStdString();
+    EXPECT_TRUE(sentHtml().contains(QStringLiteral("Hello")));
+    EXPECT_TRUE(sentHeader("Subject").contains("X"));
+}
+
+TEST_F(MailSheet, AMailIsOnItsWayVisiblyAndWithoutBlocking)
+{
+    ASSERT_EQ(mkfifo(path("gate").constData(), 0600), 0);
+    makeProgram("cat > '" + path("mail") + "'; cat '" + path("gate") + "'");
+    compose(QStringLiteral("text"));
+    click(button("Send"));
+    EXPECT_TRUE(text("Sending…"));
+    EXPECT_FALSE(button("Cancel")->isEnabled());
+    EXPECT_FALSE(button("Send")->isEnabled());
+    EXPECT_TRUE(message()->property("readOnly").toBool());
+    QTest::keyClick(static_cast<QWindow *>(window.get()), Qt::Key_Escape);
+    EXPECT_TRUE(isShown());
+    QFile gate(programs.filePath(QStringLiteral("gate")));
+    ASSERT_TRUE(gate.open(QIODevice::WriteOnly));
+    gate.close();
+    ASSERT_TRUE(comes([this] { return !isShown(); }));
+    EXPECT_EQ(root->results, QList{Result::sent});
+}
+
+TEST_F(MailSheet, CancelClosesAMailThatIsNotEditedAtOnce)
+{
+    compose(QStringLiteral("text"));
+    click(button("Cancel"));
+    EXPECT_FALSE(isShown());
+    EXPECT_EQ(root->results, QList{Result::cancelled});
+}
+
+TEST_F(MailSheet, EscapeAndTheBackKeyCancel)
+{
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Back}) {
+        compose();
+        QTest::keyClick(static_cast<QWindow *>(window.get()), key);
+        EXPECT_FALSE(isShown());
+        slide();
+    }
+    EXPECT_EQ(root->results, (QList{Result::cancelled, Result::cancelled}));
+}
+
+TEST_F(MailSheet, CancelAsksFirstWhereTheMessageIsEdited)
+{
+    compose();
+    type(message(), "text");
+    click(button("Cancel"));
+    EXPECT_TRUE(isShown());
+    click(button("Keep Writing"));
+    EXPECT_FALSE(button("Keep Writing"));
+    EXPECT_EQ(document()->toPlainText(), QStringLiteral("text"));
+    EXPECT_TRUE(message()->hasActiveFocus());
+    click(button("Cancel"));
+    ASSERT_TRUE(button("Discard"));
+    click(button("Discard"));
+    EXPECT_FALSE(isShown());
+    EXPECT_EQ(root->results, QList{Result::cancelled});
+}
+
+TEST_F(MailSheet, CancelAsksFirstWhereTheSubjectIsEdited)
+{
+    compose();
+    type(subject(), "x");
+    QTest::keyClick(static_cast<QWindow *>(window.get()), Qt::Key_Escape);
+    settle();
+    EXPECT_TRUE(button("Discard"));
+    QTest::keyClick(static_cast<QWindow *>(window.get()), Qt::Key_Escape);
+    settle();
+    EXPECT_FALSE(button("Discard")) << "Escape answers the question alone";
+    EXPECT_TRUE(isShown());
+    EXPECT_EQ(root->results, QList<Result>());
+}
+
+TEST_F(MailSheet, WithoutAProgramTheSheetSaysSoAndKeepsTheText)
+{
+    compose();
+    type(message(), "precious");
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_TRUE(text("There is no mail program on this device."));
+    EXPECT_EQ(document()->toPlainText(), QStringLiteral("precious"));
+    EXPECT_EQ(root->results, QList<Result>());
+    makeKeepingProgram();
+    click(button("Try Again"));
+    ASSERT_TRUE(comes([this] { return !isShown(); }));
+    EXPECT_TRUE(sentHtml().contains(QStringLiteral("precious")));
+    EXPECT_EQ(root->results, QList{Result::sent});
+}
+
+TEST_F(MailSheet, AProgramThatCannotBeStartedIsNone)
+{
+    makeProgram("");
+    QFile file(programs.filePath(QStringLiteral("sendmail")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("#!/no/such/shell\n");
+    file.close();
+    compose(QString(1000000, u'x'));
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_TRUE(text("There is no mail program on this device."));
+}
+
+TEST_F(MailSheet, SaysInWordsWhyTheProgramFailed)
+{
+    const std::pair<int, const char *> reasons[] = {
+        {64, "The mail program on this device is not set up."},
+        {78, "The mail program on this device is not set up."},
+        {68, "The mail server cannot be reached. Check your connection and try again."},
+        {75, "The mail server cannot be reached. Check your connection and try again."},
+        {67, "The mail server did not accept your message."},
+        {69, "The mail server did not accept your message."},
+        {1, "Your message could not be sent."},
+        {70, "Your message could not be sent."},
+    };
+    compose();
+    for (const auto &[code, words] : reasons) {
+        makeProgram("echo 'first' >&2; printf 'the \\033reason\\n' >&2; exit " + QByteArray::number(code));
+        click(button(isProblemShown() ? "Try Again" : "Send"));
+        ASSERT_TRUE(comes([this] { return isProblemShown() && !text("Sending…"); }));
+        EXPECT_TRUE(text(words)) << code;
+        EXPECT_TRUE(text("the  reason")) << "what the program said last, without control characters";
+    }
+}
+
+TEST_F(MailSheet, AProgramThatIsKilledIsSaidToHaveStopped)
+{
+    makeProgram("kill -9 $$");
+    compose();
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_TRUE(text("The mail program stopped unexpectedly. Your message may not have been sent."));
+}
+
+TEST_F(MailSheet, AProgramThatReadsNothingHarmsNobody)
+{
+    makeProgram("exit 0");
+    compose(QString(4000000, u'x'));
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_EQ(root->results, QList{Result::sent});
+}
+
+TEST_F(MailSheet, AfterThirtySecondsWithoutAnswerSaysThatTheMailMayHaveGone)
+{
+    makeProgram("exec sleep 1000");
+    compose();
+    click(button("Send"));
+    platform->advance(29.9);
+    settle();
+    EXPECT_FALSE(isProblemShown());
+    platform->advance(0.2);
+    ASSERT_TRUE(comes([this] { return isProblemShown(); }));
+    EXPECT_TRUE(text("There has been no answer for 30 seconds. Your message may already have been sent; if so, trying "
+                     "again sends it twice."));
+    EXPECT_TRUE(isShown());
+    makeKeepingProgram();
+    click(button("Try Again"));
+    ASSERT_TRUE(comes([this] { return !isShown(); }));
+    platform->advance(60);
+    EXPECT_EQ(root->results, QList{Result::sent});
+}
+
+TEST_F(MailSheet, GivenUpAfterAFailureItReportsTheFailure)
+{
+    makeProgram("exit 69");
+    compose();
+    ASSERT_TRUE(sendAndWait());
+    click(button("Cancel"));
+    EXPECT_EQ(root->results, QList{Result::failed});
+    EXPECT_EQ(root->errors, QStringList{QStringLiteral("The mail server did not accept your message.")});
+}
+
+TEST_F(MailSheet, TheDelegateIsToldOnce)
+{
+    makeKeepingProgram();
+    compose();
+    QQuickItem *const send = button("Send");
+    QQuickItem *const cancel = button("Cancel");
+    for (int press = 0; press < 3; ++press) {
+        QMetaObject::invokeMethod(send, "clicked");
+        QMetaObject::invokeMethod(cancel, "clicked");
+    }
+    ASSERT_TRUE(comes([this] { return !isShown(); }));
+    QMetaObject::invokeMethod(cancel, "clicked");
+    slide();
+    EXPECT_EQ(root->results, QList{Result::sent});
+}
+
+TEST_F(MailSheet, WithoutADelegateTheComposerDismissesItself)
+{
+    const auto composer = desktop.makeMailComposer();
+    TQMore::topViewController()->present(composer);
+    slide();
+    click(button("Cancel"));
+    EXPECT_FALSE(isShown());
+    EXPECT_EQ(root->results, QList<Result>());
+}
+
+TEST_F(MailSheet, WithoutRecipientOrWithSeveralNothingIsSent)
+{
+    makeKeepingProgram();
+    for (const QStringList &recipients :
+         {QStringList(), QStringList{QStringLiteral("a@b.example"), QStringLiteral("c@d.example")},
+          QStringList{QStringLiteral("a@b.example\nBcc: c@d.example")}}) {
+        const auto composer = desktop.makeMailComposer();
+        composer->setToRecipients(recipients);
+        TQMore::topViewController()->present(composer);
+        slide();
+        ASSERT_TRUE(sendAndWait());
+        EXPECT_TRUE(text("Your message could not be sent."));
+        EXPECT_EQ(kept("mail"), QByteArray());
+        click(button("Cancel"));
+        slide();
+    }
+}
+
+TEST_F(MailSheet, APlainMessageIsSentAsHtmlThatShowsTheSameText)
+{
+    makeKeepingProgram();
+    const auto composer = desktop.makeMailComposer();
+    composer->setToRecipients({QStringLiteral("a@b.example")});
+    composer->setMessageBody(QStringLiteral("1 < 2\n<b>"), false);
+    TQMore::topViewController()->present(composer);
+    slide();
+    EXPECT_EQ(document()->toPlainText(), QStringLiteral("1 < 2\n<b>"));
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_TRUE(sentHtml().contains(QStringLiteral("1 &lt; 2\n&lt;b&gt;")));
+}
+
+TEST_F(MailSheet, LoadsNothingThatTheMessageRefersTo)
+{
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    const QString remote = QStringLiteral("http://127.0.0.1:%1/").arg(server.serverPort());
+    QImage picture(300, 300, QImage::Format_RGB32);
+    ASSERT_TRUE(picture.save(programs.filePath(QStringLiteral("large.png"))));
+    QFile style(programs.filePath(QStringLiteral("large.css")));
+    ASSERT_TRUE(style.open(QIODevice::WriteOnly));
+    style.write("p { font-size: 200px }");
+    style.close();
+    const QString local = u"file://" + programs.path();
+    compose(u"<html><head><link rel=stylesheet href='" + remote + u"a.css'><link rel=stylesheet href='" + local
+            + u"/large.css'><style>@import url(" + local + u"/large.css)</style></head><body background='" + remote
+            + u"b.png'><p style=\"background-image: url('" + local + u"/large.png')\">text <img src='" + remote
+            + u"c.png'><img src='" + local + u"/large.png'><img src='" + programs.path()
+            + u"/large.png'><img src=':/qt-project.org/imports/TQFoundation/Icons/fir.png'></p></body></html>");
+    EXPECT_FALSE(server.waitForNewConnection(100));
+    EXPECT_LT(message()->property("contentHeight").toDouble(), 60);
+}
+
+TEST_F(MailSheet, AnEditedMessageKeepsTheImagesThatItRefersTo)
+{
+    makeKeepingProgram();
+    compose(QStringLiteral("<p>one <img src=\"https://tqstudio.example/a.png\" width=\"20\"> two</p>"));
+    type(message(), "zero ");
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_TRUE(sentHtml().contains(QStringLiteral("src=\"https://tqstudio.example/a.png\"")))
+        << sentHtml().toStdString();
+    EXPECT_FALSE(sentHtml().contains(QStringLiteral("no-image")));
+}
+
+TEST_F(MailSheet, PastingBringsTextAndNoImages)
+{
+    compose();
+    auto *rich = new QMimeData;
+    rich->setHtml(QStringLiteral("<b>bold</b><img src='file:///etc/hostname'>"));
+    rich->setText(QStringLiteral("bold"));
+    QGuiApplication::clipboard()->setMimeData(rich);
+    message()->forceActiveFocus();
+    QTest::keySequence(static_cast<QWindow *>(window.get()), QKeySequence::Paste);
+    settle();
+    EXPECT_EQ(document()->toPlainText(), QStringLiteral("bold"));
+    EXPECT_FALSE(document()->toHtml().contains(QStringLiteral("img")));
+    EXPECT_FALSE(message()->flags().testFlag(QQuickItem::ItemAcceptsDrops));
+    QTest::mouseClick(window.get(), Qt::MiddleButton, {}, message()->mapToScene({50, 50}).toPoint());
+    EXPECT_EQ(document()->toPlainText(), QStringLiteral("bold"));
+}
+
+TEST_F(MailSheet, AMessageWithColorsOfItsOwnLiesOnWhite)
+{
+    compose(QStringLiteral("<p style='color: #222'>dark</p>"));
+    EXPECT_EQ(message()->property("color").value<QColor>(), QColor(Qt::black));
+    EXPECT_EQ(message()->parentItem()->property("color").value<QColor>(), QColor(Qt::white));
+}
+
+TEST_F(MailSheet, LinksAreReadableTextThatLeadsNowhere)
+{
+    QGuiApplication::setPalette(QPalette(Qt::white, Qt::black, Qt::black, Qt::black, Qt::black, Qt::white, Qt::black));
+    compose(QStringLiteral("<a href='https://tqstudio.example'>link</a>"));
+    const QTextCharFormat format = document()->begin().begin().fragment().charFormat();
+    EXPECT_TRUE(format.isAnchor());
+    EXPECT_FALSE(format.hasProperty(QTextFormat::ForegroundBrush));
+    QTest::mouseClick(window.get(), Qt::LeftButton, {}, message()->mapToScene({30, 25}).toPoint());
+    EXPECT_TRUE(platform->calls.filter(QStringLiteral("openUrl")).isEmpty());
+}
+
+TEST_F(MailSheet, LiesOnTopOfWhatAHostPresentsByItself)
+{
+    QQuickItem view;
+    view.setSize({390, 844});
+    view.setAcceptedMouseButtons(Qt::AllButtons);
+    root->present(std::make_shared<ViewController>(&view));
+    TQMore::sendFeedbackEmail(std::nullopt, {});
+    slide();
+    click(button("Cancel"));
+    EXPECT_EQ(root->results.size(), 0);
+    EXPECT_FALSE(button("Cancel") && TQMore::topViewController() != root->presentedViewController());
+}
+
+TEST_F(MailSheet, WhatLiesBeneathIsOutOfReach)
+{
+    QQuickItem host(window->contentItem());
+    host.setSize({390, 844});
+    host.setFocus(true);
+    compose();
+    EXPECT_FALSE(host.hasActiveFocus());
+    for (int press = 0; press < 12; ++press) {
+        QTest::keyClick(static_cast<QWindow *>(window.get()), Qt::Key_Tab);
+        ASSERT_TRUE(window->activeFocusItem());
+        EXPECT_NE(window->activeFocusItem(), &host);
+    }
+}
+
+TEST_F(MailSheet, TheWholeSheetWorksByKeys)
+{
+    makeKeepingProgram();
+    compose();
+    for (int press = 0; press < 8 && !button("Send")->hasActiveFocus(); ++press)
+        QTest::keyClick(static_cast<QWindow *>(window.get()), Qt::Key_Tab);
+    EXPECT_TRUE(button("Send")->hasActiveFocus());
+    QTest::keyClick(static_cast<QWindow *>(window.get()), Qt::Key_Return);
+    ASSERT_TRUE(comes([this] { return !isShown(); }));
+    EXPECT_EQ(root->results, QList{Result::sent});
+}
+
+TEST_F(MailSheet, AWindowThatGoesTakesTheSheetAlong)
+{
+    compose();
+    const QPointer<QQuickItem> content = button("Send");
+    root.reset();
+    window.reset();
+    settle();
+    EXPECT_FALSE(content);
+}
+
+TEST_F(MailSheet, AMailThatIsOnItsWayGoesOnWhenTheWindowGoes)
+{
+    makeProgram("cat > '" + path("part") + "'; mv '" + path("part") + "' '" + path("mail") + "'");
+    const QString html(3000000, u'x');
+    compose(html);
+    click(button("Send"));
+    root.reset();
+    window.reset();
+    settle();
+    ASSERT_TRUE(comes([this] { return !kept("mail").isEmpty(); }));
+    EXPECT_EQ(sentHtml().size(), html.size());
+}
+
+TEST_F(MailSheet, FitsEveryWindowInEveryLanguage)
+{
+    const QSize sizes[] = {{320, 568}, {390, 844}, {1280, 800}, {240, 240}};
+    for (const QSize size : sizes) {
+        open(size);
+        makeProgram("echo said >&2; exit 75");
+        compose(QStringLiteral("text ").repeated(400));
+        ASSERT_TRUE(sendAndWait());
+        slide();
+        const QRectF all({0, 0}, QSizeF(size));
+        for (const char *name : {"Cancel", "Send"}) {
+            const QQuickItem *const target = button(name);
+            EXPECT_TRUE(all.contains(target->mapRectToScene(QRectF({0, 0}, target->size()))));
+            EXPECT_GE(target->width(), 44);
+            EXPECT_GE(target->height(), 44);
+        }
+        EXPECT_LE(message()->width(), 640);
+        EXPECT_GE(message()->height(), message()->property("contentHeight").toDouble());
+    }
+}
+
+TEST_F(MailSheet, IsMirroredForLanguagesThatAreReadFromTheRight)
+{
+    Testing::useLanguage("ar");
+    TQMore::sendFeedbackEmail(std::nullopt, {});
+    slide();
+    const QQuickItem *const field = subject();
+    ASSERT_TRUE(field);
+    EXPECT_LT(field->mapToScene({}).x(), 30);
+    EXPECT_LT(field->mapToScene({field->width(), 0}).x(), 380 - 30) << "its label is on the right";
+}
+
+TEST_F(MailSheet, AssistiveTechnologyHasANameForEverything)
+{
+    compose();
+    for (QQuickItem *item : {button("Cancel"), button("Send"), subject(), message()}) {
+        const QAccessibleInterface *const interface = QAccessible::queryAccessibleInterface(item);
+        ASSERT_TRUE(interface);
+        EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty());
+    }
+}
+
+} // namespace
+} // namespace TQFoundation

@@ -1,0 +1,163 @@
+#pragma once
+
+#include "AnimationClock.h"
+#include "RecordingPlatform.h"
+#include "Scenes.h"
+
+#include <TQFoundation/DesktopPlatform.h>
+#include <TQFoundation/TQMore.h>
+#include <TQFoundation/ViewController.h>
+
+#include <QtCore/qfile.h>
+#include <QtCore/qtemporarydir.h>
+#include <QtQuick/qquickitem.h>
+#include <QtQuick/qquickwindow.h>
+#include <QtTest/qtest.h>
+
+#include <gtest/gtest.h>
+
+namespace TQFoundation::Testing {
+
+/// An app whose window shows the real sheets. What they ask of the system is written down, and time goes by hand.
+class SheetHost : public testing::Test
+{
+protected:
+    /// A desktop on which sendmail lies in one folder of the test's own.
+    class Desktop : public DesktopPlatform
+    {
+    public:
+        QStringList folders;
+
+    protected:
+        QStringList programFolders() const override { return folders; }
+    };
+
+    /// A root controller that notes what it is told.
+    class Delegate : public ViewController
+    {
+    public:
+        using ViewController::ViewController;
+
+        QList<MailComposeResult> results;
+        QStringList errors;
+
+        void mailComposeController(MailComposer *controller, MailComposeResult result, const QString &error) override
+        {
+            results += result;
+            errors += error;
+            ViewController::mailComposeController(controller, result, error);
+        }
+    };
+
+    SheetHost()
+    {
+        platform->storefront = QStringLiteral("CHN");
+        platform->infoDictionary = {{QStringLiteral("CFBundleDisplayName"), QStringLiteral("Hazel Grid")},
+                                    {QStringLiteral("CFBundleShortVersionString"), QStringLiteral("2.3.1")},
+                                    {QStringLiteral("CFBundleVersion"), QStringLiteral("57")}};
+        platform->sheets = &desktop;
+        desktop.folders = QStringList(programs.path());
+        open({390, 844});
+    }
+
+    ~SheetHost() override
+    {
+        window.reset();
+        settle();
+    }
+
+    /// Another window in place of the one before.
+    void open(QSize size)
+    {
+        window = std::make_unique<QQuickWindow>();
+        window->setColor(Qt::white);
+        window->resize(size);
+        root = std::make_shared<Delegate>(window->contentItem());
+        ViewController::setRoot(window.get(), root);
+        window->show();
+        window->requestActivate();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        platform->scenes = keyScene(window.get());
+    }
+
+    /// Lets all that was put off happen.
+    static void settle()
+    {
+        for (int round = 0; round < 3; ++round) {
+            QCoreApplication::processEvents();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+    }
+
+    /// Until a sheet has slid in or out.
+    void slide()
+    {
+        clock.pass(500);
+        settle();
+    }
+
+    /// Whether something comes true while events are handled.
+    template <typename Condition>
+    static bool comes(const Condition &condition)
+    {
+        return QTest::qWaitFor(condition, 20000);
+    }
+
+    /// The first visible item of \a type, a class's name or a part of it, whose text is \a text.
+    QQuickItem *item(const char *type, const QString &text, QQuickItem *from = nullptr) const
+    {
+        const QList<QQuickItem *> children = (from ? from : window->contentItem())->childItems();
+        for (QQuickItem *child : children) {
+            if (!child->isVisible())
+                continue;
+            if (isOf(child, type) && child->property("text").toString() == text)
+                return child;
+            if (QQuickItem *inside = item(type, text, child))
+                return inside;
+        }
+        return nullptr;
+    }
+
+    QQuickItem *button(const char *text) const { return item("QQuickAbstractButton", QString::fromUtf8(text)); }
+    QQuickItem *text(const char *text) const { return item("QQuickText", QString::fromUtf8(text)); }
+
+    /// The first visible item of the class \a type.
+    QQuickItem *itemOf(const char *type, QQuickItem *from = nullptr) const
+    {
+        const QList<QQuickItem *> children = (from ? from : window->contentItem())->childItems();
+        for (QQuickItem *child : children) {
+            if (child->isVisible()) {
+                if (isOf(child, type))
+                    return child;
+                if (QQuickItem *inside = itemOf(type, child))
+                    return inside;
+            }
+        }
+        return nullptr;
+    }
+
+    void click(const QQuickItem *target)
+    {
+        ASSERT_TRUE(target);
+        const QPointF middle = target->mapToScene(QPointF(target->width() / 2, target->height() / 2));
+        QTest::mouseClick(window.get(), Qt::LeftButton, {}, middle.toPoint());
+        settle();
+    }
+
+    bool isShown() const { return TQMore::topViewController() != root; }
+
+    /// How many items there are in the window, its popups among them.
+    int itemCount() const { return static_cast<int>(window->contentItem()->findChildren<QQuickItem *>().size()); }
+
+    InstalledRecordingPlatform platform;
+    AnimationClock clock;
+    QTemporaryDir programs;
+    Desktop desktop;
+    std::unique_ptr<QQuickWindow> window;
+    std::shared_ptr<Delegate> root;
+
+private:
+    static bool isOf(const QObject *object, const char *type) { return object->inherits(type); }
+};
+
+} // namespace TQFoundation::Testing

@@ -313,7 +313,7 @@ Sheet {
 
             parent: root.contentItem
             width: Math.min(parent.width - 2 * root.gap, 22 * root.textSize)
-            height: Math.min(answers.implicitHeight + 2 * padding, parent.height - root.gap)
+            height: keep.y + keep.height + 2 * padding
             x: Math.round((parent.width - width) / 2)
             y: Math.round((parent.height - height) / 2)
             padding: root.gap
@@ -332,18 +332,17 @@ Sheet {
                 color: root.dark ? "#2c2c2e" : "#ffffff"
             }
 
-            contentItem: Column {
-                id: answers
-
+            contentItem: Item {
                 LayoutMirroring.enabled: root.rightToLeft
                 LayoutMirroring.childrenInherit: true
-                spacing: 4
+                implicitHeight: keep.y + keep.height
                 Accessible.role: Accessible.AlertMessage
                 Accessible.name: root.page.discardQuestion
 
                 Text {
+                    id: asked
+
                     width: parent.width
-                    bottomPadding: 12
                     text: root.page.discardQuestion
                     textFormat: Text.PlainText
                     wrapMode: Text.Wrap
@@ -353,6 +352,9 @@ Sheet {
                 }
 
                 SheetButton {
+                    id: discard
+
+                    y: asked.height + 14
                     width: parent.width
                     text: root.page.discardText
                     textSize: root.textSize
@@ -364,6 +366,7 @@ Sheet {
                 SheetButton {
                     id: keep
 
+                    y: discard.y + discard.height + 4
                     width: parent.width
                     text: root.page.keepText
                     textSize: root.textSize

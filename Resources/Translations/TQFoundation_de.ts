@@ -172,5 +172,135 @@ Mit den besten Wünschen und vorzüglicher Hochachtung</translation>
         <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
         <translation>Weiter</translation>
     </message>
+    <message>
+        <source>This page could not be loaded. Check your connection and try again.</source>
+        <extracomment>Stands in place of a web page.</extracomment>
+        <translation>Diese Seite konnte nicht geladen werden. Prüfen Sie die Verbindung und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The connection to this site is not secure, so the page was not opened.</source>
+        <extracomment>Stands in place of a web page whose certificate is not valid.</extracomment>
+        <translation>Die Verbindung zu dieser Website ist nicht sicher. Die Seite wurde deshalb nicht geöffnet.</translation>
+    </message>
+    <message>
+        <source>This page has stopped working.</source>
+        <extracomment>Stands in place of a web page whose process has ended.</extracomment>
+        <translation>Diese Seite reagiert nicht mehr.</translation>
+    </message>
+    <message>
+        <source>This page takes too long to load.</source>
+        <extracomment>Stands in place of, or below, a web page.</extracomment>
+        <translation>Das Laden dieser Seite dauert zu lange.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the in-app browser.</extracomment>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <extracomment>Button that leads to the page before, in the in-app browser.</extracomment>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <extracomment>Button that loads the page once more, in the in-app browser.</extracomment>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>There is no mail program on this device.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>Auf diesem Gerät gibt es kein Mailprogramm.</translation>
+    </message>
+    <message>
+        <source>The mail program on this device is not set up.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>Das Mailprogramm auf diesem Gerät ist nicht eingerichtet.</translation>
+    </message>
+    <message>
+        <source>The mail server cannot be reached. Check your connection and try again.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>Der Mailserver ist nicht erreichbar. Prüfen Sie die Verbindung und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The mail server did not accept your message.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>Der Mailserver hat Ihre Nachricht nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>Your message could not be sent.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>Ihre Nachricht konnte nicht gesendet werden.</translation>
+    </message>
+    <message>
+        <source>The mail program stopped unexpectedly. Your message may not have been sent.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>Das Mailprogramm wurde unerwartet beendet. Ihre Nachricht wurde möglicherweise nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again sends it twice.</source>
+        <extracomment>The user has to know that a further attempt could send the mail twice.</extracomment>
+        <translation>Seit 30 Sekunden kommt keine Antwort. Ihre Nachricht wurde möglicherweise schon gesendet; ein weiterer Versuch sendet sie dann doppelt.</translation>
+    </message>
+    <message>
+        <source>New Message</source>
+        <extracomment>Title of the sheet in which the user writes a mail.</extracomment>
+        <translation>Neue Nachricht</translation>
+    </message>
+    <message>
+        <source>Sending…</source>
+        <extracomment>Stands in place of the sheet&apos;s title while a mail is on its way.</extracomment>
+        <translation>Wird gesendet …</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Button that closes the sheet without sending the mail.</extracomment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <extracomment>Button that sends the mail.</extracomment>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <extracomment>Button that sends the mail, or loads the page, once more after that failed.</extracomment>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <extracomment>Stands before the address that a mail goes to.</extracomment>
+        <translation>An:</translation>
+    </message>
+    <message>
+        <source>Subject:</source>
+        <extracomment>Stands before the subject of a mail.</extracomment>
+        <translation>Betreff:</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <extracomment>What a screen reader calls the field in which the text of a mail is written.</extracomment>
+        <translation>Nachricht</translation>
+    </message>
+    <message>
+        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <extracomment>Stands below what the user writes in a mail.</extracomment>
+        <translation>Weiterer Text, der zu lang ist, um hier angezeigt zu werden, wird unter Ihrem mitgesendet.</translation>
+    </message>
+    <message>
+        <source>Discard this message? What you have written will be lost.</source>
+        <extracomment>Asked before the sheet is closed; answered by &quot;Discard&quot; or &quot;Keep Writing&quot;.</extracomment>
+        <translation>Diese Nachricht verwerfen? Was Sie geschrieben haben, geht verloren.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <extracomment>Button that closes the sheet and loses what was written.</extracomment>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Keep Writing</source>
+        <extracomment>Button that leads back to the mail that is being written.</extracomment>
+        <translation>Weiterschreiben</translation>
+    </message>
 </context>
 </TS>

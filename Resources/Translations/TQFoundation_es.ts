@@ -172,5 +172,135 @@ Reciba mis más respetuosos saludos y mis mejores deseos.</translation>
         <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
         <translation>Siguiente</translation>
     </message>
+    <message>
+        <source>This page could not be loaded. Check your connection and try again.</source>
+        <extracomment>Stands in place of a web page.</extracomment>
+        <translation>No se ha podido cargar esta página. Compruebe la conexión e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The connection to this site is not secure, so the page was not opened.</source>
+        <extracomment>Stands in place of a web page whose certificate is not valid.</extracomment>
+        <translation>La conexión con este sitio no es segura, por lo que no se ha abierto la página.</translation>
+    </message>
+    <message>
+        <source>This page has stopped working.</source>
+        <extracomment>Stands in place of a web page whose process has ended.</extracomment>
+        <translation>Esta página ha dejado de funcionar.</translation>
+    </message>
+    <message>
+        <source>This page takes too long to load.</source>
+        <extracomment>Stands in place of, or below, a web page.</extracomment>
+        <translation>Esta página tarda demasiado en cargarse.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the in-app browser.</extracomment>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <extracomment>Button that leads to the page before, in the in-app browser.</extracomment>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <extracomment>Button that loads the page once more, in the in-app browser.</extracomment>
+        <translation>Recargar</translation>
+    </message>
+    <message>
+        <source>There is no mail program on this device.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>No hay ningún programa de correo en este dispositivo.</translation>
+    </message>
+    <message>
+        <source>The mail program on this device is not set up.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>El programa de correo de este dispositivo no está configurado.</translation>
+    </message>
+    <message>
+        <source>The mail server cannot be reached. Check your connection and try again.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>No se puede acceder al servidor de correo. Compruebe la conexión e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The mail server did not accept your message.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>El servidor de correo no ha aceptado su mensaje.</translation>
+    </message>
+    <message>
+        <source>Your message could not be sent.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>No se ha podido enviar su mensaje.</translation>
+    </message>
+    <message>
+        <source>The mail program stopped unexpectedly. Your message may not have been sent.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>El programa de correo se ha detenido inesperadamente. Es posible que su mensaje no se haya enviado.</translation>
+    </message>
+    <message>
+        <source>There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again sends it twice.</source>
+        <extracomment>The user has to know that a further attempt could send the mail twice.</extracomment>
+        <translation>No ha habido respuesta en 30 segundos. Es posible que su mensaje ya se haya enviado; en ese caso, si lo intenta de nuevo, se enviará dos veces.</translation>
+    </message>
+    <message>
+        <source>New Message</source>
+        <extracomment>Title of the sheet in which the user writes a mail.</extracomment>
+        <translation>Mensaje nuevo</translation>
+    </message>
+    <message>
+        <source>Sending…</source>
+        <extracomment>Stands in place of the sheet&apos;s title while a mail is on its way.</extracomment>
+        <translation>Enviando…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Button that closes the sheet without sending the mail.</extracomment>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <extracomment>Button that sends the mail.</extracomment>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <extracomment>Button that sends the mail, or loads the page, once more after that failed.</extracomment>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <extracomment>Stands before the address that a mail goes to.</extracomment>
+        <translation>Para:</translation>
+    </message>
+    <message>
+        <source>Subject:</source>
+        <extracomment>Stands before the subject of a mail.</extracomment>
+        <translation>Asunto:</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <extracomment>What a screen reader calls the field in which the text of a mail is written.</extracomment>
+        <translation>Mensaje</translation>
+    </message>
+    <message>
+        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <extracomment>Stands below what the user writes in a mail.</extracomment>
+        <translation>El resto del texto, demasiado largo para mostrarlo aquí, se envía debajo del suyo.</translation>
+    </message>
+    <message>
+        <source>Discard this message? What you have written will be lost.</source>
+        <extracomment>Asked before the sheet is closed; answered by &quot;Discard&quot; or &quot;Keep Writing&quot;.</extracomment>
+        <translation>¿Descartar este mensaje? Se perderá lo que ha escrito.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <extracomment>Button that closes the sheet and loses what was written.</extracomment>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Keep Writing</source>
+        <extracomment>Button that leads back to the mail that is being written.</extracomment>
+        <translation>Seguir escribiendo</translation>
+    </message>
 </context>
 </TS>

@@ -172,5 +172,135 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
         <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
         <translation>Suivant</translation>
     </message>
+    <message>
+        <source>This page could not be loaded. Check your connection and try again.</source>
+        <extracomment>Stands in place of a web page.</extracomment>
+        <translation>Cette page n’a pas pu être chargée. Vérifiez votre connexion, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The connection to this site is not secure, so the page was not opened.</source>
+        <extracomment>Stands in place of a web page whose certificate is not valid.</extracomment>
+        <translation>La connexion à ce site n’est pas sécurisée ; la page n’a donc pas été ouverte.</translation>
+    </message>
+    <message>
+        <source>This page has stopped working.</source>
+        <extracomment>Stands in place of a web page whose process has ended.</extracomment>
+        <translation>Cette page a cessé de fonctionner.</translation>
+    </message>
+    <message>
+        <source>This page takes too long to load.</source>
+        <extracomment>Stands in place of, or below, a web page.</extracomment>
+        <translation>Le chargement de cette page prend trop de temps.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the in-app browser.</extracomment>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <extracomment>Button that leads to the page before, in the in-app browser.</extracomment>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <extracomment>Button that loads the page once more, in the in-app browser.</extracomment>
+        <translation>Recharger</translation>
+    </message>
+    <message>
+        <source>There is no mail program on this device.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>Aucun programme de messagerie n’est installé sur cet appareil.</translation>
+    </message>
+    <message>
+        <source>The mail program on this device is not set up.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>Le programme de messagerie de cet appareil n’est pas configuré.</translation>
+    </message>
+    <message>
+        <source>The mail server cannot be reached. Check your connection and try again.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>Le serveur de messagerie est injoignable. Vérifiez votre connexion, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The mail server did not accept your message.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>Le serveur de messagerie n’a pas accepté votre message.</translation>
+    </message>
+    <message>
+        <source>Your message could not be sent.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>Votre message n’a pas pu être envoyé.</translation>
+    </message>
+    <message>
+        <source>The mail program stopped unexpectedly. Your message may not have been sent.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>Le programme de messagerie s’est arrêté de façon inattendue. Votre message n’a peut-être pas été envoyé.</translation>
+    </message>
+    <message>
+        <source>There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again sends it twice.</source>
+        <extracomment>The user has to know that a further attempt could send the mail twice.</extracomment>
+        <translation>Aucune réponse depuis 30 secondes. Votre message est peut-être déjà parti ; dans ce cas, un nouvel essai l’enverra une deuxième fois.</translation>
+    </message>
+    <message>
+        <source>New Message</source>
+        <extracomment>Title of the sheet in which the user writes a mail.</extracomment>
+        <translation>Nouveau message</translation>
+    </message>
+    <message>
+        <source>Sending…</source>
+        <extracomment>Stands in place of the sheet&apos;s title while a mail is on its way.</extracomment>
+        <translation>Envoi…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Button that closes the sheet without sending the mail.</extracomment>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <extracomment>Button that sends the mail.</extracomment>
+        <translation>Envoyer</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <extracomment>Button that sends the mail, or loads the page, once more after that failed.</extracomment>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <extracomment>Stands before the address that a mail goes to.</extracomment>
+        <translation>À :</translation>
+    </message>
+    <message>
+        <source>Subject:</source>
+        <extracomment>Stands before the subject of a mail.</extracomment>
+        <translation>Objet :</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <extracomment>What a screen reader calls the field in which the text of a mail is written.</extracomment>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <extracomment>Stands below what the user writes in a mail.</extracomment>
+        <translation>La suite du texte, trop longue pour être affichée ici, est envoyée en dessous du vôtre.</translation>
+    </message>
+    <message>
+        <source>Discard this message? What you have written will be lost.</source>
+        <extracomment>Asked before the sheet is closed; answered by &quot;Discard&quot; or &quot;Keep Writing&quot;.</extracomment>
+        <translation>Supprimer ce message ? Ce que vous avez écrit sera perdu.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <extracomment>Button that closes the sheet and loses what was written.</extracomment>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Keep Writing</source>
+        <extracomment>Button that leads back to the mail that is being written.</extracomment>
+        <translation>Continuer à écrire</translation>
+    </message>
 </context>
 </TS>

@@ -172,5 +172,135 @@ Best regards.</source>
         <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
         <translation>आगे</translation>
     </message>
+    <message>
+        <source>This page could not be loaded. Check your connection and try again.</source>
+        <extracomment>Stands in place of a web page.</extracomment>
+        <translation>यह पेज लोड नहीं हो सका। अपना कनेक्शन जाँचें और फिर से कोशिश करें।</translation>
+    </message>
+    <message>
+        <source>The connection to this site is not secure, so the page was not opened.</source>
+        <extracomment>Stands in place of a web page whose certificate is not valid.</extracomment>
+        <translation>इस साइट का कनेक्शन सुरक्षित नहीं है, इसलिए पेज नहीं खोला गया।</translation>
+    </message>
+    <message>
+        <source>This page has stopped working.</source>
+        <extracomment>Stands in place of a web page whose process has ended.</extracomment>
+        <translation>इस पेज ने काम करना बंद कर दिया है।</translation>
+    </message>
+    <message>
+        <source>This page takes too long to load.</source>
+        <extracomment>Stands in place of, or below, a web page.</extracomment>
+        <translation>इस पेज को लोड होने में बहुत समय लग रहा है।</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the in-app browser.</extracomment>
+        <translation>बंद करें</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <extracomment>Button that leads to the page before, in the in-app browser.</extracomment>
+        <translation>वापस</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <extracomment>Button that loads the page once more, in the in-app browser.</extracomment>
+        <translation>फिर से लोड करें</translation>
+    </message>
+    <message>
+        <source>There is no mail program on this device.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>इस डिवाइस पर कोई मेल प्रोग्राम नहीं है।</translation>
+    </message>
+    <message>
+        <source>The mail program on this device is not set up.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>इस डिवाइस का मेल प्रोग्राम सेट अप नहीं है।</translation>
+    </message>
+    <message>
+        <source>The mail server cannot be reached. Check your connection and try again.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>मेल सर्वर से संपर्क नहीं हो पा रहा है। अपना कनेक्शन जाँचें और फिर से कोशिश करें।</translation>
+    </message>
+    <message>
+        <source>The mail server did not accept your message.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>मेल सर्वर ने आपका संदेश स्वीकार नहीं किया।</translation>
+    </message>
+    <message>
+        <source>Your message could not be sent.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>आपका संदेश भेजा नहीं जा सका।</translation>
+    </message>
+    <message>
+        <source>The mail program stopped unexpectedly. Your message may not have been sent.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>मेल प्रोग्राम अचानक बंद हो गया। हो सकता है कि आपका संदेश न भेजा गया हो।</translation>
+    </message>
+    <message>
+        <source>There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again sends it twice.</source>
+        <extracomment>The user has to know that a further attempt could send the mail twice.</extracomment>
+        <translation>30 सेकंड से कोई जवाब नहीं मिला है। हो सकता है कि आपका संदेश पहले ही भेजा जा चुका हो; ऐसे में फिर से कोशिश करने पर वह दो बार जाएगा।</translation>
+    </message>
+    <message>
+        <source>New Message</source>
+        <extracomment>Title of the sheet in which the user writes a mail.</extracomment>
+        <translation>नया संदेश</translation>
+    </message>
+    <message>
+        <source>Sending…</source>
+        <extracomment>Stands in place of the sheet&apos;s title while a mail is on its way.</extracomment>
+        <translation>भेजा जा रहा है…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Button that closes the sheet without sending the mail.</extracomment>
+        <translation>रद्द करें</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <extracomment>Button that sends the mail.</extracomment>
+        <translation>भेजें</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <extracomment>Button that sends the mail, or loads the page, once more after that failed.</extracomment>
+        <translation>फिर से कोशिश करें</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <extracomment>Stands before the address that a mail goes to.</extracomment>
+        <translation>प्रति:</translation>
+    </message>
+    <message>
+        <source>Subject:</source>
+        <extracomment>Stands before the subject of a mail.</extracomment>
+        <translation>विषय:</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <extracomment>What a screen reader calls the field in which the text of a mail is written.</extracomment>
+        <translation>संदेश</translation>
+    </message>
+    <message>
+        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <extracomment>Stands below what the user writes in a mail.</extracomment>
+        <translation>बाकी टेक्स्ट, जो यहाँ दिखाने के लिए बहुत लंबा है, आपके टेक्स्ट के नीचे भेजा जाएगा।</translation>
+    </message>
+    <message>
+        <source>Discard this message? What you have written will be lost.</source>
+        <extracomment>Asked before the sheet is closed; answered by &quot;Discard&quot; or &quot;Keep Writing&quot;.</extracomment>
+        <translation>यह संदेश छोड़ दें? आपने जो लिखा है वह खो जाएगा।</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <extracomment>Button that closes the sheet and loses what was written.</extracomment>
+        <translation>छोड़ दें</translation>
+    </message>
+    <message>
+        <source>Keep Writing</source>
+        <extracomment>Button that leads back to the mail that is being written.</extracomment>
+        <translation>लिखना जारी रखें</translation>
+    </message>
 </context>
 </TS>

@@ -172,5 +172,135 @@ Best regards.</source>
         <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
         <translation>次へ</translation>
     </message>
+    <message>
+        <source>This page could not be loaded. Check your connection and try again.</source>
+        <extracomment>Stands in place of a web page.</extracomment>
+        <translation>このページを読み込めませんでした。接続を確認して、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The connection to this site is not secure, so the page was not opened.</source>
+        <extracomment>Stands in place of a web page whose certificate is not valid.</extracomment>
+        <translation>このサイトへの接続は安全ではないため、ページを開きませんでした。</translation>
+    </message>
+    <message>
+        <source>This page has stopped working.</source>
+        <extracomment>Stands in place of a web page whose process has ended.</extracomment>
+        <translation>このページは動作を停止しました。</translation>
+    </message>
+    <message>
+        <source>This page takes too long to load.</source>
+        <extracomment>Stands in place of, or below, a web page.</extracomment>
+        <translation>このページの読み込みに時間がかかりすぎています。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the in-app browser.</extracomment>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <extracomment>Button that leads to the page before, in the in-app browser.</extracomment>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <extracomment>Button that loads the page once more, in the in-app browser.</extracomment>
+        <translation>再読み込み</translation>
+    </message>
+    <message>
+        <source>There is no mail program on this device.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>このデバイスにはメールプログラムがありません。</translation>
+    </message>
+    <message>
+        <source>The mail program on this device is not set up.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>このデバイスのメールプログラムは設定されていません。</translation>
+    </message>
+    <message>
+        <source>The mail server cannot be reached. Check your connection and try again.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>メールサーバに接続できません。接続を確認して、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The mail server did not accept your message.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>メールサーバがメッセージを受け付けませんでした。</translation>
+    </message>
+    <message>
+        <source>Your message could not be sent.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>メッセージを送信できませんでした。</translation>
+    </message>
+    <message>
+        <source>The mail program stopped unexpectedly. Your message may not have been sent.</source>
+        <extracomment>Why a mail was not sent.</extracomment>
+        <translation>メールプログラムが予期せず終了しました。メッセージは送信されていない可能性があります。</translation>
+    </message>
+    <message>
+        <source>There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again sends it twice.</source>
+        <extracomment>The user has to know that a further attempt could send the mail twice.</extracomment>
+        <translation>30秒間応答がありません。メッセージはすでに送信された可能性があります。その場合、再試行すると二重に送信されます。</translation>
+    </message>
+    <message>
+        <source>New Message</source>
+        <extracomment>Title of the sheet in which the user writes a mail.</extracomment>
+        <translation>新規メッセージ</translation>
+    </message>
+    <message>
+        <source>Sending…</source>
+        <extracomment>Stands in place of the sheet&apos;s title while a mail is on its way.</extracomment>
+        <translation>送信中…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Button that closes the sheet without sending the mail.</extracomment>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <extracomment>Button that sends the mail.</extracomment>
+        <translation>送信</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <extracomment>Button that sends the mail, or loads the page, once more after that failed.</extracomment>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <extracomment>Stands before the address that a mail goes to.</extracomment>
+        <translation>宛先：</translation>
+    </message>
+    <message>
+        <source>Subject:</source>
+        <extracomment>Stands before the subject of a mail.</extracomment>
+        <translation>件名：</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <extracomment>What a screen reader calls the field in which the text of a mail is written.</extracomment>
+        <translation>メッセージ</translation>
+    </message>
+    <message>
+        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <extracomment>Stands below what the user writes in a mail.</extracomment>
+        <translation>長すぎてここに表示できない続きのテキストは、あなたの文章の下に付けて送信されます。</translation>
+    </message>
+    <message>
+        <source>Discard this message? What you have written will be lost.</source>
+        <extracomment>Asked before the sheet is closed; answered by &quot;Discard&quot; or &quot;Keep Writing&quot;.</extracomment>
+        <translation>このメッセージを破棄しますか？書いた内容は失われます。</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <extracomment>Button that closes the sheet and loses what was written.</extracomment>
+        <translation>破棄</translation>
+    </message>
+    <message>
+        <source>Keep Writing</source>
+        <extracomment>Button that leads back to the mail that is being written.</extracomment>
+        <translation>書き続ける</translation>
+    </message>
 </context>
 </TS>

@@ -269,7 +269,10 @@ Sheet {
                                 root.page.paste(selectionStart, selectionEnd);
                         }
                         onCursorRectangleChanged: if (activeFocus) scroller.reveal(message, cursorRectangle)
-                        Component.onCompleted: root.page.fill(textDocument)
+                        Component.onCompleted: {
+                            root.page.fill(textDocument);
+                            cursorPosition = 0;
+                        }
                         Accessible.name: root.page.messageText
 
                         Text {

@@ -216,6 +216,7 @@ QString MailDraft::message() const
     if (!m_document || !m_document->isModified())
         return html;
     const std::unique_ptr<QTextDocument> copy(m_document->clone());
+    copy->setDocumentMargin(m_document->documentMargin()); // else it is written as a table around all
     changeFormats(*copy, [](QTextCharFormat &format) {
         if (!format.hasProperty(ownName))
             return false;

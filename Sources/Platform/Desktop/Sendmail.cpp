@@ -41,7 +41,6 @@ Sendmail::Outcome outcomeOf(int exitCode)
     case 78: // EX_CONFIG
         return Sendmail::Outcome::notSetUp;
     case 68: // EX_NOHOST
-    case 74: // EX_IOERR
     case 75: // EX_TEMPFAIL
     case 76: // EX_PROTOCOL
         return Sendmail::Outcome::unreachable;

@@ -12,14 +12,18 @@ Sheet {
     // Of the page there is something to see.
     readonly property bool hasContent: web.contentsSize.height > 0
 
+    // The page that is shown or should be.
+    property url aim: page.url
+
     widest: 1000
     tallest: 900
 
     function load() {
-        if (web.history.items.rowCount() > 0)
+        // What has never come cannot be reloaded.
+        if (page.problem === BrowserPage.NoProblem && hasContent)
             web.reload();
         else
-            web.url = page.url;
+            web.url = aim;
         web.forceActiveFocus();
     }
 
@@ -34,12 +38,27 @@ Sheet {
         }
     }
 
+    // What a server sends along with an error is for the user to read, unless it is nothing. The web view tells of the
+    // error before it has the text.
+    readonly property Timer emptiness: Timer {
+        interval: 700
+        onTriggered: {
+            root.page.endLoading();
+            web.runJavaScript("document.documentElement.innerText.trim() === ''", isEmpty => {
+                if (isEmpty && !web.loading)
+                    root.page.fail(BrowserPage.Unreachable);
+            });
+        }
+    }
+
     readonly property WebEngineProfile forgetful: WebEngineProfile {
         offTheRecord: true
         onDownloadRequested: download => download.cancel()
     }
 
-    contentItem: FocusScope {
+    FocusScope {
+        anchors.fill: parent
+        focus: true
         LayoutMirroring.enabled: root.rightToLeft
         LayoutMirroring.childrenInherit: true
         Accessible.role: Accessible.Dialog
@@ -69,6 +88,8 @@ Sheet {
                 onClicked: root.page.closed()
 
                 contentItem: Icon {
+                    tint: root.tint
+
                     Stroke {
                         anchors.centerIn: parent
                         length: 20
@@ -96,6 +117,7 @@ Sheet {
                 onClicked: web.goBack()
 
                 contentItem: Icon {
+                    tint: root.tint
                     opacity: back.enabled ? 1 : 0.3
                     rotation: root.rightToLeft ? 180 : 0
 
@@ -145,6 +167,8 @@ Sheet {
 
                 // Three quarters of a ring with a head.
                 contentItem: Icon {
+                    tint: root.tint
+
                     Rectangle {
                         x: 13
                         y: 13
@@ -223,10 +247,16 @@ Sheet {
                 }
 
                 onLoadingChanged: info => {
-                    if (info.status === WebEngineView.LoadStartedStatus)
+                    root.emptiness.stop();
+                    if (info.status === WebEngineView.LoadStartedStatus) {
+                        root.aim = info.url;
                         root.page.beginLoading();
+                    } else if (info.status === WebEngineView.LoadFailedStatus && info.errorDomain === WebEngineLoadingInfo.HttpStatusCodeDomain)
+                        root.emptiness.restart();
                     else if (info.status === WebEngineView.LoadFailedStatus)
                         root.page.fail(info.errorDomain === WebEngineView.CertificateErrorDomain ? BrowserPage.Insecure : BrowserPage.Unreachable);
+                    else if (info.status === WebEngineView.LoadStoppedStatus && !root.hasContent)
+                        root.page.fail(BrowserPage.Unreachable);
                     else
                         root.page.endLoading();
                 }
@@ -324,17 +354,20 @@ Sheet {
     }
 
     component Icon: Item {
+        required property color tint
+
         implicitWidth: 44
         implicitHeight: 44
     }
 
     component Stroke: Rectangle {
+        readonly property Icon icon: parent as Icon
         property real length
 
         width: length
         height: 2
         radius: 1
-        color: root.tint
+        color: icon ? icon.tint : "transparent"
         antialiasing: true
     }
 }

@@ -11,8 +11,6 @@ Sheet {
 
     readonly property color tint: page.tint.legibleOn(ground, dark)
     readonly property color danger: dark ? "#ff8a80" : "#b3261e"
-    // Where a line has no room for a label and what it is the label of.
-    readonly property bool stacked: width < 18 * textSize
 
     onOpened: message.forceActiveFocus()
 
@@ -29,7 +27,9 @@ Sheet {
         }
     }
 
-    contentItem: FocusScope {
+    FocusScope {
+        anchors.fill: parent
+        focus: true
         LayoutMirroring.enabled: root.rightToLeft
         LayoutMirroring.childrenInherit: true
         Accessible.role: Accessible.Dialog
@@ -198,6 +198,7 @@ Sheet {
                 Line {
                     id: recipientLine
 
+                    sheet: root
                     label: root.page.toText
 
                     Text {
@@ -217,6 +218,7 @@ Sheet {
                 Line {
                     id: subjectLine
 
+                    sheet: root
                     label: root.page.subjectText
 
                     T.TextField {
@@ -314,7 +316,6 @@ Sheet {
         T.Popup {
             id: question
 
-            parent: root.contentItem
             width: Math.min(parent.width - 2 * root.gap, 22 * root.textSize)
             height: keep.y + keep.height + 2 * padding
             x: Math.round((parent.width - width) / 2)
@@ -335,10 +336,10 @@ Sheet {
                 color: root.dark ? "#2c2c2e" : "#ffffff"
             }
 
-            contentItem: Item {
+            Item {
+                anchors.fill: parent
                 LayoutMirroring.enabled: root.rightToLeft
                 LayoutMirroring.childrenInherit: true
-                implicitHeight: keep.y + keep.height
                 Accessible.role: Accessible.AlertMessage
                 Accessible.name: root.page.discardQuestion
 
@@ -382,15 +383,17 @@ Sheet {
         }
     }
 
-    // A label and beside it, or below it, one value.
+    // A label and one value, beside it or, where there is no room, below it.
     component Line: Item {
         id: line
 
+        required property Sheet sheet
         required property string label
         default property alias value: place.data
 
+        readonly property bool stacked: width < 18 * sheet.textSize
         // Above and below the value.
-        readonly property real room: Math.max(8, (44 - root.textSize * 1.35) / 2)
+        readonly property real room: Math.max(8, (44 - sheet.textSize * 1.35) / 2)
 
         width: parent ? parent.width : 0
         height: place.y + place.height + 1
@@ -398,26 +401,31 @@ Sheet {
         Text {
             id: caption
 
-            anchors { left: parent.left; leftMargin: root.gap }
+            anchors { left: parent.left; leftMargin: line.sheet.gap }
             y: line.room
             text: line.label
             textFormat: Text.PlainText
-            font.pixelSize: root.textSize
-            color: root.quietInk
+            font.pixelSize: line.sheet.textSize
+            color: line.sheet.quietInk
         }
 
         Item {
             id: place
 
-            anchors { left: root.stacked ? parent.left : caption.right; leftMargin: root.stacked ? root.gap : 8; right: parent.right; rightMargin: root.gap }
-            y: root.stacked ? caption.y + caption.height - line.room / 2 : 0
+            anchors {
+                left: line.stacked ? parent.left : caption.right
+                leftMargin: line.stacked ? line.sheet.gap : 8
+                right: parent.right
+                rightMargin: line.sheet.gap
+            }
+            y: line.stacked ? caption.y + caption.height - line.room / 2 : 0
             height: childrenRect.y + childrenRect.height + (childrenRect.y > 0 ? line.room : 0)
         }
 
         Rectangle {
-            anchors { left: parent.left; leftMargin: root.gap; right: parent.right; bottom: parent.bottom }
+            anchors { left: parent.left; leftMargin: line.sheet.gap; right: parent.right; bottom: parent.bottom }
             height: 1
-            color: root.line
+            color: line.sheet.line
         }
     }
 }

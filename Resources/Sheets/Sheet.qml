@@ -50,7 +50,7 @@ T.Popup {
     }
 
     T.Overlay.modal: Rectangle {
-        color: root.dark ? "#99000000" : "#66000000"
+        color: "#80000000"
 
         Behavior on opacity {
             NumberAnimation { duration: 260 }

@@ -11,6 +11,7 @@
 #include <QtCore/qprocess.h>
 #include <QtCore/qscopeguard.h>
 #include <QtCore/qsettings.h>
+#include <QtCore/qtemporarydir.h>
 #include <QtCore/qtimer.h>
 #include <QtGui/qguiapplication.h>
 #include <QtGui/qscreen.h>
@@ -145,6 +146,47 @@ TEST_F(DesktopHostInfo, WithoutAListTheApplicationObjectDescribesTheHost)
     EXPECT_EQ(info("CFBundleDisplayName"), QVariant(QStringLiteral("All Tests")));
     EXPECT_EQ(info("CFBundleShortVersionString"), QVariant(QStringLiteral("3.4")));
     EXPECT_FALSE(info("CFBundleVersion").isValid());
+}
+
+/// A desktop whose programs lie in the folders of the test.
+class DesktopWithPrograms : public DesktopPlatform
+{
+public:
+    QStringList folders;
+
+protected:
+    QStringList programFolders() const override { return folders; }
+};
+
+TEST(SendmailProgram, IsAnExecutableFileInOneOfTheFolders)
+{
+    const QTemporaryDir first;
+    const QTemporaryDir second;
+    DesktopWithPrograms desktop;
+    EXPECT_FALSE(desktop.canSendMail());
+    desktop.folders = {QString(), QStringLiteral("/no/such/folder"), first.path(), second.path()};
+    EXPECT_FALSE(desktop.canSendMail());
+    ASSERT_TRUE(QDir(first.path()).mkdir(QStringLiteral("sendmail")));
+    EXPECT_FALSE(desktop.canSendMail()) << "a folder";
+    QFile program(second.filePath(QStringLiteral("sendmail")));
+    ASSERT_TRUE(program.open(QIODevice::WriteOnly));
+    EXPECT_FALSE(desktop.canSendMail()) << "not executable";
+    program.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    EXPECT_TRUE(desktop.canSendMail());
+    program.remove();
+    EXPECT_FALSE(desktop.canSendMail()) << "asked anew each time";
+}
+
+TEST(SendmailProgram, IsLookedForInTheSystemsFoldersAndThenInThePath)
+{
+    qputenv("PATH", "/one::/two");
+    struct Desktop : DesktopPlatform
+    {
+        using DesktopPlatform::programFolders;
+    };
+    EXPECT_EQ(Desktop().programFolders(),
+              (QStringList{QStringLiteral("/usr/sbin"), QStringLiteral("/usr/lib"), QStringLiteral("/one"),
+                           QStringLiteral("/two")}));
 }
 
 TEST_F(DesktopPlatformTest, ASettingIsReadBackAndOnDiskOnceTheEventLoopRuns)

@@ -1,0 +1,116 @@
+"""A web server on the loopback, for the tests. Prints its ports, first the plain and then the secure one, whose
+certificate nobody has signed; given a folder, keeps key and certificate there. The pages are named by what they do."""
+
+import http.server
+import pathlib
+import socket
+import ssl
+import subprocess
+import sys
+import threading
+
+folder = pathlib.Path(sys.argv[1])
+asked = {}
+
+PAGES = {
+    "/": "<title>Bank of Anywhere</title><h1>Filing</h1><p>A page.",
+    "/link": "<title>link</title><a href='/' style='position:fixed;inset:0'>all of the page leads on</a>",
+    "/blank-link": "<title>link</title><a href='/' target=_blank style='position:fixed;inset:0'>elsewhere</a>",
+    "/keys": "<title>keys</title><script>for (const t of ['keydown','keyup','keypress'])"
+             "addEventListener(t, e => { e.preventDefault(); e.stopPropagation(); }, true);</script><input autofocus>",
+    "/busy": "<title>busy</title><p>busy<script>setTimeout(() => { for (;;); }, 200)</script>",
+    "/busy-at-once": "<script>for (;;);</script>",
+    "/loud": "<script>console.log('l'); console.warn('w'); console.error('e'); throw new Error('t');</script>"
+             "<script>document.title = 'loud'</script>",
+    "/dialogs": "<script>alert('a'); confirm('b'); prompt('c'); document.title = 'went on';</script>",
+    "/windows": "<script>open('/'); open('https://tqstudio.example', '_blank', 'popup'); document.title = 'tried';</script>",
+    "/programs": "<iframe src='mailto:a@b.example'></iframe><iframe src='tel:1'></iframe>"
+                 "<script>location = 'mailto:a@b.example'; document.title = 'tried';</script>",
+    "/files": "<script>try { location = 'file:///etc/passwd' } catch (e) {} document.title = 'tried';</script>",
+    "/download": "<title>download</title><iframe src='/attachment'></iframe>",
+    "/ask": "<script>navigator.geolocation.getCurrentPosition(() => document.title = 'given',"
+            "() => document.title = 'denied');</script>",
+    "/keep": "<script>document.title = 'kept:' + document.cookie + (localStorage.k || '');"
+             "document.cookie = 'c=1; max-age=9999'; localStorage.k = 1;</script>",
+    "/frames": "<title>frames</title><iframe srcdoc='inner'></iframe><iframe src='about:blank'></iframe>"
+               "<iframe src='data:text/html,inner'></iframe>",
+    "/scripts": "<script>let n = 0; for (let i = 0; i < 2000; ++i) { const e = document.createElement('p');"
+                "e.textContent = i; document.documentElement.append(e); n += e.offsetHeight > 0 && i % 10 === 0; }"
+                "document.title = 'scripts';</script>",
+}
+
+
+class Pages(http.server.BaseHTTPRequestHandler):
+    protocol_version = "HTTP/1.1"
+
+    def log_message(self, *_):
+        pass
+
+    def answer(self, body, status=200, **headers):
+        data = body.encode()
+        self.send_response(status)
+        for name, value in {"Content-Type": "text/html; charset=utf-8", "Content-Length": len(data), **headers}.items():
+            self.send_header(name.replace("_", "-"), str(value))
+        self.end_headers()
+        self.wfile.write(data)
+
+    def do_GET(self):
+        asked[self.path] = asked.get(self.path, 0) + 1
+        if self.path in PAGES:
+            self.answer(PAGES[self.path])
+        elif self.path == "/silent":
+            done.wait()
+        elif self.path == "/endless":
+            self.send_response(200)
+            self.send_header("Content-Type", "text/html")
+            self.end_headers()
+            try:
+                self.wfile.write(b"<title>endless</title>" + b"<p>more and more of the page" * 200)
+                while not done.wait(0.1):
+                    self.wfile.write(b"<p>more and more of the page")
+            except OSError:
+                pass
+        elif self.path == "/slow":
+            done.wait(0.5)
+            self.answer("<title>slow</title><p>At last.")
+        elif self.path == "/second-time":
+            if asked[self.path] == 1:
+                self.connection.shutdown(socket.SHUT_RDWR)
+            else:
+                self.answer("<title>second time</title><p>Here.")
+        elif self.path == "/empty-error":
+            self.answer("", 500)
+        elif self.path == "/not-found":
+            self.answer("<title>not found</title><h1>Nothing here</h1>", 404)
+        elif self.path == "/redirect":
+            self.answer("", 302, Location="/")
+        elif self.path == "/round":
+            self.answer("", 302, Location="/round")
+        elif self.path == "/attachment":
+            self.answer("x" * 1000, Content_Disposition="attachment; filename=attachment.bin")
+        elif self.path == "/password":
+            self.answer("<title>no entry</title><p>No entry.", 401, WWW_Authenticate="Basic realm=x")
+        else:
+            self.answer("", 404)
+
+
+class Server(http.server.ThreadingHTTPServer):
+    daemon_threads = True
+
+    def handle_error(self, *_):
+        pass
+
+
+done = threading.Event()
+subprocess.run(["openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", "-subj", "/CN=127.0.0.1",
+                "-keyout", folder / "key.pem", "-out", folder / "certificate.pem"], check=True, capture_output=True)
+context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
+context.load_cert_chain(folder / "certificate.pem", folder / "key.pem")
+plain, secure = Server(("127.0.0.1", 0), Pages), Server(("127.0.0.1", 0), Pages)
+secure.socket = context.wrap_socket(secure.socket, server_side=True)
+for server in (plain, secure):
+    threading.Thread(target=server.serve_forever, daemon=True).start()
+print(plain.server_port, secure.server_port, flush=True)
+# Whoever started it is done when the input ends.
+sys.stdin.read()
+done.set()

@@ -1,0 +1,279 @@
+#include "StrokeMask.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <span>
+
+namespace TQFoundation {
+namespace {
+
+constexpr int farthest = 16384; // pixels from the origin
+constexpr double overlap = 0.05; // pixels by which neighbours reach into each other, so that no sample falls between
+
+struct Sample
+{
+    float x;
+    float y;
+};
+
+// Where the samples lie around the middle of a pixel: a lattice in which all columns and all rows differ. Of all such
+// lattices, halves of a pixel at any angle are measured best by this one.
+constexpr auto sampleOffsets = [] {
+    std::array<Sample, StrokeMask::samples> offsets{};
+    for (int k = 0; k < StrokeMask::samples; ++k) {
+        const auto share = [](int step) { return (static_cast<float>(step) + 0.5F) / StrokeMask::samples - 0.5F; };
+        offsets[static_cast<std::size_t>(k)] = {share(k), share(k * 19 % StrokeMask::samples)};
+    }
+    return offsets;
+}();
+
+/// Which samples of a pixel lie within an edge, by the distance of its middle.
+class EdgeTable
+{
+public:
+    EdgeTable() = default;
+
+    explicit EdgeTable(const HalfPlane &edge) : m_x(static_cast<float>(edge.x)), m_y(static_cast<float>(edge.y))
+    {
+        m_within.fill(0);
+        for (std::size_t k = 0; k < sampleOffsets.size(); ++k) {
+            const float inner = m_x * sampleOffsets[k].x + m_y * sampleOffsets[k].y;
+            // Within as soon as the distance of the middle makes up for where the sample lies.
+            const auto step = static_cast<int>((reach - inner) * steps + 1);
+            m_within[static_cast<std::size_t>(std::clamp(step, 1, size - 1))] |= std::uint64_t{1} << k;
+        }
+        for (std::size_t step = 1; step < m_within.size(); ++step)
+            m_within[step] |= m_within[step - 1];
+    }
+
+    float x() const { return m_x; }
+    float y() const { return m_y; }
+
+    std::uint64_t within(float distance) const
+    {
+        const float step = std::clamp((distance + reach) * steps + 0.5F, 0.0F, static_cast<float>(size - 1));
+        return m_within[static_cast<std::size_t>(step)];
+    }
+
+private:
+    static constexpr float reach = 0.7072F; // pixels from the middle of a pixel to its corner
+    static constexpr float steps = 64; // of a distance of one pixel
+    static constexpr int size = 93;
+
+    float m_x = 0;
+    float m_y = 0;
+    std::array<std::uint64_t, size> m_within;
+};
+
+int tileOf(double pixel, double tilePixels)
+{
+    return static_cast<int>(std::floor(pixel / tilePixels));
+}
+
+} // namespace
+
+/// What is added: the places within all of its edges.
+class StrokeMask::Shape
+{
+public:
+    Shape(const StrokePart &part, double from, double to)
+    {
+        const auto planes = edges(part);
+        for (std::size_t k = 0; k < planes.size(); ++k)
+            addEdge(planes[k], part.seams[k] ? overlap : 0);
+        if (!part.isJoin()) {
+            const HalfPlane along = lengthAlong(part);
+            const double slope = std::hypot(along.x, along.y);
+            if (to < part.to)
+                addEdge({-along.x / slope, -along.y / slope, (to - along.offset) / slope}, 0);
+            if (from > part.from)
+                addEdge({along.x / slope, along.y / slope, (along.offset - from) / slope}, overlap);
+        }
+        const auto [minX, maxX] = std::ranges::minmax(part.corners, {}, &Point::x);
+        const auto [minY, maxY] = std::ranges::minmax(part.corners, {}, &Point::y);
+        m_left = std::max(minX.x - 0.5, -1.0 * farthest);
+        m_right = std::min(maxX.x + 0.5, 1.0 * farthest);
+        m_top = std::max(minY.y - 0.5, -1.0 * farthest);
+        m_bottom = std::min(maxY.y + 0.5, 1.0 * farthest);
+    }
+
+    double left() const { return m_left; }
+    double top() const { return m_top; }
+    double right() const { return m_right; }
+    double bottom() const { return m_bottom; }
+
+    bool mayTouch(double left, double top, double width, double height) const
+    {
+        return std::ranges::all_of(std::span(m_edges).first(m_count), [&](const Edge &edge) {
+            return edge.plane.at({left + width / 2, top + height / 2}) + std::abs(edge.plane.x) * width / 2
+                + std::abs(edge.plane.y) * height / 2
+                > 0;
+        });
+    }
+
+    // Adds the shape to a block whose first pixel is given.
+    template <typename BlockOf>
+    void fill(int left, int top, BlockOf blockOf) const
+    {
+        std::array<float, mostEdges> distances;
+        const Point first{left + 0.5, top + 0.5};
+        for (std::size_t k = 0; k < m_count; ++k)
+            distances[k] = static_cast<float>(m_edges[k].plane.at(first));
+        for (int row = 0; row < side; ++row) {
+            // Where the row of pixels meets the shape at all.
+            float firstColumn = 0;
+            float lastColumn = side - 1;
+            for (std::size_t k = 0; k < m_count; ++k) {
+                const EdgeTable &table = m_edges[k].table;
+                const float margin = distances[k] + (std::abs(table.x()) + std::abs(table.y())) / 2;
+                if (table.x() > 1e-6F)
+                    firstColumn = std::max(firstColumn, -margin / table.x());
+                else if (table.x() < -1e-6F)
+                    lastColumn = std::min(lastColumn, -margin / table.x());
+                else if (margin < 0)
+                    lastColumn = -1;
+            }
+            for (int column = static_cast<int>(std::ceil(firstColumn)); static_cast<float>(column) <= lastColumn;
+                 ++column) {
+                std::uint64_t covered = ~std::uint64_t{0};
+                for (std::size_t k = 0; k < m_count; ++k) {
+                    const EdgeTable &table = m_edges[k].table;
+                    covered &= table.within(distances[k] + table.x() * static_cast<float>(column));
+                }
+                if (covered)
+                    blockOf()[static_cast<std::size_t>(row * side + column)] |= covered;
+            }
+            for (std::size_t k = 0; k < m_count; ++k)
+                distances[k] += m_edges[k].table.y();
+        }
+    }
+
+private:
+    static constexpr std::size_t mostEdges = 6;
+
+    struct Edge
+    {
+        HalfPlane plane;
+        EdgeTable table;
+    };
+
+    void addEdge(HalfPlane plane, double wider)
+    {
+        if (plane.x == 0 && plane.y == 0)
+            return;
+        plane.offset += wider;
+        m_edges[m_count++] = {plane, EdgeTable(plane)};
+    }
+
+    std::array<Edge, mostEdges> m_edges;
+    std::size_t m_count = 0;
+    double m_left;
+    double m_top;
+    double m_right;
+    double m_bottom;
+};
+
+void StrokeMask::add(const StrokePart &part, double from, double to)
+{
+    if (!part.isJoin() && (to <= part.from || from >= part.to))
+        return;
+    const Shape shape(part, from, to);
+    if (shape.left() >= shape.right() || shape.top() >= shape.bottom())
+        return;
+    const double tilePixels = tilePoints * m_scale;
+    const auto pixel = [](double place) { return static_cast<int>(std::floor(place)); };
+    for (int tileY = tileOf(shape.top(), tilePixels); tileY <= tileOf(shape.bottom() + 1, tilePixels); ++tileY) {
+        for (int tileX = tileOf(shape.left(), tilePixels); tileX <= tileOf(shape.right() + 1, tilePixels); ++tileX) {
+            const int left = firstPixel(tileX);
+            const int top = firstPixel(tileY);
+            const int width = firstPixel(tileX + 1) - left;
+            const int height = firstPixel(tileY + 1) - top;
+            if (!shape.mayTouch(left, top, width, height))
+                continue;
+            const int firstColumn = std::max(0, pixel(shape.left()) - left) / side;
+            const int lastColumn = std::min(width - 1, pixel(shape.right()) - left) / side;
+            const int firstRow = std::max(0, pixel(shape.top()) - top) / side;
+            const int lastRow = std::min(height - 1, pixel(shape.bottom()) - top) / side;
+            Tile *tile = nullptr;
+            for (int row = firstRow; row <= lastRow; ++row) {
+                for (int column = firstColumn; column <= lastColumn; ++column) {
+                    const int blockLeft = left + column * side;
+                    const int blockTop = top + row * side;
+                    if (!shape.mayTouch(blockLeft, blockTop, side, side))
+                        continue;
+                    Block *block = nullptr;
+                    shape.fill(blockLeft, blockTop, [&]() -> Block & {
+                        if (!tile)
+                            tile = &tileAt(tileX, tileY);
+                        if (!block)
+                            block = &blockAt(*tile, column, row);
+                        return *block;
+                    });
+                }
+            }
+        }
+    }
+}
+
+StrokeMask::Tile &StrokeMask::tileAt(int x, int y)
+{
+    const std::uint64_t key = std::uint64_t{static_cast<std::uint32_t>(y)} << 32 | static_cast<std::uint32_t>(x);
+    Tile &tile = m_tiles[key];
+    tile.isChanged = true;
+    if (tile.blocks.empty()) {
+        tile.x = x;
+        tile.y = y;
+        tile.left = firstPixel(x);
+        tile.top = firstPixel(y);
+        tile.width = firstPixel(x + 1) - tile.left;
+        tile.height = firstPixel(y + 1) - tile.top;
+        const int columns = (tile.width + side - 1) / side;
+        const int rows = (tile.height + side - 1) / side;
+        tile.blocks.assign(static_cast<std::size_t>(columns * rows), -1);
+    }
+    return tile;
+}
+
+StrokeMask::Block &StrokeMask::blockAt(Tile &tile, int column, int row)
+{
+    const int columns = (tile.width + side - 1) / side;
+    std::int32_t &index = tile.blocks[static_cast<std::size_t>(row * columns + column)];
+    if (index < 0) {
+        index = static_cast<std::int32_t>(m_blocks.size());
+        m_blocks.emplace_back();
+    }
+    return m_blocks[static_cast<std::size_t>(index)];
+}
+
+int StrokeMask::firstPixel(int tile) const
+{
+    return static_cast<int>(std::lround(tile * tilePoints * m_scale));
+}
+
+void StrokeMask::paint(const Tile &tile, const Colors &colors, std::uint32_t *pixels, std::ptrdiff_t stride) const
+{
+    const std::int32_t *index = tile.blocks.data();
+    for (int top = 0; top < tile.height; top += side) {
+        for (int left = 0; left < tile.width; left += side, ++index) {
+            if (*index < 0)
+                continue;
+            const std::uint64_t *covered = m_blocks[static_cast<std::size_t>(*index)].data();
+            const int width = std::min(side, tile.width - left);
+            const int height = std::min(side, tile.height - top);
+            for (int y = 0; y < height; ++y) {
+                std::uint32_t *row = pixels + (top + y) * stride + left;
+                for (int x = 0; x < width; ++x)
+                    row[x] = colors[static_cast<std::size_t>(std::popcount(covered[y * side + x]))];
+            }
+        }
+    }
+}
+
+void StrokeMask::clear()
+{
+    m_tiles.clear();
+    m_blocks.clear();
+}
+
+} // namespace TQFoundation

@@ -1,0 +1,146 @@
+#include "StrokeReference.h"
+
+#include <cairo.h>
+
+#include <array>
+#include <cmath>
+
+namespace TQFoundation::Testing {
+namespace {
+
+Point between(Point a, Point b, double share)
+{
+    return {a.x + (b.x - a.x) * share, a.y + (b.y - a.y) * share};
+}
+
+// The start of a curve, up to the given value of its parameter.
+CubicCurve startOfCurve(Point start, const CubicCurve &curve, double parameter)
+{
+    const Point a = between(start, curve.control1, parameter);
+    const Point b = between(curve.control1, curve.control2, parameter);
+    const Point c = between(curve.control2, curve.end, parameter);
+    const Point ab = between(a, b, parameter);
+    const Point bc = between(b, c, parameter);
+    return {a, ab, between(ab, bc, parameter)};
+}
+
+constexpr int steps = 20'000; // of a curve whose length is measured
+
+std::vector<double> lengths(Point start, const CubicCurve &curve)
+{
+    std::vector<double> sums{0};
+    Point former = start;
+    for (int step = 1; step <= steps; ++step) {
+        const Point place = startOfCurve(start, curve, static_cast<double>(step) / steps).end;
+        sums.push_back(sums.back() + std::hypot(place.x - former.x, place.y - former.y));
+        former = place;
+    }
+    return sums;
+}
+
+// With the closing line as a curve.
+Path withoutClosing(const Path &path)
+{
+    Path open{path.start, path.curves, false};
+    const Point end = path.curves.empty() ? path.start : path.curves.back().end;
+    if (path.isClosed && end != path.start)
+        open.curves.push_back({between(end, path.start, 1.0 / 3), between(end, path.start, 2.0 / 3), path.start});
+    return open;
+}
+
+} // namespace
+
+Path randomPath(std::mt19937_64 &random)
+{
+    const auto within = [&](double from, double to) {
+        return std::uniform_real_distribution<double>(from, to)(random);
+    };
+    // The quarters in the order of the line: top right, bottom right, bottom left, top left.
+    const auto inQuarter = [&](int quarter) {
+        const bool isRight = quarter < 2;
+        const bool isTop = quarter == 0 || quarter == 3;
+        return Point{isRight ? within(195, 390) : within(0, 195), isTop ? within(0, 422) : within(422, 844)};
+    };
+    Path path{inQuarter(0), {}, true};
+    for (const int quarter : {1, 2, 3})
+        path.curves.push_back({inQuarter(quarter), inQuarter(quarter), inQuarter(quarter)});
+    path.curves.push_back({inQuarter(0), inQuarter(0), path.start});
+    return path;
+}
+
+Path startOf(const Path &path, double strokeEnd)
+{
+    if (strokeEnd >= 1)
+        return path;
+    const Path whole = withoutClosing(path);
+    std::vector<std::vector<double>> measured;
+    double total = 0;
+    Point place = whole.start;
+    for (const CubicCurve &curve : whole.curves) {
+        measured.push_back(lengths(place, curve));
+        total += measured.back().back();
+        place = curve.end;
+    }
+    double left = total * strokeEnd;
+    Path part{whole.start, {}, false};
+    place = whole.start;
+    for (std::size_t index = 0; index < whole.curves.size(); ++index) {
+        const std::vector<double> &sums = measured[index];
+        if (left < sums.back()) {
+            std::size_t step = 1;
+            while (sums[step] < left)
+                ++step;
+            const double share = (left - sums[step - 1]) / (sums[step] - sums[step - 1]);
+            part.curves.push_back(
+                startOfCurve(place, whole.curves[index], (static_cast<double>(step - 1) + share) / steps));
+            return part;
+        }
+        left -= sums.back();
+        part.curves.push_back(whole.curves[index]);
+        place = whole.curves[index].end;
+    }
+    return part;
+}
+
+Coverage cairoStroke(const Path &path, double lineWidth, double strokeEnd, double scale, int width, int height)
+{
+    cairo_surface_t *surface = cairo_image_surface_create(CAIRO_FORMAT_A8, width, height);
+    cairo_t *context = cairo_create(surface);
+    cairo_scale(context, scale, scale);
+    cairo_set_tolerance(context, 0.01);
+    cairo_set_antialias(context, CAIRO_ANTIALIAS_BEST);
+    cairo_set_line_width(context, lineWidth);
+    cairo_set_line_join(context, CAIRO_LINE_JOIN_MITER);
+    cairo_set_miter_limit(context, 10);
+    cairo_set_line_cap(context, CAIRO_LINE_CAP_BUTT);
+    const Path part = startOf(path, strokeEnd);
+    cairo_move_to(context, part.start.x, part.start.y);
+    for (const CubicCurve &curve : part.curves) {
+        cairo_curve_to(context, curve.control1.x, curve.control1.y, curve.control2.x, curve.control2.y, curve.end.x,
+                       curve.end.y);
+    }
+    if (part.isClosed)
+        cairo_close_path(context);
+    cairo_stroke(context);
+    cairo_surface_flush(surface);
+    Coverage coverage{width, height, {}};
+    const unsigned char *bits = cairo_image_surface_get_data(surface);
+    const int stride = cairo_image_surface_get_stride(surface);
+    for (int y = 0; y < height; ++y)
+        coverage.pixels.insert(coverage.pixels.end(), bits + y * stride, bits + y * stride + width);
+    cairo_destroy(context);
+    cairo_surface_destroy(surface);
+    return coverage;
+}
+
+std::vector<Point> cornersAndEnd(const Path &path, double strokeEnd)
+{
+    std::vector<Point> places{path.start};
+    for (const CubicCurve &curve : path.curves)
+        places.push_back(curve.end);
+    const Path part = startOf(path, strokeEnd);
+    places.push_back(part.curves.empty() ? part.start : part.curves.back().end);
+    return places;
+}
+
+} // namespace TQFoundation::Testing

@@ -1,13 +1,343 @@
 #include "LayerNode.h"
 
-#include <QtQuick/qsgnode.h>
+#include "Layer.h"
+#include "Platform.h"
+#include "StrokeGeometry.h"
+#include "StrokeMask.h"
+
+#include <QtCore/qcoreapplication.h>
+#include <QtCore/qrunnable.h>
+#include <QtCore/qthread.h>
+#include <QtCore/qtimer.h>
+#include <QtGui/qimage.h>
+#include <QtGui/qpainter.h>
+#include <QtGui/qscreen.h>
+#include <QtQuick/qquickitem.h>
+#include <QtQuick/qquickwindow.h>
+#include <QtQuick/qsgrendernode.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <memory>
+#include <optional>
+#include <unordered_map>
+#include <utility>
 
 namespace TQFoundation {
+namespace {
 
-QSGNode *updateLayerNode(QSGNode *old, QQuickItem *, const ShapeLayer *)
+using Clock = std::chrono::steady_clock;
+using Seconds = std::chrono::duration<double>;
+
+/// Where a node lies.
+struct Placement
 {
-    delete old;
-    return nullptr;
+    QMatrix4x4 toScene; ///< From the node's coordinates to those of the window, or of the layer that it is drawn into.
+    bool isInWindow = true; ///< Whether it is drawn into the window itself.
+};
+
+Placement placement(const QSGNode *node)
+{
+    Placement found;
+    for (; node; node = node->parent()) {
+        if (node->type() == QSGNode::TransformNodeType)
+            found.toScene = static_cast<const QSGTransformNode *>(node)->matrix() * found.toScene;
+        if (node->type() == QSGNode::RootNodeType) {
+            found.isInWindow = !node->parent();
+            break;
+        }
+    }
+    return found;
+}
+
+/// Follows one layer in time. What draws it on one kind of scene graph derives from it.
+class LayerNode : public QSGNode
+{
+public:
+    explicit LayerNode(QQuickWindow *window) : m_window(window)
+    {
+        setFlag(UsePreprocess);
+        m_rendered = QObject::connect(
+            window, &QQuickWindow::afterRendering, window, [this] { askForFrame(); }, Qt::DirectConnection);
+        m_swapped = QObject::connect(
+            window, &QQuickWindow::frameSwapped, window, [this] { keepPace(); }, Qt::DirectConnection);
+    }
+
+    ~LayerNode() override
+    {
+        QObject::disconnect(m_rendered);
+        QObject::disconnect(m_swapped);
+    }
+
+    void setLayer(const ShapeLayer &layer)
+    {
+        const double rate = m_window->screen() ? m_window->screen()->refreshRate() : 60;
+        m_interval = Seconds(1 / std::clamp(rate, 1.0, 1000.0));
+        m_scale = m_window->effectiveDevicePixelRatio();
+        if (m_layer && m_layer->path == layer.path && m_layer->lineWidth == layer.lineWidth) {
+            m_layer = layer;
+            return;
+        }
+        m_layer = layer;
+        m_stroke = strokeGeometry(layer.path, layer.lineWidth);
+        m_bounds = {};
+        for (const StrokePart &part : m_stroke.parts) {
+            const auto [left, right] = std::ranges::minmax(part.corners, {}, &Point::x);
+            const auto [top, bottom] = std::ranges::minmax(part.corners, {}, &Point::y);
+            m_bounds |= QRectF(QPointF(left.x, top.y), QPointF(right.x, bottom.y));
+        }
+        strokeChanged();
+        markDirty(DirtyGeometry);
+    }
+
+    void preprocess() override
+    {
+        m_frameStart = Clock::now();
+        const Placement place = placement(this);
+        const double now = platform().mediaTime();
+        present(m_layer->presentation(now), place.toScene);
+        const bool isSeen = !place.isInWindow
+            || place.toScene.mapRect(m_bounds).intersects(QRectF(QPointF(), QSizeF(m_window->size())));
+        if (const auto next = m_layer->nextChange(now); next && isSeen)
+            m_wait = place.isInWindow ? *next - now : 0;
+        else
+            m_wait.reset();
+    }
+
+protected:
+    /// The stroke is another one.
+    virtual void strokeChanged() = 0;
+
+    /// Shows the layer like this. The node lies in the scene as the matrix says.
+    virtual void present(const Presentation &presentation, const QMatrix4x4 &toScene) = 0;
+
+    QQuickWindow *window() const { return m_window; }
+    const ShapeLayer &layer() const { return *m_layer; }
+    const StrokeGeometry &stroke() const { return m_stroke; }
+    double scale() const { return m_scale; }
+    void setScale(double scale) { m_scale = scale; }
+
+private:
+    // After the scene was rendered, because a change within preprocess() goes unnoticed where the node is drawn into a
+    // layer of the scene graph.
+    void askForFrame()
+    {
+        const std::optional<double> wait = std::exchange(m_wait, std::nullopt);
+        if (!wait)
+            return;
+        if (*wait > 0) {
+            wakeIn(*wait);
+            return;
+        }
+        markDirty(DirtyMaterial);
+        const Seconds passed = Clock::now() - m_frameStart;
+        if (isInMainThread() && isEarly(passed))
+            wakeIn(Seconds(m_interval - passed).count());
+        else
+            m_window->update();
+    }
+
+    // Where a display does not hold up those who draw faster than it shows, nobody else does. The main thread never
+    // sleeps here; its frames are put off instead.
+    void keepPace()
+    {
+        const Seconds passed = Clock::now() - m_frameStart;
+        if (!isInMainThread() && isEarly(passed))
+            QThread::usleep(static_cast<unsigned long>(Seconds(m_interval - passed).count() * 1e6));
+    }
+
+    // A display may take a few frames at once before it holds up the next.
+    bool isEarly(Seconds passed)
+    {
+        m_earlyFrames = passed < 0.75 * m_interval ? m_earlyFrames + 1 : 0;
+        return m_earlyFrames > 3;
+    }
+
+    static bool isInMainThread() { return QThread::currentThread() == QCoreApplication::instance()->thread(); }
+
+    // The scene graph's thread has no timers while it rests. The main thread's makes it go on without taking part.
+    void wakeIn(double seconds)
+    {
+        const auto wakesAt = Clock::now() + std::chrono::duration_cast<Clock::duration>(Seconds(seconds));
+        if (m_wakesAt > Clock::now() && m_wakesAt <= wakesAt + std::chrono::milliseconds(1))
+            return;
+        m_wakesAt = wakesAt;
+        const auto milliseconds = static_cast<int>(std::ceil(std::min(seconds, 1e6) * 1000));
+        const bool isThreaded = !isInMainThread();
+        const auto wake = [window = m_window, isThreaded] {
+            const auto update = [window] { window->update(); };
+            if (isThreaded && window->isExposed())
+                window->scheduleRenderJob(QRunnable::create(update), QQuickWindow::NoStage);
+            else
+                update();
+        };
+        const auto wait = [window = m_window, milliseconds, wake] {
+            QTimer::singleShot(milliseconds, Qt::PreciseTimer, window, wake);
+        };
+        QMetaObject::invokeMethod(m_window, wait);
+    }
+
+    QQuickWindow *m_window;
+    std::optional<ShapeLayer> m_layer;
+    StrokeGeometry m_stroke;
+    QRectF m_bounds;
+    double m_scale = 1;
+    Seconds m_interval{1.0 / 60};
+    Clock::time_point m_frameStart;
+    std::optional<double> m_wait; // seconds from the frame that is being drawn until it changes
+    Clock::time_point m_wakesAt;
+    int m_earlyFrames = 0;
+    QMetaObject::Connection m_rendered;
+    QMetaObject::Connection m_swapped;
+};
+
+/// Draws on the software backend, which has no geometry of its own: square by square, and only where something changed.
+class MaskedLayerNode final : public LayerNode
+{
+public:
+    explicit MaskedLayerNode(QQuickWindow *window) : LayerNode(window)
+    {
+        m_toWindow.setFlag(OwnedByParent, false);
+        appendChildNode(&m_toWindow);
+    }
+
+    ~MaskedLayerNode() override { forget(); }
+
+protected:
+    void strokeChanged() override { m_isCurrent = false; }
+
+    void present(const Presentation &presentation, const QMatrix4x4 &toScene) override
+    {
+        const double end = presentation.strokeEnd * stroke().length;
+        if (!m_isCurrent || m_toScene != toScene || m_mask.scale() != scale() || end < m_mask.drawnLength())
+            startAnew(toScene);
+        const bool isRecolored = setColor(layer().strokeColor, presentation.opacity);
+        m_mask.drawUpTo(end);
+        for (auto &[place, tile] : m_mask.tiles()) {
+            std::unique_ptr<TileNode> &node = m_nodes[place];
+            if (!node) {
+                node = std::make_unique<TileNode>(*this, tile);
+                m_toWindow.appendChildNode(node.get());
+            } else if (tile.isChanged || isRecolored) {
+                node->markDirty(DirtyMaterial);
+            }
+            tile.isChanged = false;
+        }
+    }
+
+private:
+    /// One square of the picture.
+    class TileNode final : public QSGRenderNode
+    {
+    public:
+        TileNode(MaskedLayerNode &layer, const StrokeMask::Tile &tile) : m_layer(layer), m_tile(tile)
+        {
+            setFlag(OwnedByParent, false);
+        }
+
+        RenderingFlags flags() const override { return BoundedRectRendering; }
+        StateFlags changedStates() const override { return {}; }
+
+        // A little smaller, so that what the renderer rounds up does not reach into the next one.
+        QRectF rect() const override
+        {
+            const double scale = m_layer.m_mask.scale();
+            return QRectF(m_tile.left / scale, m_tile.top / scale, m_tile.width / scale, m_tile.height / scale)
+                .adjusted(0.01, 0.01, -0.01, -0.01);
+        }
+
+        void render(const RenderState *state) override { m_layer.paint(m_tile, *state, inheritedOpacity()); }
+
+    private:
+        MaskedLayerNode &m_layer;
+        const StrokeMask::Tile &m_tile;
+    };
+
+    void forget()
+    {
+        m_toWindow.removeAllChildNodes();
+        m_nodes.clear();
+        m_mask = {};
+    }
+
+    void startAnew(const QMatrix4x4 &toScene)
+    {
+        forget();
+        m_isCurrent = true;
+        m_toScene = toScene;
+        bool isInvertible = false;
+        m_toWindow.setMatrix(toScene.inverted(&isInvertible));
+        if (!isInvertible)
+            return;
+        StrokeGeometry inPixels = stroke();
+        for (StrokePart &part : inPixels.parts) {
+            for (Point &corner : part.corners) {
+                const QPointF pixel = toScene.map(QPointF(corner.x, corner.y)) * scale();
+                corner = {pixel.x(), pixel.y()};
+            }
+        }
+        m_mask = StrokeMask(std::move(inPixels), scale());
+    }
+
+    bool setColor(const Rgba &color, double opacity)
+    {
+        if (m_color == color && m_opacity == opacity)
+            return false;
+        m_color = color;
+        m_opacity = opacity;
+        for (int covered = 0; covered <= StrokeMask::samples; ++covered) {
+            const double alpha = opacity * static_cast<double>(color.alpha) * covered / StrokeMask::samples;
+            const auto byte = [&](float part) {
+                return static_cast<int>(std::lround(255 * alpha * static_cast<double>(part)));
+            };
+            m_colors[static_cast<std::size_t>(covered)] =
+                qRgba(byte(color.red), byte(color.green), byte(color.blue), byte(1));
+        }
+        return true;
+    }
+
+    void paint(const StrokeMask::Tile &tile, const QSGRenderNode::RenderState &state, double opacity)
+    {
+        auto *painter = static_cast<QPainter *>(
+            window()->rendererInterface()->getResource(window(), QSGRendererInterface::PainterResource));
+        if (const double now = painter->device()->devicePixelRatioF(); now != scale())
+            setScale(now);
+        m_picture.assign(static_cast<std::size_t>(tile.width) * static_cast<std::size_t>(tile.height), 0);
+        m_mask.paint(tile, m_colors, m_picture.data(), tile.width);
+        QImage image(reinterpret_cast<const uchar *>(m_picture.data()), tile.width, tile.height, 4 * tile.width,
+                     QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(m_mask.scale());
+        painter->setWorldTransform({});
+        painter->setClipRegion(*state.clipRegion(), Qt::ReplaceClip);
+        painter->setOpacity(opacity);
+        painter->drawImage(QPointF(tile.left, tile.top) / m_mask.scale(), image);
+    }
+
+    bool m_isCurrent = false;
+    QMatrix4x4 m_toScene;
+    QSGTransformNode m_toWindow; // undoes the matrix, because the squares lie on the pixels of the window
+    StrokeMask m_mask;
+    Rgba m_color;
+    double m_opacity = -1;
+    StrokeMask::Colors m_colors{};
+    std::unordered_map<std::uint64_t, std::unique_ptr<TileNode>> m_nodes;
+    std::vector<std::uint32_t> m_picture; // of the tile that is being painted
+};
+
+} // namespace
+
+QSGNode *updateLayerNode(QSGNode *old, QQuickItem *item, const ShapeLayer *layer)
+{
+    auto *node = static_cast<LayerNode *>(old);
+    if (!layer) {
+        delete node;
+        return nullptr;
+    }
+    if (!node)
+        node = new MaskedLayerNode(item->window());
+    node->setLayer(*layer);
+    return node;
 }
 
 } // namespace TQFoundation

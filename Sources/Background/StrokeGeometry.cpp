@@ -73,10 +73,12 @@ struct Stretch
 {
     Point start;
     Point end;
-    Point startNormal; ///< Of length 1, to the left of where the line goes.
+    Point startNormal; ///< Of length 1, to the left of where the line goes; it is cut off along it.
     Point endNormal;
     double length = 0;
     bool startsCurve = false; ///< Whether it is the first one of a curve of the path.
+    Point departure; ///< The normal of the curve itself where the stretch starts.
+    Point arrival; ///< And where it ends.
 };
 
 using Cubic = std::array<Point, 4>;
@@ -99,12 +101,14 @@ public:
     void add(const Cubic &curve)
     {
         m_startsCurve = true;
+        m_departure.reset();
         add(curve, 0);
     }
 
     void addLine(Point start, Point end)
     {
         m_startsCurve = true;
+        m_departure.reset();
         add({start, start + (1.0 / 3) * (end - start), end - (1.0 / 3) * (end - start), end}, deepest);
     }
 
@@ -118,14 +122,14 @@ private:
         const double around = length(a) + length(curve[2] - curve[1]) + length(curve[3] - curve[2]);
         // Gravesen, "Adaptive subdivision and the length and energy of Bézier curves", 1997.
         const double arc = (2 * size + 2 * around) / 4;
-        if (around < tiny) {
-            m_skipped += arc;
-            return;
-        }
         const std::array fromStart{a, b, chord};
         const std::array toEnd{curve[3] - curve[2], curve[3] - curve[1], chord};
         const std::optional<Point> startDirection = direction(fromStart);
         const std::optional<Point> endDirection = direction(toEnd);
+        if (around < tiny) {
+            skip(arc, startDirection, endDirection);
+            return;
+        }
         const double along = size * size;
         const bool isStraight = startDirection && endDirection && size > 0
             && dot(*startDirection, *endDirection) >= sharpest && dot(a, chord) >= 0 && dot(b, chord) <= along
@@ -144,11 +148,15 @@ private:
             return;
         }
         if (size < tiny / 4) {
-            m_skipped += arc;
+            skip(arc, startDirection, endDirection);
             return;
         }
-        Stretch stretch{curve[0], curve[3], turnedLeft((1 / size) * chord), {}, m_skipped + arc, m_startsCurve};
-        stretch.endNormal = stretch.startNormal;
+        const Point normal = turnedLeft((1 / size) * chord);
+        Stretch stretch{curve[0], curve[3], normal, normal, m_skipped + arc, m_startsCurve, normal, normal};
+        if (startDirection && endDirection) {
+            stretch.departure = m_departure.value_or(turnedLeft(*startDirection));
+            stretch.arrival = turnedLeft(*endDirection);
+        }
         if (isStraight) {
             stretch.startNormal = turnedLeft(*startDirection);
             stretch.endNormal = turnedLeft(*endDirection);
@@ -156,10 +164,24 @@ private:
         stretches.push_back(stretch);
         m_skipped = 0;
         m_startsCurve = false;
+        m_departure.reset();
+    }
+
+    // Where the line goes at its corners matters even when it does not get far that way.
+    void skip(double arc, const std::optional<Point> &startDirection, const std::optional<Point> &endDirection)
+    {
+        m_skipped += arc;
+        if (!startDirection || !endDirection)
+            return;
+        if (m_startsCurve && !m_departure)
+            m_departure = turnedLeft(*startDirection);
+        if (!stretches.empty())
+            stretches.back().arrival = turnedLeft(*endDirection);
     }
 
     double m_skipped = 0; // the length of what was too short to count since the last stretch
     bool m_startsCurve = true;
+    std::optional<Point> m_departure; // of what was too short at the start of a curve
 };
 
 class Stroker
@@ -197,9 +219,12 @@ private:
             stretch.startNormal = stretch.endNormal = turnedLeft((1 / size) * chord);
     }
 
+    static bool areEqual(Point one, Point other) { return dot(one, other) > 1 - 1e-6; }
+
     static bool isSmooth(const Stretch &before, const Stretch &after)
     {
-        return dot(before.endNormal, after.startNormal) > 1 - 1e-6;
+        return areEqual(before.endNormal, after.startNormal)
+            && (!after.startsCurve || areEqual(before.arrival, after.departure));
     }
 
     void addStretch(const Stretch &stretch, bool goesOn)
@@ -219,27 +244,48 @@ private:
 
     void addJoin(const Stretch &before, const Stretch &after)
     {
-        const double turn =
-            std::atan2(cross(before.endNormal, after.startNormal), dot(before.endNormal, after.startNormal));
-        const Point corner = before.end;
-        const Point outwards = (turn > 0 ? -m_half : m_half) * before.endNormal;
-        const auto rim = [&](double share) { return corner + turned(outwards, share * turn); };
-        const auto add = [&](Point first, Point second, Point third) {
-            m_geometry.parts.push_back(
-                {{corner, first, second, third}, {true, false, false, true}, m_geometry.length, m_geometry.length});
-        };
-        if (after.startsCurve) {
-            const double slimness = std::cos(turn / 2);
-            if (slimness * miterLimit >= 1)
-                add(rim(0), corner + (1 / slimness) * turned(outwards, turn / 2), rim(1));
-            else
-                add(rim(0), rim(1), rim(1));
+        if (!after.startsCurve) {
+            addRound(before.end, before.endNormal, after.startNormal);
             return;
         }
+        addRound(before.end, before.endNormal, before.arrival);
+        addMiter(before.end, before.arrival, after.departure);
+        addRound(before.end, after.departure, after.startNormal);
+    }
+
+    void addMiter(Point corner, Point before, Point after)
+    {
+        if (areEqual(before, after))
+            return;
+        const double turn = std::atan2(cross(before, after), dot(before, after));
+        const Point outwards = (turn > 0 ? -m_half : m_half) * before;
+        const Point first = corner + outwards;
+        const Point last = corner + turned(outwards, turn);
+        const double slimness = std::cos(turn / 2);
+        if (slimness * miterLimit >= 1)
+            addPart(corner, first, corner + (1 / slimness) * turned(outwards, turn / 2), last);
+        else
+            addPart(corner, first, last, last);
+    }
+
+    void addRound(Point corner, Point before, Point after)
+    {
+        if (areEqual(before, after))
+            return;
+        const double turn = std::atan2(cross(before, after), dot(before, after));
+        const Point outwards = (turn > 0 ? -m_half : m_half) * before;
         const double widest = 2 * std::acos(1 - std::min(strokeTolerance / m_half, 0.5));
         const int pairs = std::max(1, static_cast<int>(std::ceil(std::abs(turn) / (2 * widest))));
-        for (int pair = 0; pair < pairs; ++pair)
-            add(rim(static_cast<double>(pair) / pairs), rim((pair + 0.5) / pairs), rim((pair + 1.0) / pairs));
+        for (int pair = 0; pair < pairs; ++pair) {
+            const auto rim = [&](double share) { return corner + turned(outwards, (pair + share) / pairs * turn); };
+            addPart(corner, rim(0), rim(0.5), rim(1));
+        }
+    }
+
+    void addPart(Point corner, Point first, Point second, Point third)
+    {
+        m_geometry.parts.push_back(
+            {{corner, first, second, third}, {true, false, false, true}, m_geometry.length, m_geometry.length});
     }
 
     std::span<Stretch> m_stretches;

@@ -34,7 +34,7 @@ struct StrokeGeometry
 };
 
 /// How far a part may lie from the curve that it stands for, in points. A third of it shows at three pixels per point.
-inline constexpr double strokeTolerance = 0.03;
+inline constexpr double strokeTolerance = 0.02;
 
 /// The stroke of \a path with a line of \a lineWidth points, with mitred joins up to ten times the width and butt ends.
 ///

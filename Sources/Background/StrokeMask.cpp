@@ -174,11 +174,24 @@ private:
     double m_bottom;
 };
 
-void StrokeMask::add(const StrokePart &part, double from, double to)
+void StrokeMask::drawUpTo(double length)
 {
-    if (!part.isJoin() && (to <= part.from || from >= part.to))
+    if (!(length > m_drawn))
         return;
-    const Shape shape(part, from, to);
+    for (; m_next < m_stroke.parts.size(); ++m_next) {
+        const StrokePart &part = m_stroke.parts[m_next];
+        if (part.from >= length && !(part.isJoin() && length >= m_stroke.length))
+            break;
+        add(part, length);
+        if (part.to > length)
+            break;
+    }
+    m_drawn = length;
+}
+
+void StrokeMask::add(const StrokePart &part, double to)
+{
+    const Shape shape(part, m_drawn, to);
     if (shape.left() >= shape.right() || shape.top() >= shape.bottom())
         return;
     const double tilePixels = tilePoints * m_scale;
@@ -268,12 +281,6 @@ void StrokeMask::paint(const Tile &tile, const Colors &colors, std::uint32_t *pi
             }
         }
     }
-}
-
-void StrokeMask::clear()
-{
-    m_tiles.clear();
-    m_blocks.clear();
 }
 
 } // namespace TQFoundation

@@ -24,7 +24,7 @@ CubicCurve startOfCurve(Point start, const CubicCurve &curve, double parameter)
     return {a, ab, between(ab, bc, parameter)};
 }
 
-constexpr int steps = 20'000; // of a curve whose length is measured
+constexpr int steps = 4000; // of a curve whose length is measured
 
 std::vector<double> lengths(Point start, const CubicCurve &curve)
 {

@@ -4,6 +4,7 @@
 #include "Platform.h"
 #include "StrokeGeometry.h"
 #include "StrokeMask.h"
+#include "StrokeMesh.h"
 
 #include <QtCore/qcoreapplication.h>
 #include <QtCore/qrunnable.h>
@@ -14,11 +15,15 @@
 #include <QtGui/qscreen.h>
 #include <QtQuick/qquickitem.h>
 #include <QtQuick/qquickwindow.h>
+#include <QtQuick/qsggeometry.h>
+#include <QtQuick/qsgmaterial.h>
+#include <QtQuick/qsgmaterialshader.h>
 #include <QtQuick/qsgrendernode.h>
 
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <cstring>
 #include <memory>
 #include <optional>
 #include <unordered_map>
@@ -325,6 +330,150 @@ private:
     std::vector<std::uint32_t> m_picture; // of the tile that is being painted
 };
 
+/// How the triangles of a mesh are painted: as a band, or as squares.
+class StrokeMaterial final : public QSGMaterial
+{
+public:
+    enum class Kind { band, square };
+
+    explicit StrokeMaterial(Kind kind) : m_kind(kind)
+    {
+        // Nothing is gained from drawing it together with other nodes, and the length of the line would not fit in.
+        setFlag(Blending | RequiresFullMatrix);
+    }
+
+    QVector4D color; // premultiplied
+    float end = 0; // the length of the line that is drawn
+
+    QSGMaterialType *type() const override
+    {
+        static std::array<QSGMaterialType, 2> types;
+        return &types[static_cast<std::size_t>(m_kind)];
+    }
+
+    QSGMaterialShader *createShader(QSGRendererInterface::RenderMode) const override { return new Shader(m_kind); }
+
+    int compare(const QSGMaterial *other) const override { return this < other ? -1 : this > other ? 1 : 0; }
+
+private:
+    class Shader final : public QSGMaterialShader
+    {
+    public:
+        explicit Shader(Kind kind)
+        {
+            const QString file = QStringLiteral(":/qt-project.org/imports/TQFoundation/Shaders/")
+                + (kind == Kind::band ? QStringLiteral("band") : QStringLiteral("square"));
+            setShaderFileName(VertexStage, file + QStringLiteral(".vert.qsb"));
+            setShaderFileName(FragmentStage, file + QStringLiteral(".frag.qsb"));
+        }
+
+        bool updateUniformData(RenderState &state, QSGMaterial *newMaterial, QSGMaterial *) override
+        {
+            const auto &material = *static_cast<StrokeMaterial *>(newMaterial);
+            const QVector4D color = material.color * state.opacity();
+            char *data = state.uniformData()->data();
+            if (state.isMatrixDirty())
+                std::memcpy(data, state.combinedMatrix().constData(), 64);
+            std::memcpy(data + 64, &color, 16);
+            std::memcpy(data + 80, &material.end, 4);
+            return true;
+        }
+    };
+
+    Kind m_kind;
+};
+
+/// Triangles of a stroke that are painted alike.
+class TrianglesNode final : public QSGGeometryNode
+{
+public:
+    TrianglesNode(StrokeMaterial::Kind kind, const QSGGeometry::AttributeSet &attributes)
+        : material(kind),
+          m_geometry(attributes, 0, 0, QSGGeometry::UnsignedIntType)
+    {
+        m_geometry.setDrawingMode(QSGGeometry::DrawTriangles);
+        setGeometry(&m_geometry);
+        setMaterial(&material);
+        setFlag(OwnedByParent, false);
+    }
+
+    template <typename Vertex>
+    void setTriangles(const std::vector<Vertex> &vertices, const std::vector<std::uint32_t> &indices)
+    {
+        m_geometry.allocate(static_cast<int>(vertices.size()), static_cast<int>(indices.size()));
+        std::ranges::copy(vertices, static_cast<Vertex *>(m_geometry.vertexData()));
+        std::ranges::copy(indices, m_geometry.indexDataAsUInt());
+        markDirty(DirtyGeometry);
+    }
+
+    bool isEmpty() const { return m_geometry.vertexCount() == 0; }
+
+    StrokeMaterial material;
+
+private:
+    QSGGeometry m_geometry;
+};
+
+const QSGGeometry::AttributeSet &bandAttributes()
+{
+    static const std::array attributes{QSGGeometry::Attribute::create(0, 2, QSGGeometry::FloatType, true),
+                                       QSGGeometry::Attribute::create(1, 3, QSGGeometry::FloatType)};
+    static const QSGGeometry::AttributeSet set{attributes.size(), sizeof(StrokeMesh::BandVertex), attributes.data()};
+    return set;
+}
+
+const QSGGeometry::AttributeSet &squareAttributes()
+{
+    static const std::array attributes{QSGGeometry::Attribute::create(0, 2, QSGGeometry::FloatType, true),
+                                       QSGGeometry::Attribute::create(1, 4, QSGGeometry::FloatType),
+                                       QSGGeometry::Attribute::create(2, 4, QSGGeometry::FloatType),
+                                       QSGGeometry::Attribute::create(3, 4, QSGGeometry::FloatType),
+                                       QSGGeometry::Attribute::create(4, 4, QSGGeometry::FloatType),
+                                       QSGGeometry::Attribute::create(5, 4, QSGGeometry::FloatType),
+                                       QSGGeometry::Attribute::create(6, 4, QSGGeometry::FloatType),
+                                       QSGGeometry::Attribute::create(7, 1, QSGGeometry::FloatType)};
+    static const QSGGeometry::AttributeSet set{attributes.size(), sizeof(StrokeMesh::SquareVertex), attributes.data()};
+    return set;
+}
+
+/// Draws with a graphics processor: the triangles of the whole line once, and two numbers in each frame.
+class MeshLayerNode final : public LayerNode
+{
+public:
+    explicit MeshLayerNode(QQuickWindow *window) : LayerNode(window) {}
+    ~MeshLayerNode() override { removeAllChildNodes(); }
+
+protected:
+    void strokeChanged() override
+    {
+        const StrokeMesh mesh = strokeMesh(stroke());
+        removeAllChildNodes();
+        m_band.setTriangles(mesh.band, mesh.bandIndices);
+        m_squares.setTriangles(mesh.squares, mesh.squareIndices);
+        for (TrianglesNode *node : {&m_band, &m_squares}) {
+            if (!node->isEmpty())
+                appendChildNode(node);
+        }
+    }
+
+    void present(const Presentation &presentation, const QMatrix4x4 &) override
+    {
+        const Rgba &color = layer().strokeColor;
+        const float alpha = color.alpha * static_cast<float>(presentation.opacity);
+        // Beyond the end, so that nothing of the last pixels is lost to rounding.
+        const double length = stroke().length;
+        const double end = presentation.strokeEnd >= 1 ? 2 * length + 1 : presentation.strokeEnd * length;
+        for (TrianglesNode *node : {&m_band, &m_squares}) {
+            node->material.color = QVector4D(color.red * alpha, color.green * alpha, color.blue * alpha, alpha);
+            node->material.end = static_cast<float>(end);
+        }
+    }
+
+private:
+    TrianglesNode m_band{StrokeMaterial::Kind::band, bandAttributes()};
+    TrianglesNode m_squares{StrokeMaterial::Kind::square, squareAttributes()};
+};
+
 } // namespace
 
 QSGNode *updateLayerNode(QSGNode *old, QQuickItem *item, const ShapeLayer *layer)
@@ -334,8 +483,13 @@ QSGNode *updateLayerNode(QSGNode *old, QQuickItem *item, const ShapeLayer *layer
         delete node;
         return nullptr;
     }
-    if (!node)
-        node = new MaskedLayerNode(item->window());
+    if (!node) {
+        QQuickWindow *window = item->window();
+        if (QSGRendererInterface::isApiRhiBased(window->rendererInterface()->graphicsApi()))
+            node = new MeshLayerNode(window);
+        else
+            node = new MaskedLayerNode(window);
+    }
     node->setLayer(*layer);
     return node;
 }

@@ -1,0 +1,37 @@
+#version 440
+
+layout(location = 0) in vec2 place;
+layout(location = 1) in vec4 edges0; // the distances to the edges of each part
+layout(location = 2) in vec4 edges1;
+layout(location = 3) in vec4 edges2;
+layout(location = 4) in vec4 edges3;
+layout(location = 5) in vec4 edges4;
+layout(location = 6) in vec4 lengths; // the length of the line within the first four
+layout(location = 7) in float length4;
+
+layout(location = 0) out vec4 within0;
+layout(location = 1) out vec4 within1;
+layout(location = 2) out vec4 within2;
+layout(location = 3) out vec4 within3;
+layout(location = 4) out vec4 within4;
+layout(location = 5) out vec4 left; // the length that is left until the end of what is drawn
+layout(location = 6) out float left4;
+
+layout(std140, binding = 0) uniform Layer
+{
+    mat4 qt_Matrix;
+    vec4 color; // premultiplied
+    float end; // the length of the line that is drawn
+};
+
+void main()
+{
+    within0 = edges0;
+    within1 = edges1;
+    within2 = edges2;
+    within3 = edges3;
+    within4 = edges4;
+    left = end - lengths;
+    left4 = end - length4;
+    gl_Position = qt_Matrix * vec4(place, 0.0, 1.0);
+}

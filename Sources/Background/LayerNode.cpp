@@ -56,8 +56,8 @@ Placement placement(const QSGNode *node)
     return found;
 }
 
-/// Follows one layer in time. What draws it on one kind of scene graph derives from it.
-class LayerNode : public QSGNode
+/// Follows one layer in time. What draws it on one kind of scene graph derives from it, and may set the matrix.
+class LayerNode : public QSGTransformNode
 {
 public:
     explicit LayerNode(QQuickWindow *window) : m_window(window)
@@ -99,7 +99,7 @@ public:
     void preprocess() override
     {
         m_frameStart = Clock::now();
-        const Placement place = placement(this);
+        const Placement place = placement(parent());
         const double now = platform().mediaTime();
         present(m_layer->presentation(now), place.toScene);
         const bool isSeen = !place.isInWindow
@@ -201,12 +201,7 @@ private:
 class MaskedLayerNode final : public LayerNode
 {
 public:
-    explicit MaskedLayerNode(QQuickWindow *window) : LayerNode(window)
-    {
-        m_toWindow.setFlag(OwnedByParent, false);
-        appendChildNode(&m_toWindow);
-    }
-
+    explicit MaskedLayerNode(QQuickWindow *window) : LayerNode(window) {}
     ~MaskedLayerNode() override { forget(); }
 
 protected:
@@ -223,7 +218,7 @@ protected:
             std::unique_ptr<TileNode> &node = m_nodes[place];
             if (!node) {
                 node = std::make_unique<TileNode>(*this, tile);
-                m_toWindow.appendChildNode(node.get());
+                appendChildNode(node.get());
             } else if (tile.isChanged || isRecolored) {
                 node->markDirty(DirtyMaterial);
             }
@@ -261,7 +256,7 @@ private:
 
     void forget()
     {
-        m_toWindow.removeAllChildNodes();
+        removeAllChildNodes();
         m_nodes.clear();
         m_mask = {};
     }
@@ -272,7 +267,8 @@ private:
         m_isCurrent = true;
         m_toScene = toScene;
         bool isInvertible = false;
-        m_toWindow.setMatrix(toScene.inverted(&isInvertible));
+        // The squares lie on the pixels of the window.
+        setMatrix(toScene.inverted(&isInvertible));
         if (!isInvertible)
             return;
         StrokeGeometry inPixels = stroke();
@@ -321,7 +317,6 @@ private:
 
     bool m_isCurrent = false;
     QMatrix4x4 m_toScene;
-    QSGTransformNode m_toWindow; // undoes the matrix, because the squares lie on the pixels of the window
     StrokeMask m_mask;
     Rgba m_color;
     double m_opacity = -1;

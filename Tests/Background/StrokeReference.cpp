@@ -2,8 +2,10 @@
 
 #include <cairo.h>
 
-#include <array>
+#include <algorithm>
 #include <cmath>
+#include <numeric>
+#include <sstream>
 
 namespace TQFoundation::Testing {
 namespace {
@@ -48,26 +50,7 @@ Path withoutClosing(const Path &path)
     return open;
 }
 
-} // namespace
-
-Path randomPath(std::mt19937_64 &random)
-{
-    const auto within = [&](double from, double to) {
-        return std::uniform_real_distribution<double>(from, to)(random);
-    };
-    // The quarters in the order of the line: top right, bottom right, bottom left, top left.
-    const auto inQuarter = [&](int quarter) {
-        const bool isRight = quarter < 2;
-        const bool isTop = quarter == 0 || quarter == 3;
-        return Point{isRight ? within(195, 390) : within(0, 195), isTop ? within(0, 422) : within(422, 844)};
-    };
-    Path path{inQuarter(0), {}, true};
-    for (const int quarter : {1, 2, 3})
-        path.curves.push_back({inQuarter(quarter), inQuarter(quarter), inQuarter(quarter)});
-    path.curves.push_back({inQuarter(0), inQuarter(0), path.start});
-    return path;
-}
-
+// The part of the path that has the given share of its length; an open line unless that is all.
 Path startOf(const Path &path, double strokeEnd)
 {
     if (strokeEnd >= 1)
@@ -102,6 +85,48 @@ Path startOf(const Path &path, double strokeEnd)
     return part;
 }
 
+// The corners of the path where its curves join, and the place where the share of its length ends.
+std::vector<Point> cornersAndEnd(const Path &path, double strokeEnd)
+{
+    std::vector<Point> places{path.start};
+    for (const CubicCurve &curve : path.curves)
+        places.push_back(curve.end);
+    const Path part = startOf(path, strokeEnd);
+    places.push_back(part.curves.empty() ? part.start : part.curves.back().end);
+    return places;
+}
+
+// What of one pixel is covered, where Cairo's own steps are too coarse to tell: drawn sixteen times as large.
+double enlarged(const Path &path, double strokeEnd, double scale, int x, int y)
+{
+    const auto moved = [&](Point place) { return Point{place.x - x / scale, place.y - y / scale}; };
+    Path around{moved(path.start), {}, path.isClosed};
+    for (const CubicCurve &curve : path.curves)
+        around.curves.push_back({moved(curve.control1), moved(curve.control2), moved(curve.end)});
+    const Coverage large = cairoStroke(around, 2, strokeEnd, 16 * scale, 16, 16);
+    return std::accumulate(large.pixels.begin(), large.pixels.end(), 0.0) / static_cast<double>(large.pixels.size());
+}
+
+} // namespace
+
+Path randomPath(std::mt19937_64 &random)
+{
+    const auto within = [&](double from, double to) {
+        return std::uniform_real_distribution<double>(from, to)(random);
+    };
+    // The quarters in the order of the line: top right, bottom right, bottom left, top left.
+    const auto inQuarter = [&](int quarter) {
+        const bool isRight = quarter < 2;
+        const bool isTop = quarter == 0 || quarter == 3;
+        return Point{isRight ? within(195, 390) : within(0, 195), isTop ? within(0, 422) : within(422, 844)};
+    };
+    Path path{inQuarter(0), {}, true};
+    for (const int quarter : {1, 2, 3})
+        path.curves.push_back({inQuarter(quarter), inQuarter(quarter), inQuarter(quarter)});
+    path.curves.push_back({inQuarter(0), inQuarter(0), path.start});
+    return path;
+}
+
 Coverage cairoStroke(const Path &path, double lineWidth, double strokeEnd, double scale, int width, int height)
 {
     cairo_surface_t *surface = cairo_image_surface_create(CAIRO_FORMAT_A8, width, height);
@@ -133,14 +158,26 @@ Coverage cairoStroke(const Path &path, double lineWidth, double strokeEnd, doubl
     return coverage;
 }
 
-std::vector<Point> cornersAndEnd(const Path &path, double strokeEnd)
+std::string differences(const Path &path, double strokeEnd, double scale, int width, int height, const Darkness &shown)
 {
-    std::vector<Point> places{path.start};
-    for (const CubicCurve &curve : path.curves)
-        places.push_back(curve.end);
-    const Path part = startOf(path, strokeEnd);
-    places.push_back(part.curves.empty() ? part.start : part.curves.back().end);
-    return places;
+    constexpr double alpha = 0.2;
+    const std::vector<Point> corners = cornersAndEnd(path, strokeEnd);
+    const Coverage reference = cairoStroke(path, 2, strokeEnd, scale, width, height);
+    std::ostringstream found;
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const double darkness = shown(x, y);
+            if (std::abs(darkness - alpha * reference.at(x, y)) <= 8)
+                continue;
+            const bool isAtCorner = std::ranges::any_of(corners, [&](Point corner) {
+                return std::hypot(corner.x - (x + 0.5) / scale, corner.y - (y + 0.5) / scale) < 3;
+            });
+            const double expected = alpha * enlarged(path, strokeEnd, scale, x, y);
+            if (std::abs(darkness - expected) > (isAtCorner ? 20 : 8))
+                found << x << ',' << y << " is " << darkness << " instead of " << expected << "; ";
+        }
+    }
+    return found.str();
 }
 
 } // namespace TQFoundation::Testing

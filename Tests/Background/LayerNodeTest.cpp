@@ -1,0 +1,593 @@
+#include "LayerItem.h"
+#include "RecordingPlatform.h"
+#include "StrokeReference.h"
+
+#include <QtCore/qelapsedtimer.h>
+#include <QtGui/qscreen.h>
+#include <QtQuick/qquickwindow.h>
+#include <QtQuick/qsgsimplerectnode.h>
+#include <QtTest/qtest.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+
+namespace TQFoundation {
+namespace {
+
+using Testing::InstalledRecordingPlatform;
+using Testing::LayerItem;
+
+constexpr int darkest = 51; // of a line with an alpha of 0.2
+
+int darkness(const QImage &picture, int x, int y)
+{
+    return 255 - qGray(picture.pixel(x, y));
+}
+
+// The darkest pixel of a picture, or of a part of it.
+int darkestOf(const QImage &picture, QRect area = {})
+{
+    if (area.isNull())
+        area = picture.rect();
+    int most = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x)
+            most = std::max(most, darkness(picture, x, y));
+    }
+    return most;
+}
+
+// How far the most different pixels of two pictures are apart.
+int farthest(const QImage &one, const QImage &other)
+{
+    EXPECT_EQ(one.size(), other.size());
+    int most = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x)
+            most = std::max(most, std::abs(darkness(one, x, y) - darkness(other, x, y)));
+    }
+    return most;
+}
+
+Path straight(Point start, Point end)
+{
+    return {start, {CubicCurve{start, end, end}}};
+}
+
+Path moved(Path path, const QTransform &transform)
+{
+    const auto move = [&](Point &place) {
+        const QPointF there = transform.map(QPointF(place.x, place.y));
+        place = {there.x(), there.y()};
+    };
+    move(path.start);
+    for (CubicCurve &curve : path.curves) {
+        move(curve.control1);
+        move(curve.control2);
+        move(curve.end);
+    }
+    return path;
+}
+
+/// A rectangle of one colour.
+class ColorItem : public QQuickItem
+{
+public:
+    explicit ColorItem(QQuickItem *parent) : QQuickItem(parent) { setFlag(ItemHasContents); }
+
+    void setColor(const QColor &color)
+    {
+        m_color = color;
+        update();
+    }
+
+protected:
+    QSGNode *updatePaintNode(QSGNode *old, UpdatePaintNodeData *) override
+    {
+        auto *node = old ? static_cast<QSGSimpleRectNode *>(old) : new QSGSimpleRectNode;
+        node->setRect(boundingRect());
+        node->setColor(m_color);
+        return node;
+    }
+
+private:
+    QColor m_color = Qt::white;
+};
+
+/// A white window whose frames are counted.
+class CountedWindow : public QQuickWindow
+{
+public:
+    explicit CountedWindow(QSize size = {390, 844})
+    {
+        setColor(Qt::white);
+        resize(size);
+        connect(
+            this, &QQuickWindow::frameSwapped, this, [this] { ++frames; }, Qt::DirectConnection);
+        show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(this));
+    }
+
+    // Whether no frame comes any more; those under way are waited for.
+    bool rests()
+    {
+        return QTest::qWaitFor([this] {
+            const int before = frames;
+            QTest::qWait(60);
+            return frames == before;
+        });
+    }
+
+    // Whether frames keep coming.
+    bool moves()
+    {
+        const int before = frames;
+        return QTest::qWaitFor([&] { return frames > before + 5; });
+    }
+
+    std::atomic<int> frames = 0;
+};
+
+class LayerInAWindow : public testing::Test
+{
+protected:
+    LayerInAWindow() { platform->records = false; }
+
+    void goTo(double time) { platform->stall(time - platform->mediaTime()); }
+
+    InstalledRecordingPlatform platform;
+    std::mt19937_64 random{11};
+};
+
+// Runs for each scale, which CTest sets from outside, on each backend.
+TEST(LayerPixels, NoPixelIsFarOffWhatAnotherLibraryDraws)
+{
+    const InstalledRecordingPlatform platform;
+    platform->records = false;
+    CountedWindow window;
+    const double scale = window.effectiveDevicePixelRatio();
+    ASSERT_EQ(scale, qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble());
+    LayerItem item(window.contentItem());
+    std::mt19937_64 random(9);
+    for (int round = 0; round < (scale == 1 ? 60 : 12); ++round) {
+        const Path path = Testing::randomPath(random);
+        ShapeLayer layer;
+        layer.path = path;
+        layer.lineWidth = 2;
+        layer.strokeColor = {0, 0, 0, 0.2F};
+        const double now = platform->mediaTime();
+        layer.addAnimation({BasicAnimation::KeyPath::strokeEnd, 0, 1, 8, {}, {}}, now);
+        item.setLayer(layer);
+        for (const double share : {0.0625, 0.25, 0.5, 0.875, 1.0}) {
+            platform->stall(now + 8 * share - platform->mediaTime());
+            const QImage shown = window.grabWindow();
+            ASSERT_EQ(shown.size(), QSize(390, 844) * scale);
+            EXPECT_EQ(Testing::differences(path, share, scale, shown.width(), shown.height(),
+                                           [&](int x, int y) { return darkness(shown, x, y); }),
+                      "")
+                << "path " << round << " drawn to " << share;
+        }
+    }
+}
+
+TEST(LayerPixels, AnItemThatIsMovedTurnedOrScaledIsDrawnAsSharply)
+{
+    const InstalledRecordingPlatform platform;
+    platform->records = false;
+    CountedWindow window;
+    const double scale = window.effectiveDevicePixelRatio();
+    LayerItem item(window.contentItem());
+    item.setTransformOrigin(QQuickItem::TopLeft);
+    std::mt19937_64 random(10);
+    const Path path = Testing::randomPath(random);
+    ShapeLayer layer;
+    layer.path = path;
+    layer.lineWidth = 2;
+    layer.strokeColor = {0, 0, 0, 0.2F};
+    item.setLayer(layer);
+    const auto check = [&](const QTransform &transform) {
+        const QImage shown = window.grabWindow();
+        EXPECT_EQ(Testing::differences(moved(path, transform), 1, scale, shown.width(), shown.height(),
+                                       [&](int x, int y) { return darkness(shown, x, y); }),
+                  "");
+    };
+    item.setPosition({3.25, -7.5});
+    check(QTransform::fromTranslate(3.25, -7.5));
+    item.setPosition({300, 100});
+    item.setRotation(30);
+    check(QTransform::fromTranslate(300, 100).rotate(30));
+    item.setRotation(0);
+    item.setPosition({100, 0});
+    check(QTransform::fromTranslate(100, 0));
+}
+
+TEST_F(LayerInAWindow, FollowsTheTimeline)
+{
+    CountedWindow window({100, 40});
+    LayerItem item(window.contentItem());
+    item.setLayer(Testing::driftingLayer(straight({5, 20}, {95, 20}), 0));
+    // Where the line is drawn to, in points, and how opaque it is.
+    struct Moment
+    {
+        double time;
+        double end;
+        double opacity;
+    };
+    for (const Moment moment : {Moment{0, 5, 0},
+                                {0.5, 10, 0.5},
+                                {1, 15, 1},
+                                {4.5, 50, 1},
+                                {9, 95, 1},
+                                {9.1, 95, 1},
+                                {9.2, 95, 1},
+                                {9.7, 95, 0.5},
+                                {9.9, 95, 0.3},
+                                {10.1, 95, 0.1},
+                                {10.2, 95, 1}}) {
+        goTo(moment.time);
+        const QImage shown = window.grabWindow();
+        const double scale = window.effectiveDevicePixelRatio();
+        for (int x = 0; x < shown.width(); ++x) {
+            const double place = (x + 0.5) / scale;
+            const double share = place < 5 || place > moment.end ? 0 : 1;
+            if (std::abs(place - 5) > 1 && std::abs(place - moment.end) > 1) {
+                EXPECT_NEAR(darkness(shown, x, static_cast<int>(20 * scale)), darkest * share * moment.opacity, 1)
+                    << moment.time << " s, " << place;
+            }
+        }
+    }
+}
+
+TEST_F(LayerInAWindow, ShowsTheColorOfTheLayer)
+{
+    CountedWindow window({100, 40});
+    LayerItem item(window.contentItem());
+    ShapeLayer layer;
+    layer.path = straight({5, 20}, {95, 20});
+    layer.lineWidth = 4;
+    layer.strokeColor = {1, 0.5F, 0, 0.5F};
+    item.setLayer(layer);
+    const QImage shown = window.grabWindow();
+    const QColor color = shown.pixelColor(shown.width() / 2, shown.height() / 2);
+    EXPECT_NEAR(color.red(), 255, 1);
+    EXPECT_NEAR(color.green(), 191, 1);
+    EXPECT_NEAR(color.blue(), 128, 1);
+}
+
+TEST_F(LayerInAWindow, NoLayerIsNothing)
+{
+    CountedWindow window({100, 40});
+    LayerItem item(window.contentItem());
+    EXPECT_EQ(darkestOf(window.grabWindow()), 0);
+    item.setLayer(Testing::driftingLayer(straight({5, 20}, {95, 20}), 0));
+    goTo(4.5);
+    EXPECT_EQ(darkestOf(window.grabWindow()), darkest);
+    item.setLayer({});
+    EXPECT_EQ(darkestOf(window.grabWindow()), 0);
+    EXPECT_TRUE(window.rests());
+    item.setLayer(ShapeLayer());
+    EXPECT_EQ(darkestOf(window.grabWindow()), 0) << "a path without length";
+}
+
+TEST_F(LayerInAWindow, IsNeitherClippedToItsItemNorScaledWithItsSize)
+{
+    CountedWindow window({100, 40});
+    LayerItem item(window.contentItem());
+    ShapeLayer layer = Testing::driftingLayer(straight({5, 20}, {95, 20}), -9.1);
+    item.setLayer(layer);
+    const QImage without = window.grabWindow();
+    EXPECT_EQ(darkestOf(without), darkest);
+    item.setSize({10, 10});
+    EXPECT_EQ(farthest(window.grabWindow(), without), 0);
+    item.setSize({1000, 1000});
+    EXPECT_EQ(farthest(window.grabWindow(), without), 0);
+}
+
+TEST_F(LayerInAWindow, IsClippedByWhatLiesAround)
+{
+    CountedWindow window({100, 40});
+    QQuickItem around(window.contentItem());
+    around.setClip(true);
+    around.setX(20);
+    around.setSize({33, 40});
+    LayerItem item(&around);
+    item.setX(-20);
+    item.setLayer(Testing::driftingLayer(straight({5, 20}, {95, 20}), -9.1));
+    const QImage shown = window.grabWindow();
+    const double scale = window.effectiveDevicePixelRatio();
+    for (int x = 0; x < shown.width(); ++x) {
+        const double place = (x + 0.5) / scale;
+        EXPECT_EQ(darkness(shown, x, static_cast<int>(20 * scale)), place > 20 && place < 53 ? darkest : 0) << place;
+    }
+}
+
+TEST_F(LayerInAWindow, IsAsTranslucentAsItsItem)
+{
+    CountedWindow window({100, 40});
+    LayerItem item(window.contentItem());
+    item.setOpacity(0.5);
+    item.setLayer(Testing::driftingLayer(straight({5, 20}, {95, 20}), -9.1));
+    EXPECT_NEAR(darkestOf(window.grabWindow()), darkest / 2.0, 1);
+}
+
+TEST_F(LayerInAWindow, FramesKeepComingWhileItMovesAndStopWhenNothingChanges)
+{
+    CountedWindow window;
+    LayerItem item(window.contentItem());
+    item.setLayer(Testing::driftingLayer(Testing::randomPath(random), 0));
+    EXPECT_TRUE(window.moves());
+    goTo(5);
+    EXPECT_TRUE(window.moves());
+    goTo(11);
+    EXPECT_TRUE(window.rests());
+}
+
+TEST_F(LayerInAWindow, RestsWhileTheLineStandsStillAndWakesUpForTheNextChange)
+{
+    CountedWindow window;
+    LayerItem item(window.contentItem());
+    ShapeLayer layer;
+    layer.path = Testing::randomPath(random);
+    layer.addAnimation({BasicAnimation::KeyPath::opacity, 1, 0, 1, 0.3, {}}, 0);
+    item.setLayer(layer);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.frames > 0; }));
+    QTest::qWait(40);
+    const int before = window.frames;
+    QTest::qWait(120);
+    EXPECT_EQ(window.frames, before);
+    goTo(0.4);
+    EXPECT_TRUE(window.moves());
+}
+
+TEST_F(LayerInAWindow, AHiddenItemTakesNoFrameAndGoesOnAtTheRightPlace)
+{
+    CountedWindow window({100, 40});
+    LayerItem item(window.contentItem());
+    item.setLayer(Testing::driftingLayer(straight({5, 20}, {95, 20}), 0));
+    goTo(2);
+    EXPECT_TRUE(window.moves());
+    const auto drawnTo = [&] {
+        const QImage shown = window.grabWindow();
+        int last = 0;
+        for (int x = 0; x < shown.width(); ++x) {
+            if (darkness(shown, x, shown.height() / 2) == darkest)
+                last = x;
+        }
+        return last / window.effectiveDevicePixelRatio();
+    };
+    for (const bool byOpacity : {false, true}) {
+        byOpacity ? item.setOpacity(0) : item.setVisible(false);
+        EXPECT_TRUE(window.rests());
+        EXPECT_EQ(darkestOf(window.grabWindow()), 0);
+        EXPECT_TRUE(window.rests());
+        platform->stall(2);
+        byOpacity ? item.setOpacity(1) : item.setVisible(true);
+        EXPECT_TRUE(window.moves());
+        EXPECT_NEAR(drawnTo(), 5 + 10 * platform->mediaTime(), 1.5);
+    }
+}
+
+TEST_F(LayerInAWindow, AnItemOutsideTheWindowTakesNoFrame)
+{
+    CountedWindow window({100, 40});
+    LayerItem item(window.contentItem());
+    item.setLayer(Testing::driftingLayer(straight({5, 20}, {95, 20}), 0));
+    goTo(2);
+    EXPECT_TRUE(window.moves());
+    item.setX(200);
+    EXPECT_TRUE(window.rests());
+    item.setX(50);
+    EXPECT_TRUE(window.moves());
+}
+
+TEST_F(LayerInAWindow, AHiddenWindowTakesNoFrameAndGoesOnAfterwards)
+{
+    CountedWindow window;
+    LayerItem item(window.contentItem());
+    item.setLayer(Testing::driftingLayer(Testing::randomPath(random), 0));
+    goTo(2);
+    EXPECT_TRUE(window.moves());
+    window.hide();
+    EXPECT_TRUE(window.rests());
+    window.show();
+    EXPECT_TRUE(window.moves());
+}
+
+TEST_F(LayerInAWindow, SurvivesTheLossOfItsSceneGraph)
+{
+    CountedWindow window;
+    window.setPersistentSceneGraph(false);
+    window.setPersistentGraphics(false);
+    LayerItem item(window.contentItem());
+    item.setLayer(Testing::driftingLayer(Testing::randomPath(random), 0));
+    goTo(4);
+    const QImage before = window.grabWindow();
+    EXPECT_EQ(darkestOf(before), darkest);
+    for (int round = 0; round < 3; ++round) {
+        window.hide();
+        window.releaseResources();
+        QCoreApplication::processEvents();
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        EXPECT_TRUE(window.moves());
+        EXPECT_EQ(farthest(window.grabWindow(), before), 0);
+    }
+}
+
+TEST_F(LayerInAWindow, MovesFromWindowToWindow)
+{
+    CountedWindow first({200, 200});
+    CountedWindow second({200, 200});
+    LayerItem item(first.contentItem());
+    item.setLayer(Testing::driftingLayer(straight({5, 20}, {95, 20}), 0));
+    goTo(5);
+    for (int round = 0; round < 3; ++round) {
+        EXPECT_TRUE(first.moves());
+        EXPECT_EQ(darkestOf(first.grabWindow()), darkest);
+        item.setParentItem(second.contentItem());
+        EXPECT_TRUE(second.moves());
+        EXPECT_TRUE(first.rests());
+        EXPECT_EQ(darkestOf(first.grabWindow()), 0);
+        EXPECT_EQ(darkestOf(second.grabWindow()), darkest);
+        item.setParentItem(nullptr);
+        EXPECT_TRUE(second.rests());
+        item.setParentItem(first.contentItem());
+    }
+}
+
+TEST_F(LayerInAWindow, OutlivesItsWindow)
+{
+    LayerItem item;
+    item.setLayer(Testing::driftingLayer(Testing::randomPath(random), 0));
+    for (int round = 0; round < 3; ++round) {
+        CountedWindow window;
+        item.setParentItem(window.contentItem());
+        EXPECT_TRUE(window.moves());
+    }
+    EXPECT_EQ(item.window(), nullptr);
+}
+
+TEST_F(LayerInAWindow, TwoWindowsAtOnceShowTheSame)
+{
+    CountedWindow first;
+    CountedWindow second;
+    LayerItem one(first.contentItem());
+    LayerItem other(second.contentItem());
+    const ShapeLayer layer = Testing::driftingLayer(Testing::randomPath(random), 0);
+    one.setLayer(layer);
+    other.setLayer(layer);
+    goTo(3);
+    EXPECT_TRUE(first.moves());
+    EXPECT_TRUE(second.moves());
+    const QImage shown = first.grabWindow();
+    EXPECT_EQ(darkestOf(shown), darkest);
+    EXPECT_EQ(farthest(shown, second.grabWindow()), 0);
+    goTo(11);
+    EXPECT_TRUE(first.rests());
+    EXPECT_TRUE(second.rests());
+}
+
+TEST_F(LayerInAWindow, TwentyItemsAtOnceAreEachDrawn)
+{
+    CountedWindow window({400, 400});
+    std::vector<std::unique_ptr<LayerItem>> items;
+    for (int row = 0; row < 20; ++row) {
+        items.push_back(std::make_unique<LayerItem>(window.contentItem()));
+        items.back()->setY(20 * row);
+        items.back()->setLayer(Testing::driftingLayer(straight({5, 10}, {395, 10}), 0.1 * row));
+    }
+    goTo(5);
+    EXPECT_TRUE(window.moves());
+    const QImage shown = window.grabWindow();
+    const double scale = window.effectiveDevicePixelRatio();
+    for (int row = 0; row < 20; ++row) {
+        const double end = 5 + 390 * (5 - 0.1 * row) / 9;
+        const auto y = static_cast<int>((20 * row + 10) * scale);
+        EXPECT_EQ(darkness(shown, static_cast<int>((end - 2) * scale), y), darkest) << row;
+        EXPECT_EQ(darkness(shown, static_cast<int>((end + 2) * scale), y), 0) << row;
+    }
+    goTo(13);
+    EXPECT_TRUE(window.rests());
+}
+
+TEST_F(LayerInAWindow, ANewLayerReplacesTheOldOne)
+{
+    CountedWindow window({200, 200});
+    LayerItem item(window.contentItem());
+    item.setLayer(Testing::driftingLayer(straight({5, 20}, {195, 20}), 0));
+    goTo(9.1);
+    EXPECT_EQ(darkestOf(window.grabWindow()), darkest);
+    item.setLayer(Testing::driftingLayer(straight({5, 100}, {195, 100}), 9.1));
+    goTo(14);
+    const QImage shown = window.grabWindow();
+    const double scale = window.effectiveDevicePixelRatio();
+    EXPECT_EQ(darkestOf(shown.copy(0, 0, shown.width(), static_cast<int>(60 * scale))), 0);
+    EXPECT_EQ(darkness(shown, static_cast<int>(50 * scale), static_cast<int>(100 * scale)), darkest);
+    EXPECT_TRUE(window.moves());
+}
+
+TEST_F(LayerInAWindow, IsDrawnIntoLayersOfTheSceneGraph)
+{
+    CountedWindow window({100, 40});
+    QQuickItem around(window.contentItem());
+    around.setSize({100, 40});
+    LayerItem item(&around);
+    item.setLayer(Testing::driftingLayer(straight({5, 20}, {95, 20}), 0));
+    goTo(5);
+    const QImage plain = window.grabWindow();
+    auto *layer = around.property("layer").value<QObject *>();
+    ASSERT_TRUE(layer);
+    layer->setProperty("enabled", true);
+    EXPECT_TRUE(window.moves());
+    EXPECT_LE(farthest(window.grabWindow(), plain), 1);
+    goTo(9.1);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        const QImage shown = window.grabWindow();
+        return darkness(shown, static_cast<int>(90 * window.effectiveDevicePixelRatio()), shown.height() / 2)
+            == darkest;
+    }));
+    goTo(11);
+    EXPECT_TRUE(window.rests());
+}
+
+// What the screen shows after many frames, each of which painted only what had changed.
+TEST_F(LayerInAWindow, PaintsNothingTwiceWhereOthersChangeBeneathAndAbove)
+{
+    if (QGuiApplication::platformName() != u"offscreen")
+        GTEST_SKIP() << "only there the screen can be looked at";
+    CountedWindow window({200, 200});
+    ColorItem beneath(window.contentItem());
+    beneath.setPosition({10, 3});
+    beneath.setSize({55, 61});
+    LayerItem item(window.contentItem());
+    item.setX(3);
+    Path path{{20, 20}, {CubicCurve{{180, 20}, {180, 180}, {20, 180}}}, true};
+    item.setLayer(Testing::driftingLayer(path, 0));
+    ColorItem above(window.contentItem());
+    above.setPosition({70, 5});
+    above.setSize({21, 13});
+    for (int frame = 1; frame <= 60; ++frame) {
+        goTo(frame * 0.15);
+        beneath.setColor(frame % 2 ? QColor(250, 250, 250) : Qt::white);
+        above.setColor(frame % 3 ? QColor(0, 0, 0, 10) : QColor(0, 0, 0, 20));
+        const int before = window.frames;
+        ASSERT_TRUE(QTest::qWaitFor([&] { return window.frames > before; }));
+    }
+    goTo(9.1);
+    EXPECT_TRUE(window.rests());
+    const QImage screen = window.screen()->grabWindow(window.winId()).toImage();
+    EXPECT_EQ(farthest(screen, window.grabWindow()), 0);
+}
+
+TEST_F(LayerInAWindow, ACoverHidesItAndShowsItAgain)
+{
+    CountedWindow window({100, 40});
+    LayerItem item(window.contentItem());
+    item.setLayer(Testing::driftingLayer(straight({5, 20}, {95, 20}), -9.1));
+    const QImage plain = window.grabWindow();
+    {
+        ColorItem cover(window.contentItem());
+        cover.setSize({100, 40});
+        EXPECT_EQ(darkestOf(window.grabWindow()), 0);
+    }
+    EXPECT_EQ(farthest(window.grabWindow(), plain), 0);
+}
+
+TEST_F(LayerInAWindow, FollowsTheSizeOfItsWindow)
+{
+    CountedWindow window({100, 40});
+    LayerItem item(window.contentItem());
+    item.setLayer(Testing::driftingLayer(Testing::randomPath(random), -9.1));
+    window.resize(390, 844);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.grabWindow().width() >= 390; }));
+    CountedWindow other({390, 844});
+    LayerItem same(other.contentItem());
+    random.seed(11);
+    same.setLayer(Testing::driftingLayer(Testing::randomPath(random), -9.1));
+    EXPECT_EQ(farthest(window.grabWindow(), other.grabWindow()), 0);
+}
+
+} // namespace
+} // namespace TQFoundation

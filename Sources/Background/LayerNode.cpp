@@ -302,14 +302,13 @@ private:
     {
         auto *painter = static_cast<QPainter *>(
             window()->rendererInterface()->getResource(window(), QSGRendererInterface::PainterResource));
-        if (const double now = painter->device()->devicePixelRatioF(); now != scale())
-            setScale(now);
+        painter->setWorldTransform({});
+        setScale(painter->deviceTransform().m11());
         m_picture.assign(static_cast<std::size_t>(tile.width) * static_cast<std::size_t>(tile.height), 0);
         m_mask.paint(tile, m_colors, m_picture.data(), tile.width);
         QImage image(reinterpret_cast<const uchar *>(m_picture.data()), tile.width, tile.height, 4 * tile.width,
                      QImage::Format_ARGB32_Premultiplied);
         image.setDevicePixelRatio(m_mask.scale());
-        painter->setWorldTransform({});
         painter->setClipRegion(*state.clipRegion(), Qt::ReplaceClip);
         painter->setOpacity(opacity);
         painter->drawImage(QPointF(tile.left, tile.top) / m_mask.scale(), image);
@@ -441,7 +440,7 @@ public:
 protected:
     void strokeChanged() override
     {
-        const StrokeMesh mesh = strokeMesh(stroke());
+        const StrokeMesh mesh = strokeMesh(stroke(), scale());
         removeAllChildNodes();
         m_band.setTriangles(mesh.band, mesh.bandIndices);
         m_squares.setTriangles(mesh.squares, mesh.squareIndices);

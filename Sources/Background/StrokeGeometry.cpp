@@ -42,7 +42,7 @@ double cross(Point a, Point b)
 
 double length(Point a)
 {
-    return std::hypot(a.x, a.y);
+    return std::sqrt(dot(a, a));
 }
 
 Point turnedLeft(Point a)
@@ -245,12 +245,12 @@ private:
     void addJoin(const Stretch &before, const Stretch &after)
     {
         if (!after.startsCurve) {
-            addRound(before.end, before.endNormal, after.startNormal);
+            addRound(before.end, before.endNormal, after.startNormal, true);
             return;
         }
-        addRound(before.end, before.endNormal, before.arrival);
+        addRound(before.end, before.endNormal, before.arrival, false);
         addMiter(before.end, before.arrival, after.departure);
-        addRound(before.end, after.departure, after.startNormal);
+        addRound(before.end, after.departure, after.startNormal, false);
     }
 
     void addMiter(Point corner, Point before, Point after)
@@ -268,7 +268,7 @@ private:
             addPart(corner, first, last, last);
     }
 
-    void addRound(Point corner, Point before, Point after)
+    void addRound(Point corner, Point before, Point after, bool isBend)
     {
         if (areEqual(before, after))
             return;
@@ -278,14 +278,14 @@ private:
         const int pairs = std::max(1, static_cast<int>(std::ceil(std::abs(turn) / (2 * widest))));
         for (int pair = 0; pair < pairs; ++pair) {
             const auto rim = [&](double share) { return corner + turned(outwards, (pair + share) / pairs * turn); };
-            addPart(corner, rim(0), rim(0.5), rim(1));
+            addPart(corner, rim(0), rim(0.5), rim(1), isBend);
         }
     }
 
-    void addPart(Point corner, Point first, Point second, Point third)
+    void addPart(Point corner, Point first, Point second, Point third, bool isBend = false)
     {
         m_geometry.parts.push_back(
-            {{corner, first, second, third}, {true, false, false, true}, m_geometry.length, m_geometry.length});
+            {{corner, first, second, third}, {true, false, false, true}, m_geometry.length, m_geometry.length, isBend});
     }
 
     std::span<Stretch> m_stretches;

@@ -19,6 +19,7 @@ struct StrokePart
     std::array<bool, 4> seams{};
     double from = 0; ///< The length of the line up to where the part begins, in points.
     double to = 0; ///< The length up to where it ends. A join has none: it belongs to the place of its corner.
+    bool isBend = false; ///< Of a join, whether it lies within a curve, which covers all around its corner as well.
 
     bool isJoin() const { return from == to; }
     Point start() const { return {(corners[0].x + corners[3].x) / 2, (corners[0].y + corners[3].y) / 2}; }

@@ -1,21 +1,21 @@
 #include "StrokeMesh.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
-#include <numbers>
+#include <iterator>
 #include <span>
 
 namespace TQFoundation {
 namespace {
 
-constexpr double reach = 0.5; // points that the pixels of an edge may lie beyond it
 constexpr double overlap = 0.02; // points by which neighbours reach into each other, so that no sample falls between
 constexpr double tileSize = 8; // points
 constexpr double largestSquare = 2;
-constexpr double smallestSquare = 0.25;
+constexpr double smallestSquare = 0.5;
 constexpr double bendLength = 4; // points of the line within which parts count as drawn at once
 constexpr int farthest = 4096; // tiles from the origin
-constexpr double never = 1e4; // a distance from nothing
+constexpr double farAway = 256; // points, beyond which distances make no difference
 
 struct Box
 {
@@ -78,83 +78,120 @@ private:
 };
 
 /// A part, made ready for asking where it lies.
-struct Placed
+class Placed
 {
-    std::array<HalfPlane, 4> within; ///< Its edges, each farther out by as much as a pixel may reach beyond it.
-    HalfPlane length;
+public:
+    // Pixels see what is up to \a reach points from their middle along x or y.
+    Placed(const StrokePart &part, double reach)
+        : m_part(part),
+          m_reach(reach),
+          m_edges(edges(part)),
+          m_length(part.isJoin() ? HalfPlane{0, 0, part.from} : lengthAlong(part))
+    {
+        if (isDisc()) {
+            const Point rim = part.corners[1];
+            m_radius = std::hypot(rim.x - middle().x, rim.y - middle().y);
+        }
+        const auto [minX, maxX] = std::ranges::minmax(part.corners, {}, &Point::x);
+        const auto [minY, maxY] = std::ranges::minmax(part.corners, {}, &Point::y);
+        left = (isDisc() ? middle().x - m_radius : minX.x) - reach;
+        right = (isDisc() ? middle().x + m_radius : maxX.x) + reach;
+        top = (isDisc() ? middle().y - m_radius : minY.y) - reach;
+        bottom = (isDisc() ? middle().y + m_radius : maxY.y) + reach;
+    }
+
+    // Around it and the pixels that see it.
     double left;
     double top;
     double right;
     double bottom;
-    bool isJoin;
-    bool startsSmoothly;
-    bool endsSmoothly;
 
-    explicit Placed(const StrokePart &part)
-        : within(edges(part)),
-          length(part.isJoin() ? HalfPlane{0, 0, part.from} : lengthAlong(part)),
-          isJoin(part.isJoin()),
-          startsSmoothly(part.seams[3]),
-          endsSmoothly(part.seams[1])
-    {
-        const auto [minX, maxX] = std::ranges::minmax(part.corners, {}, &Point::x);
-        const auto [minY, maxY] = std::ranges::minmax(part.corners, {}, &Point::y);
-        left = minX.x - reach;
-        right = maxX.x + reach;
-        top = minY.y - reach;
-        bottom = maxY.y + reach;
-    }
+    const StrokePart &part() const { return m_part; }
+    bool isDisc() const { return m_part.isBend; }
+    bool startsSmoothly() const { return m_part.seams[3]; }
+    bool endsSmoothly() const { return m_part.seams[1]; }
+    Point middle() const { return m_part.corners[0]; } // of a disc
+    const HalfPlane &edge(std::size_t k) const { return m_edges[k]; }
+    double length(Point place) const { return m_length.at(place); }
 
     // Whether pixels of the box may see it; never no where they do.
     bool touches(const Box &box) const
     {
         if (left > box.right() || right < box.left || top > box.bottom() || bottom < box.top)
             return false;
-        const Point middle{box.left + box.size / 2, box.top + box.size / 2};
-        return std::ranges::all_of(within, [&](const HalfPlane &edge) {
-            return edge.at(middle) + (std::abs(edge.x) + std::abs(edge.y)) * (box.size / 2 + reach) >= 0;
+        if (isDisc())
+            return true;
+        const Point center{box.left + box.size / 2, box.top + box.size / 2};
+        return std::ranges::all_of(m_edges, [&](const HalfPlane &edge) {
+            return edge.at(center) + (std::abs(edge.x) + std::abs(edge.y)) * (box.size / 2 + m_reach) >= 0;
         });
     }
+
+    bool contains(Point place) const
+    {
+        if (isDisc()) {
+            const double x = place.x - middle().x;
+            const double y = place.y - middle().y;
+            return x * x + y * y <= m_radius * m_radius;
+        }
+        return std::ranges::all_of(m_edges, [&](const HalfPlane &edge) { return edge.at(place) >= 0; });
+    }
+
+    // What a vertex of a square says about it.
+    std::array<float, 4> within(Point place) const
+    {
+        if (isDisc()) {
+            return {static_cast<float>(place.x - middle().x), static_cast<float>(place.y - middle().y), 0,
+                    static_cast<float>(m_radius) + StrokeMesh::disc};
+        }
+        std::array<float, 4> distances{};
+        for (std::size_t k = 0; k < 4; ++k) {
+            const double distance = m_edges[k].at(place) + (m_part.seams[k] ? overlap : 0);
+            distances[k] = static_cast<float>(std::min(distance, farAway));
+        }
+        return distances;
+    }
+
+private:
+    const StrokePart &m_part;
+    double m_reach;
+    std::array<HalfPlane, 4> m_edges;
+    HalfPlane m_length;
+    double m_radius = 0;
 };
 
 class Mesher
 {
 public:
-    explicit Mesher(const StrokeGeometry &stroke) : m_parts(stroke.parts), m_isCut(stroke.parts.size())
+    Mesher(const StrokeGeometry &stroke, double scale)
+        : m_parts(stroke.parts),
+          m_reach(0.5 / scale),
+          m_isCut(stroke.parts.size())
     {
         m_placed.reserve(m_parts.size());
         for (const StrokePart &part : m_parts)
-            m_placed.emplace_back(part);
+            m_placed.emplace_back(part, m_reach);
     }
 
     StrokeMesh mesh()
     {
         fillTiles();
-        std::vector<std::span<const Entry>> groups;
-        std::vector<bool> isBusy;
-        for (auto first = m_entries.begin(); first != m_entries.end();) {
-            const auto last =
-                std::find_if(first, m_entries.end(), [&](const Entry &entry) { return entry.tile != first->tile; });
-            groups.emplace_back(first, last);
-            std::vector<std::uint32_t> parts = partsOf(groups.back());
-            isBusy.push_back(!isBand(parts, boxOf(first->tile)));
-            if (isBusy.back()) {
-                for (const std::uint32_t part : parts)
+        const auto tiles = groups();
+        for (const Tile &tile : tiles) {
+            if (tile.isBusy) {
+                for (const std::uint32_t part : partsOf(tile))
                     m_isCut[part] = true;
             }
-            first = last;
         }
         for (std::uint32_t part = 0; part < m_parts.size(); ++part) {
-            if (!m_placed[part].isJoin && !m_isCut[part])
+            if (!m_parts[part].isJoin() && !m_isCut[part])
                 addBand(part, band(part));
         }
-        for (std::size_t k = 0; k < groups.size(); ++k) {
-            const Box box = boxOf(groups[k].front().tile);
-            const std::vector<std::uint32_t> parts = partsOf(groups[k]);
-            if (isBusy[k])
-                addSquares(parts, box);
+        for (const Tile &tile : tiles) {
+            if (tile.isBusy)
+                addSquares(partsOf(tile), tile.box);
             else
-                addBands(parts, box);
+                addBands(partsOf(tile), tile.box);
         }
         return std::move(m_mesh);
     }
@@ -174,12 +211,32 @@ private:
                 (static_cast<int>(tile >> 16) - farthest) * tileSize, tileSize};
     }
 
-    static std::vector<std::uint32_t> partsOf(std::span<const Entry> entries)
+    struct Tile
     {
-        std::vector<std::uint32_t> parts;
-        for (const Entry &entry : entries)
-            parts.push_back(entry.part);
-        return parts;
+        Box box;
+        std::size_t first; // of its parts in m_tileParts
+        std::size_t count;
+        bool isBusy = false;
+    };
+
+    std::span<const std::uint32_t> partsOf(const Tile &tile) const
+    {
+        return std::span(m_tileParts).subspan(tile.first, tile.count);
+    }
+
+    std::vector<Tile> groups()
+    {
+        std::vector<Tile> tiles;
+        m_tileParts.reserve(m_entries.size());
+        for (std::size_t k = 0; k < m_entries.size(); ++k) {
+            if (k == 0 || m_entries[k].tile != m_entries[k - 1].tile)
+                tiles.push_back({boxOf(m_entries[k].tile), k, 0});
+            m_tileParts.push_back(m_entries[k].part);
+            ++tiles.back().count;
+        }
+        for (Tile &tile : tiles)
+            tile.isBusy = !isBand(partsOf(tile), tile.box);
+        return tiles;
     }
 
     // Which parts each tile has.
@@ -190,6 +247,8 @@ private:
         };
         for (std::uint32_t part = 0; part < m_placed.size(); ++part) {
             const Placed &placed = m_placed[part];
+            if (placed.isDisc() && part > 0 && m_placed[part - 1].isDisc())
+                continue; // the same disc once more
             for (int y = tile(placed.top); y <= tile(placed.bottom); ++y) {
                 for (int x = tile(placed.left); x <= tile(placed.right); ++x) {
                     const auto key = static_cast<std::uint32_t>((y + farthest) << 16 | (x + farthest));
@@ -209,33 +268,33 @@ private:
         for (std::size_t k = 0; k < parts.size(); ++k) {
             const Placed &placed = m_placed[parts[k]];
             const StrokePart &part = m_parts[parts[k]];
-            if (placed.isJoin || (!placed.startsSmoothly && isNear(part.corners[0], part.corners[3], box))
-                || (!placed.endsSmoothly && isNear(part.corners[1], part.corners[2], box)))
+            if (placed.part().isJoin() || (!placed.startsSmoothly() && isNear(part.corners[0], part.corners[3], box))
+                || (!placed.endsSmoothly() && isNear(part.corners[1], part.corners[2], box)))
                 return false;
             if (k == 0)
                 continue;
-            if (parts[k] != parts[k - 1] + 1 || !placed.startsSmoothly)
+            if (parts[k] != parts[k - 1] + 1 || !placed.startsSmoothly())
                 return false;
-            const HalfPlane &before = m_placed[parts[k - 1]].within[0];
-            turning += std::acos(std::clamp(before.x * placed.within[0].x + before.y * placed.within[0].y, -1.0, 1.0));
+            const HalfPlane &before = m_placed[parts[k - 1]].edge(0);
+            turning += std::abs(before.x * placed.edge(0).y - before.y * placed.edge(0).x);
         }
-        return turning < std::numbers::pi / 2;
+        return turning < 1;
     }
 
-    static bool isNear(Point a, Point b, const Box &box)
+    bool isNear(Point a, Point b, const Box &box) const
     {
-        return std::max(a.x, b.x) + 2 * reach >= box.left && std::min(a.x, b.x) - 2 * reach <= box.right()
-            && std::max(a.y, b.y) + 2 * reach >= box.top && std::min(a.y, b.y) - 2 * reach <= box.bottom();
+        return std::max(a.x, b.x) + 2 * m_reach >= box.left && std::min(a.x, b.x) - 2 * m_reach <= box.right()
+            && std::max(a.y, b.y) + 2 * m_reach >= box.top && std::min(a.y, b.y) - 2 * m_reach <= box.bottom();
     }
 
     // A stretch with the pixels of both its sides.
     Polygon band(std::uint32_t part) const
     {
         const auto &corners = m_parts[part].corners;
-        const auto outwards = [](Point corner, Point opposite) {
-            const double width = std::hypot(corner.x - opposite.x, corner.y - opposite.y);
-            return Point{corner.x + (corner.x - opposite.x) * reach / width,
-                         corner.y + (corner.y - opposite.y) * reach / width};
+        const auto outwards = [this](Point corner, Point opposite) {
+            const Point across{corner.x - opposite.x, corner.y - opposite.y};
+            const double share = m_reach / std::sqrt(across.x * across.x + across.y * across.y);
+            return Point{corner.x + share * across.x, corner.y + share * across.y};
         };
         Polygon polygon;
         polygon.add(outwards(corners[0], corners[3]));
@@ -262,9 +321,9 @@ private:
         addFan(m_mesh.bandIndices, m_mesh.band.size(), corners.size());
         for (const Point corner : corners) {
             m_mesh.band.push_back({static_cast<float>(corner.x), static_cast<float>(corner.y),
-                                   static_cast<float>(placed.within[0].at(corner)),
-                                   static_cast<float>(placed.within[2].at(corner)),
-                                   static_cast<float>(placed.length.at(corner))});
+                                   static_cast<float>(placed.edge(0).at(corner)),
+                                   static_cast<float>(placed.edge(2).at(corner)),
+                                   static_cast<float>(placed.length(corner))});
         }
     }
 
@@ -279,6 +338,7 @@ private:
     void addSquares(std::span<const std::uint32_t> candidates, const Box &box)
     {
         std::vector<std::uint32_t> parts;
+        parts.reserve(candidates.size());
         std::ranges::copy_if(candidates, std::back_inserter(parts),
                              [&](std::uint32_t part) { return m_placed[part].touches(box); });
         if (parts.empty())
@@ -295,33 +355,52 @@ private:
             }
             return;
         }
-        addSquare(mostImportant(std::move(parts), box), box);
+        if (parts.size() > StrokeMesh::mostParts)
+            parts = mostImportant(parts, box);
+        addSquare(parts, box);
     }
 
-    // At most as many parts as a square knows, in no order: of each time that the line comes by, the one that is
-    // deepest in the box, and then the deepest of the others.
-    std::vector<std::uint32_t> mostImportant(std::vector<std::uint32_t> parts, const Box &box) const
+    // Which of 64 places of the box and of the pixels around it lie in a part.
+    std::uint64_t placesWithin(std::uint32_t part, const Box &box) const
     {
-        if (parts.size() <= StrokeMesh::mostParts)
-            return parts;
-        const Point middle{box.left + box.size / 2, box.top + box.size / 2};
-        const auto depth = [&](std::uint32_t part) {
-            double least = never;
-            for (const HalfPlane &edge : m_placed[part].within)
-                least = std::min(least, edge.at(middle));
-            return least;
-        };
-        auto chosen = parts.begin();
-        for (auto first = parts.begin(); first != parts.end();) {
-            const auto last = std::find_if(first + 1, parts.end(), [&](std::uint32_t part) {
-                return m_parts[part].from > m_parts[*first].to + bendLength;
-            });
-            std::iter_swap(chosen++, std::ranges::max_element(first, last, {}, depth));
-            first = last;
+        std::uint64_t places = 0;
+        const double step = (box.size + 2 * m_reach) / 7;
+        for (int k = 0; k < 64; ++k) {
+            const Point place{box.left - m_reach + step * (k % 8), box.top - m_reach + step * (k / 8)};
+            places |= std::uint64_t{m_placed[part].contains(place)} << k;
         }
-        std::ranges::sort(chosen, parts.end(), std::ranges::greater(), depth);
-        parts.resize(StrokeMesh::mostParts);
-        return parts;
+        return places;
+    }
+
+    // As many parts as a square knows: one after the other that which covers most places that no other covers of those
+    // that are drawn with it. What comes by at another time does not count, because it may not be drawn yet.
+    std::vector<std::uint32_t> mostImportant(std::span<const std::uint32_t> parts, const Box &box) const
+    {
+        struct Candidate
+        {
+            std::uint32_t part;
+            std::size_t bend;
+            std::uint64_t places;
+        };
+        std::vector<Candidate> candidates;
+        std::vector<std::uint64_t> covered(1); // by what was chosen of each bend
+        for (std::size_t k = 0; k < parts.size(); ++k) {
+            if (k > 0 && m_parts[parts[k]].from > m_parts[parts[k - 1]].to + bendLength)
+                covered.push_back(0);
+            candidates.push_back({parts[k], covered.size() - 1, placesWithin(parts[k], box)});
+        }
+        std::vector<std::uint32_t> chosen;
+        while (chosen.size() < StrokeMesh::mostParts) {
+            const auto gain = [&](const Candidate &candidate) {
+                return std::popcount(candidate.places & ~covered[candidate.bend]);
+            };
+            const auto best = std::ranges::max_element(candidates, {}, gain);
+            if (gain(*best) == 0)
+                break;
+            covered[best->bend] |= best->places;
+            chosen.push_back(best->part);
+        }
+        return chosen;
     }
 
     void addSquare(std::span<const std::uint32_t> parts, const Box &box)
@@ -331,32 +410,30 @@ private:
                                    Point{box.right(), box.bottom()}, Point{box.left, box.bottom()}}) {
             StrokeMesh::SquareVertex vertex{static_cast<float>(corner.x), static_cast<float>(corner.y), {}, {}};
             for (auto &within : vertex.within)
-                within.fill(static_cast<float>(-never));
+                within.fill(static_cast<float>(-farAway));
             for (std::size_t k = 0; k < std::min(parts.size(), StrokeMesh::mostParts); ++k) {
                 const Placed &placed = m_placed[parts[k]];
-                for (std::size_t edge = 0; edge < 4; ++edge) {
-                    const double wider = m_parts[parts[k]].seams[edge] ? overlap : 0;
-                    vertex.within[k][edge] =
-                        static_cast<float>(std::min(placed.within[edge].at(corner) + wider, never));
-                }
-                vertex.length[k] = static_cast<float>(placed.length.at(corner));
+                vertex.within[k] = placed.within(corner);
+                vertex.length[k] = static_cast<float>(placed.length(corner));
             }
             m_mesh.squares.push_back(vertex);
         }
     }
 
     std::span<const StrokePart> m_parts;
+    double m_reach; // points from the middle of a pixel to its sides
     std::vector<Placed> m_placed;
     std::vector<bool> m_isCut;
     std::vector<Entry> m_entries;
+    std::vector<std::uint32_t> m_tileParts;
     StrokeMesh m_mesh;
 };
 
 } // namespace
 
-StrokeMesh strokeMesh(const StrokeGeometry &stroke)
+StrokeMesh strokeMesh(const StrokeGeometry &stroke, double scale)
 {
-    return Mesher(stroke).mesh();
+    return Mesher(stroke, scale).mesh();
 }
 
 } // namespace TQFoundation

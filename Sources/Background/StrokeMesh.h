@@ -12,9 +12,10 @@ namespace TQFoundation {
 ///
 /// Most of the line is a band: each pixel of it belongs to one stretch, and how much of it is covered follows from its
 /// distances to both sides. Where the line crosses itself, turns sharply or ends, small squares take the place of the
-/// band. Each knows the parts that may reach its pixels, and a pixel counts its samples that lie in any of them.
+/// band. Each knows the parts that may reach its pixels, and a pixel counts its samples that lie in any of them. The
+/// joins of a narrow bend count as discs, of which few cover what would take many of them.
 ///
-/// Triangles reach half a point beyond the line, enough for the outermost pixels at one pixel per point or more.
+/// Triangles reach half a pixel beyond the line.
 struct StrokeMesh
 {
     struct BandVertex
@@ -27,14 +28,18 @@ struct StrokeMesh
     };
 
     /// How many parts a square knows. Squares where more parts meet are split until so many are left, or until they are
-    /// smaller than a pixel; there the rest is left out.
+    /// as small as a pixel may be; there those that matter least are left out.
     static constexpr std::size_t mostParts = 5;
+
+    /// A disc has the way from its middle, along x and y, in place of its first two distances, and its radius and this
+    /// in place of the last one, which is never so large otherwise.
+    static constexpr float disc = 512;
 
     struct SquareVertex
     {
         float x;
         float y;
-        std::array<std::array<float, 4>, mostParts> within; ///< The distances to the edges of each part.
+        std::array<std::array<float, 4>, mostParts> within; ///< The distances to the edges of each part, or a disc.
         std::array<float, mostParts> length; ///< The length of the line within each part.
     };
 
@@ -44,7 +49,8 @@ struct StrokeMesh
     std::vector<std::uint32_t> squareIndices;
 };
 
-/// The triangles of \a stroke. What is farther than 32768 points from the origin may be left out.
-StrokeMesh strokeMesh(const StrokeGeometry &stroke);
+/// The triangles of \a stroke for a screen with \a scale pixels per point, more than 0. What is farther than 32768
+/// points from the origin may be left out.
+StrokeMesh strokeMesh(const StrokeGeometry &stroke, double scale);
 
 } // namespace TQFoundation

@@ -291,7 +291,7 @@ TEST_F(LayerInAWindow, IsClippedByWhatLiesAround)
     QQuickItem around(window.contentItem());
     around.setClip(true);
     around.setX(20);
-    around.setSize({33, 40});
+    around.setSize({32, 40});
     LayerItem item(&around);
     item.setX(-20);
     item.setLayer(Testing::driftingLayer(straight({5, 20}, {95, 20}), -9.1));
@@ -299,7 +299,7 @@ TEST_F(LayerInAWindow, IsClippedByWhatLiesAround)
     const double scale = window.effectiveDevicePixelRatio();
     for (int x = 0; x < shown.width(); ++x) {
         const double place = (x + 0.5) / scale;
-        EXPECT_EQ(darkness(shown, x, static_cast<int>(20 * scale)), place > 20 && place < 53 ? darkest : 0) << place;
+        EXPECT_EQ(darkness(shown, x, static_cast<int>(20 * scale)), place > 20 && place < 52 ? darkest : 0) << place;
     }
 }
 
@@ -511,6 +511,8 @@ TEST_F(LayerInAWindow, ANewLayerReplacesTheOldOne)
 TEST_F(LayerInAWindow, IsDrawnIntoLayersOfTheSceneGraph)
 {
     CountedWindow window({100, 40});
+    if (window.rendererInterface()->graphicsApi() == QSGRendererInterface::Software)
+        GTEST_SKIP() << "the toolkit itself draws nothing right into a layer there";
     QQuickItem around(window.contentItem());
     around.setSize({100, 40});
     LayerItem item(&around);
@@ -558,7 +560,7 @@ TEST_F(LayerInAWindow, PaintsNothingTwiceWhereOthersChangeBeneathAndAbove)
     goTo(9.1);
     EXPECT_TRUE(window.rests());
     const QImage screen = window.screen()->grabWindow(window.winId()).toImage();
-    EXPECT_EQ(farthest(screen, window.grabWindow()), 0);
+    EXPECT_EQ(farthest(screen, window.grabWindow().copy(screen.rect())), 0);
 }
 
 TEST_F(LayerInAWindow, ACoverHidesItAndShowsItAgain)

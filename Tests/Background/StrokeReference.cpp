@@ -85,12 +85,33 @@ Path startOf(const Path &path, double strokeEnd)
     return part;
 }
 
-// The corners of the path where its curves join, and the place where the share of its length ends.
+// Where a curve of two points bends with a radius of less than its width.
+void addNarrowBends(Point start, const CubicCurve &curve, std::vector<Point> &places)
+{
+    Point former = start;
+    Point formerStep;
+    for (int step = 1; step <= steps; ++step) {
+        const Point place = startOfCurve(start, curve, static_cast<double>(step) / steps).end;
+        const Point run{place.x - former.x, place.y - former.y};
+        const double turn = std::abs(
+            std::atan2(formerStep.x * run.y - formerStep.y * run.x, formerStep.x * run.x + formerStep.y * run.y));
+        if (std::hypot(run.x, run.y) < 2 * turn)
+            places.push_back(former);
+        former = place;
+        formerStep = run;
+    }
+}
+
+// The corners of the path where its curves join or bend narrowly, and the place where the share of its length ends.
 std::vector<Point> cornersAndEnd(const Path &path, double strokeEnd)
 {
     std::vector<Point> places{path.start};
-    for (const CubicCurve &curve : path.curves)
-        places.push_back(curve.end);
+    Point place = path.start;
+    for (const CubicCurve &curve : path.curves) {
+        addNarrowBends(place, curve, places);
+        place = curve.end;
+        places.push_back(place);
+    }
     const Path part = startOf(path, strokeEnd);
     places.push_back(part.curves.empty() ? part.start : part.curves.back().end);
     return places;

@@ -34,7 +34,8 @@ Coverage cairoStroke(const Path &path, double lineWidth, double strokeEnd, doubl
 using Darkness = std::function<double(int x, int y)>;
 
 /// Compares a picture of \a path, two points wide and black with an opacity of 0.2 on white, with that of Cairo. Names
-/// the pixels that are off by more than 8 of 255, or 20 beside a corner or an end of the line; empty if there are none.
+/// the pixels that are off by more than 8 of 255, or 20 beside an end of the line, a corner or a bend whose radius is
+/// less than two points; empty if there are none.
 std::string differences(const Path &path, double strokeEnd, double scale, int width, int height, const Darkness &shown);
 
 } // namespace TQFoundation::Testing

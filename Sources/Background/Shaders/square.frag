@@ -16,17 +16,20 @@ layout(std140, binding = 0) uniform Layer
     float end;
 };
 
-const int samples = 32;
+const int samples = 64;
 
 float least(vec4 distances)
 {
     return min(min(distances.x, distances.y), min(distances.z, distances.w));
 }
 
+const float disc = 512.0; // marks the radius of a disc
+
 // How far a sample lies within a part; less than 0 is outside.
 float within(vec4 edges, vec4 edgesX, vec4 edgesY, float left, vec2 offset)
 {
-    return min(least(edges + offset.x * edgesX + offset.y * edgesY), left);
+    vec4 here = edges + offset.x * edgesX + offset.y * edgesY;
+    return min(here.w > disc ? here.w - disc - length(here.xy) : least(here), left);
 }
 
 void main()
@@ -42,7 +45,7 @@ void main()
     float covered = 0.0;
     for (int k = 0; k < samples; ++k) {
         // A lattice in which all columns and all rows of samples differ.
-        vec2 offset = fract(vec2(float(k) + 0.5, float(k) * 9.0 + 0.5) / float(samples)) - 0.5;
+        vec2 offset = fract(vec2(float(k) + 0.5, float(k) * 19.0 + 0.5) / float(samples)) - 0.5;
         vec4 leftHere = left + offset.x * leftX + offset.y * leftY;
         float left4Here = left4 + offset.x * left4X + offset.y * left4Y;
         float most = max(max(max(within(within0, x0, y0, leftHere.x, offset), within(within1, x1, y1, leftHere.y, offset)),

@@ -90,6 +90,7 @@ FocusScope {
                     focus: true
                     text: TQMore.privacyText
                     link: TQMore.privacyUrl
+                    tintColor: root.app.tintColor
                 }
                 Entry {
                     text: TQMore.feedbackText
@@ -98,6 +99,7 @@ FocusScope {
                 LinkRow {
                     text: TQMore.reviewText
                     link: root.app.reviewLink
+                    tintColor: root.app.tintColor
                     last: true
                 }
             }
@@ -108,10 +110,12 @@ FocusScope {
                 LinkRow {
                     text: TQMore.icpOrBlogText(root.app.icp)
                     link: TQMore.icpOrBlogUrl(root.app.icp)
+                    tintColor: root.app.tintColor
                 }
                 LinkRow {
                     text: TQMore.blogOrSocialText(root.app.icp)
                     link: TQMore.blogOrSocialUrl(root.app.icp)
+                    tintColor: root.app.tintColor
                     last: true
                 }
             }
@@ -122,6 +126,7 @@ FocusScope {
                 LinkRow {
                     text: TQMore.moreAppText
                     link: TQMore.moreAppUrl
+                    tintColor: root.app.tintColor
                 }
 
                 Item {
@@ -164,7 +169,8 @@ FocusScope {
 
     component LinkRow: Entry {
         required property string link
+        required property tqColor tintColor
 
-        onClicked: TQMore.openUrl(link, root.app.tintColor)
+        onClicked: TQMore.openUrl(link, tintColor)
     }
 }

@@ -230,7 +230,9 @@ bool takePictures(QQuickWindow *window, const Options &options)
             // Until it has slid in and what it shows is there.
             showSheet(options);
             QEventLoop shown;
-            QTimer::singleShot(options.compose ? 500 : 3000, &shown, &QEventLoop::quit);
+            QTimer enough;
+            QObject::connect(&enough, &QTimer::timeout, &shown, &QEventLoop::quit);
+            enough.start(options.compose ? 500 : 3000);
             shown.exec();
         } else {
             if (guide)

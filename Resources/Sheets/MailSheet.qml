@@ -244,7 +244,7 @@ Sheet {
                 Rectangle {
                     width: parent.width
                     height: message.height
-                    color: root.page.hasColors ? "#ffffff" : root.ground
+                    color: root.page.hasColors ? "#ffffff" : "transparent"
 
                     T.TextArea {
                         id: message

@@ -49,6 +49,11 @@ with tempfile.TemporaryDirectory() as name:
     pictures = sorted(path.name for path in (folder / "background").glob("*"))
     if result.returncode or result.stderr or pictures != [f"background-{moment}.png" for moment in (0.5, 4.5, 9.1, 9.9)]:
         failures.append(f"--background-only: {result.returncode} {pictures} {result.stderr}")
+    result = run("--compose", "--shots", str(folder / "compose"))
+    if result.returncode or size_of(folder / "compose" / "sheet.png") != (780, 1688):
+        failures.append(f"--compose: {result.returncode} {result.stderr}")
+    if (folder / "compose" / "sheet.png").read_bytes() == (folder / "compose" / "more.png").read_bytes():
+        failures.append("--compose shows no sheet")
 
     def more_picture(app, storefront):
         target = folder / f"{app}-{storefront}"
@@ -62,7 +67,7 @@ with tempfile.TemporaryDirectory() as name:
     if more_picture("alder", "CHN") != more_picture("alder", "USA"):
         failures.append("an app without a filing differs by storefront")
 
-    for options in (["--app", "oak"], ["--size", "10x10"], ["--size", "huge"], ["--nonsense"], ["--shots", ""]):
+    for options in (["--app", "oak"], ["--size", "10x10"], ["--size", "huge"], ["--nonsense"], ["--shots", ""], ["--open-browser", ""], ["--open-browser", "http://[1"]):
         result = run(*options, folder=folder)
         if result.returncode != 2 or not result.stderr.startswith("Grove: "):
             failures.append(f"{options}: {result.returncode} {result.stderr}")

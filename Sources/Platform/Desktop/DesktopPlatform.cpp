@@ -230,7 +230,7 @@ QVariant DesktopPlatform::userDefault(const QString &key) const
     const QSettings *stored = settings();
     if (!stored)
         return {};
-    const QVariant value = stored->value(key);
+    QVariant value = stored->value(key);
     if (isText(*stored) && value.typeId() == QMetaType::QString) {
         if (value.toString() == u"true")
             return true;

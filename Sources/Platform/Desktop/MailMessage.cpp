@@ -79,8 +79,8 @@ void appendBase64(std::string &out, std::string_view bytes)
 {
     constexpr std::string_view digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     for (std::size_t index = 0; index < bytes.size(); index += 3) {
-        const std::uint32_t group = static_cast<std::uint32_t>(
-            byteAt(bytes, index) << 16 | byteAt(bytes, index + 1) << 8 | byteAt(bytes, index + 2));
+        const auto group = static_cast<std::uint32_t>(byteAt(bytes, index) << 16 | byteAt(bytes, index + 1) << 8
+                                                      | byteAt(bytes, index + 2));
         const std::size_t present = std::min<std::size_t>(bytes.size() - index, 3);
         for (std::size_t digit = 0; digit < 4; ++digit)
             out += digit <= present ? digits[group >> (18 - 6 * digit) & 63] : '=';

@@ -188,8 +188,9 @@ void MailDraft::send()
         heardBack(message ? Sendmail::Outcome::noProgram : Sendmail::Outcome::failed, {});
         return;
     }
-    m_sendmail = new Sendmail(program, QByteArray::fromStdString(*message), this);
+    m_sendmail = new Sendmail(this);
     connect(m_sendmail, &Sendmail::finished, this, &MailDraft::heardBack);
+    m_sendmail->start(program, QByteArray::fromStdString(*message));
 }
 
 void MailDraft::cancel()

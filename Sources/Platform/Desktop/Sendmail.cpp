@@ -71,21 +71,26 @@ QByteArray senderAddress()
     const auto isAddress = [](const QByteArray &text) {
         return isMailAddress({text.constData(), static_cast<std::size_t>(text.size())});
     };
-    const QByteArray chosen = qgetenv("EMAIL");
+    QByteArray chosen = qgetenv("EMAIL");
     if (isAddress(chosen))
         return chosen;
     QByteArray user = qgetenv("LOGNAME");
     if (user.isEmpty())
         user = qgetenv("USER");
-    const QByteArray atThisMachine = user + '@' + QSysInfo::machineHostName().toUtf8();
+    QByteArray atThisMachine = user + '@' + QSysInfo::machineHostName().toUtf8();
     return isAddress(atThisMachine) ? atThisMachine : QByteArrayLiteral("user@localhost");
 }
 
-Sendmail::Sendmail(const QString &program, const QByteArray &message, QObject *parent)
-    : QObject(parent),
-      m_process(new Program(untilApplicationEnds()))
+Sendmail::~Sendmail()
 {
-    QProcess *process = m_process;
+    if (m_bound)
+        m_bound->invalidate();
+}
+
+void Sendmail::start(const QString &program, const QByteArray &message)
+{
+    auto *process = new Program(untilApplicationEnds());
+    m_process = process;
     process->setStandardOutputFile(QProcess::nullDevice());
     connect(process, &QProcess::readyReadStandardError, this, [this, process] {
         constexpr qsizetype longest = 4096;
@@ -115,11 +120,6 @@ Sendmail::Sendmail(const QString &program, const QByteArray &message, QObject *p
     }
 }
 
-Sendmail::~Sendmail()
-{
-    m_bound->invalidate();
-}
-
 void Sendmail::finish(Outcome outcome)
 {
     if (std::exchange(m_finished, true))
@@ -132,9 +132,7 @@ void Sendmail::finish(Outcome outcome)
         if (character.category() == QChar::Other_Control)
             character = u' ';
     }
-    // Afterwards, because a program that cannot be started says so before anyone could listen.
-    QMetaObject::invokeMethod(
-        this, [this, outcome, line] { Q_EMIT finished(outcome, line.trimmed()); }, Qt::QueuedConnection);
+    Q_EMIT finished(outcome, line.trimmed());
 }
 
 } // namespace TQFoundation

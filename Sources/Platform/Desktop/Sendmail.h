@@ -22,7 +22,7 @@ QByteArray senderAddress();
 
 /// Hands one message to a sendmail program, which passes it on to whom its header names. Main thread only.
 ///
-/// Nothing waits: finished() comes once control is back in the event loop. A program that has the whole message goes on
+/// Nothing waits. A program that has the whole message goes on
 /// by itself when this object or the application goes; one that has not is ended, so that no half of a mail is sent.
 class Sendmail : public QObject
 {
@@ -44,12 +44,15 @@ public:
     /// How long the program may take, in seconds.
     static constexpr double patience = 30;
 
-    /// Starts \a program with \a message.
-    Sendmail(const QString &program, const QByteArray &message, QObject *parent);
+    using QObject::QObject;
     ~Sendmail() override;
 
+    /// Starts \a program and hands it \a message. Call it once.
+    void start(const QString &program, const QByteArray &message);
+
 Q_SIGNALS:
-    /// Comes once. \a detail is what the program itself said last, one line of plain text, or empty.
+    /// Comes once, for a program that cannot be started at once. \a detail is what the program itself said last, one
+    /// line of plain text, or empty.
     void finished(TQFoundation::Sendmail::Outcome outcome, const QString &detail);
 
 private:

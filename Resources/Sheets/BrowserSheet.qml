@@ -88,15 +88,15 @@ Sheet {
                 onClicked: root.page.closed()
 
                 contentItem: Icon {
-                    tint: root.tint
-
                     Stroke {
+                        color: root.tint
                         anchors.centerIn: parent
                         length: 20
                         rotation: 45
                     }
 
                     Stroke {
+                        color: root.tint
                         anchors.centerIn: parent
                         length: 20
                         rotation: -45
@@ -117,11 +117,11 @@ Sheet {
                 onClicked: web.goBack()
 
                 contentItem: Icon {
-                    tint: root.tint
                     opacity: back.enabled ? 1 : 0.3
                     rotation: root.rightToLeft ? 180 : 0
 
                     Stroke {
+                        color: root.tint
                         x: 16
                         y: 21
                         length: 13
@@ -130,6 +130,7 @@ Sheet {
                     }
 
                     Stroke {
+                        color: root.tint
                         x: 16
                         y: 21
                         length: 13
@@ -167,8 +168,6 @@ Sheet {
 
                 // Three quarters of a ring with a head.
                 contentItem: Icon {
-                    tint: root.tint
-
                     Rectangle {
                         x: 13
                         y: 13
@@ -188,6 +187,7 @@ Sheet {
                     }
 
                     Stroke {
+                        color: root.tint
                         x: 19
                         y: 13
                         length: 7
@@ -196,6 +196,7 @@ Sheet {
                     }
 
                     Stroke {
+                        color: root.tint
                         x: 19
                         y: 13
                         length: 7
@@ -354,20 +355,16 @@ Sheet {
     }
 
     component Icon: Item {
-        required property color tint
-
         implicitWidth: 44
         implicitHeight: 44
     }
 
     component Stroke: Rectangle {
-        readonly property Icon icon: parent as Icon
         property real length
 
         width: length
         height: 2
         radius: 1
-        color: icon ? icon.tint : "transparent"
         antialiasing: true
     }
 }

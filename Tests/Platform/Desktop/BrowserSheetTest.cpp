@@ -7,6 +7,7 @@
 #include <QtNetwork/qtcpserver.h>
 #include <QtNetwork/qtcpsocket.h>
 
+#include <algorithm>
 #include <csignal>
 
 namespace TQFoundation {
@@ -126,6 +127,21 @@ TEST_F(BrowserSheet, ShowsAPageUnderItsHostAndNotUnderItsTitle)
     EXPECT_FALSE(text("Bank of Anywhere"));
     EXPECT_FALSE(isProblemShown());
     EXPECT_TRUE(QOpenGLContext::globalShareContext());
+}
+
+TEST_F(BrowserSheet, ItsButtonsAreIconsInTheTint)
+{
+    browse(plain);
+    for (const char *name : {"Close", "Back", "Reload"}) {
+        const QList<QQuickItem *> parts = button(name)->findChildren<QQuickItem *>();
+        const auto strokes = std::ranges::count_if(parts, [](const QQuickItem *part) {
+            const auto color = part->property("color").value<QColor>();
+            return part->inherits("QQuickRectangle") && part->height() == 2 && color.red() > 150 && color.green() < 100;
+        });
+        EXPECT_EQ(strokes, 2) << name;
+        EXPECT_GE(button(name)->width(), 44);
+        EXPECT_GE(button(name)->height(), 44);
+    }
 }
 
 TEST_F(BrowserSheet, NothingIsLoadedBeforeItIsPresented)

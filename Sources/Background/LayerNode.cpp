@@ -418,14 +418,12 @@ const QSGGeometry::AttributeSet &bandAttributes()
 
 const QSGGeometry::AttributeSet &squareAttributes()
 {
-    static const std::array attributes{QSGGeometry::Attribute::create(0, 2, QSGGeometry::FloatType, true),
-                                       QSGGeometry::Attribute::create(1, 4, QSGGeometry::FloatType),
-                                       QSGGeometry::Attribute::create(2, 4, QSGGeometry::FloatType),
-                                       QSGGeometry::Attribute::create(3, 4, QSGGeometry::FloatType),
-                                       QSGGeometry::Attribute::create(4, 4, QSGGeometry::FloatType),
-                                       QSGGeometry::Attribute::create(5, 4, QSGGeometry::FloatType),
-                                       QSGGeometry::Attribute::create(6, 4, QSGGeometry::FloatType),
-                                       QSGGeometry::Attribute::create(7, 1, QSGGeometry::FloatType)};
+    static const std::array attributes = [] {
+        std::array<QSGGeometry::Attribute, 8> vectors;
+        for (int k = 0; k < 8; ++k)
+            vectors[static_cast<std::size_t>(k)] = QSGGeometry::Attribute::create(k, 4, QSGGeometry::FloatType, k == 0);
+        return vectors;
+    }();
     static const QSGGeometry::AttributeSet set{attributes.size(), sizeof(StrokeMesh::SquareVertex), attributes.data()};
     return set;
 }

@@ -92,6 +92,11 @@ public:
             const Point rim = part.corners[1];
             m_radius = std::hypot(rim.x - middle().x, rim.y - middle().y);
         }
+        const auto side = [&](std::size_t from, std::size_t to) {
+            return std::hypot(part.corners[to].x - part.corners[from].x, part.corners[to].y - part.corners[from].y);
+        };
+        const auto [shorter, longer] = std::minmax(side(0, 1), side(3, 2));
+        m_isNarrow = shorter < 0.5 * longer;
         const auto [minX, maxX] = std::ranges::minmax(part.corners, {}, &Point::x);
         const auto [minY, maxY] = std::ranges::minmax(part.corners, {}, &Point::y);
         left = (isDisc() ? middle().x - m_radius : minX.x) - reach;
@@ -110,6 +115,7 @@ public:
     bool isDisc() const { return m_part.isBend; }
     bool startsSmoothly() const { return m_part.seams[3]; }
     bool endsSmoothly() const { return m_part.seams[1]; }
+    bool isNarrow() const { return m_isNarrow; } // whether it bends too much for its sides to count as straight
     Point middle() const { return m_part.corners[0]; } // of a disc
     const HalfPlane &edge(std::size_t k) const { return m_edges[k]; }
     double length(Point place) const { return m_length.at(place); }
@@ -158,6 +164,7 @@ private:
     std::array<HalfPlane, 4> m_edges;
     HalfPlane m_length;
     double m_radius = 0;
+    bool m_isNarrow = false;
 };
 
 class Mesher
@@ -268,7 +275,8 @@ private:
         for (std::size_t k = 0; k < parts.size(); ++k) {
             const Placed &placed = m_placed[parts[k]];
             const StrokePart &part = m_parts[parts[k]];
-            if (placed.part().isJoin() || (!placed.startsSmoothly() && isNear(part.corners[0], part.corners[3], box))
+            if (placed.part().isJoin() || placed.isNarrow()
+                || (!placed.startsSmoothly() && isNear(part.corners[0], part.corners[3], box))
                 || (!placed.endsSmoothly() && isNear(part.corners[1], part.corners[2], box)))
                 return false;
             if (k == 0)

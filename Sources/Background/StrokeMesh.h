@@ -29,7 +29,7 @@ struct StrokeMesh
 
     /// How many parts a square knows. Squares where more parts meet are split until so many are left, or until they are
     /// as small as a pixel may be; there those that matter least are left out.
-    static constexpr std::size_t mostParts = 5;
+    static constexpr std::size_t mostParts = 6;
 
     /// A disc has the way from its middle, along x and y, in place of its first two distances, and its radius and this
     /// in place of the last one, which is never so large otherwise.
@@ -39,8 +39,8 @@ struct StrokeMesh
     {
         float x;
         float y;
-        std::array<std::array<float, 4>, mostParts> within; ///< The distances to the edges of each part, or a disc.
         std::array<float, mostParts> length; ///< The length of the line within each part.
+        std::array<std::array<float, 4>, mostParts> within; ///< The distances to the edges of each part, or a disc.
     };
 
     std::vector<BandVertex> band;

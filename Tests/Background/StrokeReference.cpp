@@ -102,18 +102,29 @@ void addNarrowBends(Point start, const CubicCurve &curve, std::vector<Point> &pl
     }
 }
 
-// The corners of the path where its curves join or bend narrowly, and the place where the share of its length ends.
-std::vector<Point> cornersAndEnd(const Path &path, double strokeEnd)
+struct Places
 {
-    std::vector<Point> places{path.start};
+    std::vector<Point> corners; // where the curves join, and where the share of the length ends
+    std::vector<Point> bends; // of a radius of less than two points
+
+    static bool areNear(const std::vector<Point> &places, Point place, double distance)
+    {
+        return std::ranges::any_of(
+            places, [&](Point other) { return std::hypot(other.x - place.x, other.y - place.y) < distance; });
+    }
+};
+
+Places placesOf(const Path &path, double strokeEnd)
+{
+    Places places{{path.start}, {}};
     Point place = path.start;
     for (const CubicCurve &curve : path.curves) {
-        addNarrowBends(place, curve, places);
+        addNarrowBends(place, curve, places.bends);
         place = curve.end;
-        places.push_back(place);
+        places.corners.push_back(place);
     }
     const Path part = startOf(path, strokeEnd);
-    places.push_back(part.curves.empty() ? part.start : part.curves.back().end);
+    places.corners.push_back(part.curves.empty() ? part.start : part.curves.back().end);
     return places;
 }
 
@@ -182,7 +193,7 @@ Coverage cairoStroke(const Path &path, double lineWidth, double strokeEnd, doubl
 std::string differences(const Path &path, double strokeEnd, double scale, int width, int height, const Darkness &shown)
 {
     constexpr double alpha = 0.2;
-    const std::vector<Point> corners = cornersAndEnd(path, strokeEnd);
+    const Places places = placesOf(path, strokeEnd);
     const Coverage reference = cairoStroke(path, 2, strokeEnd, scale, width, height);
     std::ostringstream found;
     for (int y = 0; y < height; ++y) {
@@ -190,11 +201,11 @@ std::string differences(const Path &path, double strokeEnd, double scale, int wi
             const double darkness = shown(x, y);
             if (std::abs(darkness - alpha * reference.at(x, y)) <= 8)
                 continue;
-            const bool isAtCorner = std::ranges::any_of(corners, [&](Point corner) {
-                return std::hypot(corner.x - (x + 0.5) / scale, corner.y - (y + 0.5) / scale) < 3;
-            });
+            const Point place{(x + 0.5) / scale, (y + 0.5) / scale};
+            const bool isAtCorner = Places::areNear(places.corners, place, 3);
+            const bool isAtBend = Places::areNear(places.bends, place, 3);
             const double expected = alpha * enlarged(path, strokeEnd, scale, x, y);
-            if (std::abs(darkness - expected) > (isAtCorner ? 20 : 8))
+            if (std::abs(darkness - expected) > (isAtCorner || isAtBend ? 20 : 8) && !(isAtCorner && isAtBend))
                 found << x << ',' << y << " is " << darkness << " instead of " << expected << "; ";
         }
     }

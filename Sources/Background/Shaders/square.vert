@@ -1,21 +1,22 @@
 #version 440
 
-layout(location = 0) in vec2 place;
-layout(location = 1) in vec4 edges0; // the distances to the edges of each part
-layout(location = 2) in vec4 edges1;
-layout(location = 3) in vec4 edges2;
-layout(location = 4) in vec4 edges3;
-layout(location = 5) in vec4 edges4;
-layout(location = 6) in vec4 lengths; // the length of the line within the first four
-layout(location = 7) in float length4;
+layout(location = 0) in vec4 placeAndLengths; // the length of the line within the first two parts
+layout(location = 1) in vec4 lengths; // and within the others
+layout(location = 2) in vec4 edges0; // the distances to the edges of each part
+layout(location = 3) in vec4 edges1;
+layout(location = 4) in vec4 edges2;
+layout(location = 5) in vec4 edges3;
+layout(location = 6) in vec4 edges4;
+layout(location = 7) in vec4 edges5;
 
-layout(location = 0) out vec4 within0;
-layout(location = 1) out vec4 within1;
-layout(location = 2) out vec4 within2;
-layout(location = 3) out vec4 within3;
-layout(location = 4) out vec4 within4;
-layout(location = 5) out vec4 left; // the length that is left until the end of what is drawn
-layout(location = 6) out float left4;
+layout(location = 0) out vec2 leftFirst; // the length that is left until the end of what is drawn
+layout(location = 1) out vec4 left;
+layout(location = 2) out vec4 within0;
+layout(location = 3) out vec4 within1;
+layout(location = 4) out vec4 within2;
+layout(location = 5) out vec4 within3;
+layout(location = 6) out vec4 within4;
+layout(location = 7) out vec4 within5;
 
 layout(std140, binding = 0) uniform Layer
 {
@@ -26,12 +27,13 @@ layout(std140, binding = 0) uniform Layer
 
 void main()
 {
+    leftFirst = end - placeAndLengths.zw;
+    left = end - lengths;
     within0 = edges0;
     within1 = edges1;
     within2 = edges2;
     within3 = edges3;
     within4 = edges4;
-    left = end - lengths;
-    left4 = end - length4;
-    gl_Position = qt_Matrix * vec4(place, 0.0, 1.0);
+    within5 = edges5;
+    gl_Position = qt_Matrix * vec4(placeAndLengths.xy, 0.0, 1.0);
 }

@@ -173,13 +173,11 @@ bool isMailAddress(std::string_view text) noexcept
 
 std::optional<std::string> composeMail(const MailMessage &message)
 {
-    if (!isMailAddress(message.from) || !isMailAddress(message.to))
+    if (!isMailAddress(message.to))
         return std::nullopt;
     std::string out;
     out.reserve(message.html.size() / 3 * 4 + message.html.size() / 57 + 2 * message.subject.size() + 512);
-    out += "From: " + message.from + '\n';
     out += "To: " + message.to + '\n';
-    appendTextField(out, "Date", headerText(message.date));
     appendTextField(out, "Subject", headerText(message.subject));
     out += "MIME-Version: 1.0\n"
            "Content-Type: text/html; charset=utf-8\n"

@@ -9,9 +9,7 @@ namespace TQFoundation {
 /// One mail to one person, as plain values in UTF-8. All of it may come from outside.
 struct MailMessage
 {
-    std::string from; ///< the sender's address
     std::string to; ///< the recipient's address
-    std::string date; ///< as RFC 5322, section 3.3, writes it
     std::string subject;
     std::string html; ///< the body, a text of the type text/html
 };
@@ -25,9 +23,9 @@ bool isMailAddress(std::string_view text) noexcept;
 /// The message as RFC 5322 and MIME write it and as a sendmail program reads it: lines end in "\n", none is longer than
 /// 78 bytes before that (unless an address makes it so), and all is ASCII.
 ///
-/// It has exactly one recipient: nothing where `from` or `to` is no address by isMailAddress(). In headers every
-/// control character and line separator becomes a blank; what is no valid UTF-8 becomes U+FFFD everywhere; all else
-/// arrives byte for byte. Any thread.
+/// Who sends it and when, the program adds, which knows the user's address. There is exactly one recipient: nothing
+/// where `to` is no address by isMailAddress(). In headers every control character and line separator becomes a blank;
+/// what is no valid UTF-8 becomes U+FFFD everywhere; all else arrives byte for byte. Any thread.
 std::optional<std::string> composeMail(const MailMessage &message);
 
 } // namespace TQFoundation

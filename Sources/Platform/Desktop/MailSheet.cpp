@@ -3,7 +3,6 @@
 #include "Bundle.h"
 #include "MailMessage.h"
 
-#include <QtCore/qdatetime.h>
 #include <QtGui/qclipboard.h>
 #include <QtGui/qguiapplication.h>
 #include <QtGui/qimage.h>
@@ -177,9 +176,7 @@ void MailDraft::send()
     m_sending = true;
     Q_EMIT stateChanged();
     const auto message = composeMail({
-        .from = senderAddress().toStdString(),
         .to = recipientText().toStdString(),
-        .date = QDateTime::currentDateTime().toString(Qt::RFC2822Date).toStdString(),
         .subject = m_subject.toStdString(),
         .html = this->message().toStdString(),
     });

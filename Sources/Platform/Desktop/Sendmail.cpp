@@ -1,12 +1,10 @@
 #include "Sendmail.h"
 
 #include "LibraryEngine.h"
-#include "MailMessage.h"
 #include "Platform.h"
 
 #include <QtCore/qfileinfo.h>
 #include <QtCore/qprocess.h>
-#include <QtCore/qsysinfo.h>
 
 #include <utility>
 
@@ -64,21 +62,6 @@ QString sendmailProgram(const QStringList &folders)
             return program.absoluteFilePath();
     }
     return {};
-}
-
-QByteArray senderAddress()
-{
-    const auto isAddress = [](const QByteArray &text) {
-        return isMailAddress({text.constData(), static_cast<std::size_t>(text.size())});
-    };
-    QByteArray chosen = qgetenv("EMAIL");
-    if (isAddress(chosen))
-        return chosen;
-    QByteArray user = qgetenv("LOGNAME");
-    if (user.isEmpty())
-        user = qgetenv("USER");
-    QByteArray atThisMachine = user + '@' + QSysInfo::machineHostName().toUtf8();
-    return isAddress(atThisMachine) ? atThisMachine : QByteArrayLiteral("user@localhost");
 }
 
 Sendmail::~Sendmail()

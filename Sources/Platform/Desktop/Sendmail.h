@@ -16,10 +16,6 @@ class RepeatingTimer;
 /// The program called sendmail in the first of \a folders that holds an executable one; empty where none does.
 QString sendmailProgram(const QStringList &folders);
 
-/// The address that the user's mail comes from, always one by isMailAddress(): what the environment says in EMAIL,
-/// where it is an address, else the user's name at this machine.
-QByteArray senderAddress();
-
 /// Hands one message to a sendmail program, which passes it on to whom its header names. Main thread only.
 ///
 /// Nothing waits. A program that has the whole message goes on

@@ -16,7 +16,7 @@ int main()
     };
     std::ios::sync_with_stdio(false);
     TQFoundation::MailMessage mail;
-    while (read(mail.from) && read(mail.to) && read(mail.date) && read(mail.subject) && read(mail.html)) {
+    while (read(mail.to) && read(mail.subject) && read(mail.html)) {
         const auto message = TQFoundation::composeMail(mail);
         if (message)
             std::cout << message->size() << '\n' << *message;

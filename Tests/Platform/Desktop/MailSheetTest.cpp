@@ -141,33 +141,15 @@ TEST_F(MailSheet, TheProgramReadsTheRecipientFromTheMailAndNoDotEndsIt)
     EXPECT_EQ(sentHeader("To"), "support@tqstudio.example");
 }
 
-TEST_F(MailSheet, TheSenderIsTheOneThatTheEnvironmentNames)
-{
-    makeKeepingProgram();
-    qputenv("EMAIL", "me@home.example");
-    compose();
-    ASSERT_TRUE(sendAndWait());
-    EXPECT_EQ(sentHeader("From"), "me@home.example");
-}
-
-TEST_F(MailSheet, ASenderThatIsNoAddressIsTheUserAtThisMachine)
+TEST_F(MailSheet, WhoSendsItAndWhenIsForTheProgramToSay)
 {
     makeKeepingProgram();
     qputenv("EMAIL", "me@home.example\nBcc: eve@evil.example");
-    qputenv("LOGNAME", "me");
     compose();
     ASSERT_TRUE(sendAndWait());
-    EXPECT_TRUE(sentHeader("From").startsWith("me@")) << sentHeader("From").toStdString();
+    EXPECT_EQ(sentHeader("From"), QByteArray());
+    EXPECT_EQ(sentHeader("Date"), QByteArray());
     EXPECT_FALSE(kept("mail").contains("Bcc"));
-}
-
-TEST_F(MailSheet, TheMailSaysWhenItWasWritten)
-{
-    makeKeepingProgram();
-    compose();
-    ASSERT_TRUE(sendAndWait());
-    const QDateTime date = QDateTime::fromString(QString::fromLatin1(sentHeader("Date")), Qt::RFC2822Date);
-    EXPECT_LT(std::abs(date.secsTo(QDateTime::currentDateTime())), 60);
 }
 
 TEST_F(MailSheet, WhatTheUserWritesIsSent)

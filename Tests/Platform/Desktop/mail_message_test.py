@@ -12,7 +12,7 @@ import unicodedata
 
 tool = sys.argv[1]
 failures = []
-FROM, TO, DATE = "user@host", "support@tqstudio.example", "16 Aug 2026 12:00:00 +0200"
+TO = "support@tqstudio.example"
 
 
 def field(value):
@@ -21,7 +21,7 @@ def field(value):
 
 
 def compose(cases):
-    """The messages of the cases (from, to, date, subject, html), None where there is none."""
+    """The messages of the cases (to, subject, html), None where there is none."""
     given = b"".join(field(part) for case in cases for part in case)
     out = subprocess.run([tool], input=given, stdout=subprocess.PIPE, check=True).stdout
     messages, at = [], 0
@@ -78,25 +78,23 @@ def check(case, data):
     # The classic policy hands the header out as it stands, the default one parses it by the later rules.
     message = email.message_from_bytes(data)
     expect(message.defects == [], f"defects {message.defects}")
-    expect(sorted(message.keys()) == sorted(["From", "To", "Date", "Subject", "MIME-Version", "Content-Type",
-                                              "Content-Transfer-Encoding"]), f"headers {message.keys()}")
+    expect(sorted(message.keys()) == sorted(["To", "Subject", "MIME-Version", "Content-Type", "Content-Transfer-Encoding"]), f"headers {message.keys()}")
     recipients = email.utils.getaddresses([value for name, value in message.items()
                                            if name.lower() in ("to", "cc", "bcc", "resent-to", "resent-bcc")])
-    expect(recipients == [("", case[1])], f"recipients {recipients}")
+    expect(recipients == [("", case[0])], f"recipients {recipients}")
     subject = str(email.header.make_header(email.header.decode_header(message["Subject"])))
-    expect(subject == as_header(case[3]), f"subject {subject!r}")
+    expect(subject == as_header(case[1]), f"subject {subject!r}")
     expect(message.get_content_type() == "text/html" and message.get_content_charset() == "utf-8", "type")
-    expect(message.get_payload(decode=True) == valid(case[4]).encode("utf-8"), "body")
+    expect(message.get_payload(decode=True) == valid(case[2]).encode("utf-8"), "body")
 
     modern = email.message_from_bytes(data, policy=email.policy.default)
-    expect([a.addr_spec for a in modern["To"].addresses] == [case[1]], "recipient by the later rules")
-    expect([a.addr_spec for a in modern["From"].addresses] == [case[0]], "sender by the later rules")
-    if as_header(case[3]).strip() == as_header(case[3]) and "=?" not in as_header(case[3]):
-        expect(modern["Subject"] == as_header(case[3]), f"subject by the later rules {modern['Subject']!r}")
+    expect([a.addr_spec for a in modern["To"].addresses] == [case[0]], "recipient by the later rules")
+    if as_header(case[1]).strip() == as_header(case[1]) and "=?" not in as_header(case[1]):
+        expect(modern["Subject"] == as_header(case[1]), f"subject by the later rules {modern['Subject']!r}")
 
 
-def mail(subject="Contact: Hazel Grid 2.3.1(57)", html="<p>Hello</p>", to=TO, sender=FROM, date=DATE):
-    return (sender, to, date, subject, html)
+def mail(subject="Contact: Hazel Grid 2.3.1(57)", html="<p>Hello</p>", to=TO):
+    return (to, subject, html)
 
 
 # Named cases.
@@ -120,15 +118,12 @@ cases = [
     mail(b"\xff\xfe\xc0\x80\xed\xa0\x80\xf4\x90\x80\x80\xe4\xb8", b"\x80\xc3(\xf0\x9f\x8c" + "中".encode()[:2]),
     mail("\ud800 lone \udc00", "\udfff"),
     mail("x", "中" * 400000),
-    mail(date="16 Aug 2026\r\nBcc: eve@evil.example\r\n"),
 ]
 messages = compose(cases)
 for case, message in zip(cases, messages):
     check(case, message)
 if messages[0] is None or b"Subject: Contact: Hazel Grid 2.3.1(57)\n" not in messages[0]:
     failures.append("what needs no encoding stays readable")
-if messages[0] is None or b"Date: " + DATE.encode() + b"\n" not in messages[0]:
-    failures.append("the date")
 
 # Addresses.
 good = ["a@b", "a.b+c_d-e'f@x-1.example", "A" * 64 + "@b", "a@" + "b" * 63 + ".c", "1@2"]
@@ -141,9 +136,6 @@ for address, message in zip(good, compose([mail(to=a) for a in good])):
 for sent, message in zip(bad, compose([mail(to=a) for a in bad])):
     if message is not None:
         failures.append(f"recipient {sent!r} was taken")
-for sent, message in zip(bad, compose([mail(sender=a) for a in bad])):
-    if message is not None:
-        failures.append(f"sender {sent!r} was taken")
 
 # Random ones: the pieces that could hurt, in every order.
 dice = random.Random(20260816)
@@ -164,5 +156,5 @@ cases = [mail(random_text(60), random_text(200)) for _ in range(4000)]
 for case, message in zip(cases, compose(cases)):
     check(case, message)
 
-print("\n".join(failures[:10]) or f"{len(cases) + len(bad) * 2 + len(good) + len(messages)} mails, each read back as it was")
+print("\n".join(failures[:10]) or f"{len(cases) + len(bad) + len(good) + len(messages)} mails, each read back as it was")
 sys.exit(bool(failures))

@@ -51,9 +51,9 @@ Sheet {
         }
     }
 
+    // A download that nobody accepts is not made.
     readonly property WebEngineProfile forgetful: WebEngineProfile {
         offTheRecord: true
-        onDownloadRequested: download => download.cancel()
     }
 
     FocusScope {

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "Color.h"
+
 #include <QtCore/qglobal.h>
 
-#include <array>
+#include <span>
 #include <string_view>
 
-/// Everything that names the developer, for a developer to replace in one place.
+/// Everything that names the developer and the developer's apps, for a developer to replace in one place.
 ///
 /// What QT_TRANSLATE_NOOP marks is also a key of the translation tables: change it there as well.
 namespace TQFoundation::DeveloperIdentity {
@@ -38,26 +40,65 @@ inline constexpr const char *filingPrefix = QT_TRANSLATE_NOOP("TQFoundation", "I
 /// The root of the national site where filings are looked up: scheme and host only.
 inline constexpr const char *filingSite = "https://beian.miit.gov.cn";
 
-/// What the store and the filing authority call one app.
-struct App
-{
-    const char *storeId; ///< ten decimal digits
-    const char *filingSuffix; ///< one or two digits and "A"; null for an app that has no filing
+/// The paragraphs of the guides. They are also the keys of their translations, slips included: a change here orphans
+/// every table's entry.
+inline constexpr const char *hazelGuide[] = {
+    //: First of six pages that explain the game of life to a new user; "Hazel Grid" is the app's name.
+    QT_TRANSLATE_NOOP("TQFoundation",
+                      "Welcome to the Hazel Grid.\n\n"
+                      "The game is an infinite, two-dimensional orthogonal grid of square cells, each of "
+                      "which is in one of two possible states, live or dead.\n\n"
+                      "At each step in time, the following transitions occur:"),
+    QT_TRANSLATE_NOOP("TQFoundation",
+                      "1.\n\nAny live cell with fewer than two live neighbours dies, as if by underpopulation."),
+    QT_TRANSLATE_NOOP("TQFoundation",
+                      "2.\n\nAny live cell with two or three live neighbours lives on to the next generation."),
+    QT_TRANSLATE_NOOP("TQFoundation",
+                      "3.\n\nAny live cell with more than three live neighbours dies, as if by overpopulation."),
+    QT_TRANSLATE_NOOP(
+        "TQFoundation",
+        "4.\n\nAny dead cell with exactly three live neighbours becomes a live cell, as if by reproduction."),
+    QT_TRANSLATE_NOOP("TQFoundation", "Next, please enjoy the Hazel Grid.\n\nBest regards."),
 };
 
-/// In the order of the catalogue.
-inline constexpr std::array<App, 10> apps{{
-    {"9990000001", "1A"},
-    {"9990000002", "2A"},
-    {"9990000003", "3A"},
-    {"9990000004", "4A"},
-    {"9990000005", "5A"},
-    {"9990000006", "6A"},
-    {"9990000007", "7A"},
-    {"9990000008", "8A"},
-    {"9990000009", "9A"},
-    {"9990000010", nullptr},
-}};
+inline constexpr const char *dogwoodGuide[] = {
+    QT_TRANSLATE_NOOP(
+        "TQFoundation",
+        "欢迎使用「青岚」。\n\n「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。"),
+    QT_TRANSLATE_NOOP("TQFoundation",
+                      "输入一个有效中文文字，按下回车按钮提交。\n\n每次提交之后，文字的笔画颜色也许会发生变化："),
+    QT_TRANSLATE_NOOP("TQFoundation",
+                      "绿色，\n\n表示正确文字包含此笔画，并且笔顺正确。\n\n在正确文字和所提交的文字的中都会全部显示。"),
+    QT_TRANSLATE_NOOP("TQFoundation",
+                      "灰色，\n\n代表正确文字虽然包含此笔画，但是笔顺不正确。\n\n"
+                      "如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。"),
+    QT_TRANSLATE_NOOP("TQFoundation", "接下来请使用「青岚」。\n\n敬颂时祺。"),
+};
+
+/// One app of the catalogue.
+struct App
+{
+    std::string_view caseName; ///< its name in TQFOUNDATION_APPS
+    const char *storeId; ///< ten decimal digits
+    const char *filingSuffix; ///< one or two digits and "A"; null for an app that has no filing
+    const char *iconName; ///< a file of Resources/Icons, without its extension
+    Color tint; ///< single-precision numbers, kept exactly
+    std::span<const char *const> guide = {}; ///< empty for an app without a guide
+};
+
+/// In the order of TQFOUNDATION_APPS.
+inline constexpr App apps[] = {
+    {"larch", "9990000001", "1A", "larch-page", Rgba{0.9529412F, 0.4392157F, 0.1294118F}},
+    {"juniper", "9990000002", "2A", "juniper-page", Color::systemBlue()},
+    {"hazel", "9990000003", "3A", "hazel-page", Color::label(), hazelGuide},
+    {"ginkgo", "9990000004", "4A", "ginkgo-page", Rgba{1, 0.4F, 0.7019608F}},
+    {"fir", "9990000005", "5A", "fir", Color::systemGray()},
+    {"elm", "9990000006", "6A", "elm-page", Color::systemRed()},
+    {"dogwood", "9990000007", "7A", "dogwood", Rgba{0, 0.5603183F, 0}, dogwoodGuide},
+    {"cedar", "9990000008", "8A", "cedar", Rgba{0.581883F, 0.2156915F, 1}},
+    {"birch", "9990000009", "9A", "birch", Rgba{0.5803922F, 0.09019608F, 0.3176471F}},
+    {"alder", "9990000010", nullptr, "alder-page", Rgba{0, 0.6980392F, 0.7137255F}},
+};
 
 static_assert(std::string_view(supportAddress).size() == 24);
 static_assert(std::string_view(filingPrefix).size() == 15);

@@ -6,6 +6,13 @@
 #include <QtCore/qobject.h>
 #include <QtQml/qqmlregistration.h>
 
+#define TQFOUNDATION_PROPERTY(name) Q_PROPERTY(TQFoundation::TQApp name READ name CONSTANT FINAL)
+#define TQFOUNDATION_GETTER(name)                                                                                      \
+    static TQApp name()                                                                                                \
+    {                                                                                                                  \
+        return TQApp::name;                                                                                            \
+    }
+
 namespace TQFoundation {
 
 /// The QML singleton `TQApp`: the cases of the catalogue and what is known of the running host.
@@ -16,16 +23,7 @@ class QmlApp : public QObject
     Q_OBJECT
     QML_NAMED_ELEMENT(TQApp)
     QML_SINGLETON
-    Q_PROPERTY(TQFoundation::TQApp larch READ larch CONSTANT FINAL)
-    Q_PROPERTY(TQFoundation::TQApp juniper READ juniper CONSTANT FINAL)
-    Q_PROPERTY(TQFoundation::TQApp hazel READ hazel CONSTANT FINAL)
-    Q_PROPERTY(TQFoundation::TQApp ginkgo READ ginkgo CONSTANT FINAL)
-    Q_PROPERTY(TQFoundation::TQApp fir READ fir CONSTANT FINAL)
-    Q_PROPERTY(TQFoundation::TQApp elm READ elm CONSTANT FINAL)
-    Q_PROPERTY(TQFoundation::TQApp dogwood READ dogwood CONSTANT FINAL)
-    Q_PROPERTY(TQFoundation::TQApp cedar READ cedar CONSTANT FINAL)
-    Q_PROPERTY(TQFoundation::TQApp birch READ birch CONSTANT FINAL)
-    Q_PROPERTY(TQFoundation::TQApp alder READ alder CONSTANT FINAL)
+    TQFOUNDATION_APPS(TQFOUNDATION_PROPERTY)
     Q_PROPERTY(QList<TQFoundation::TQApp> allCases READ allCases CONSTANT FINAL)
     Q_PROPERTY(QString name READ name CONSTANT FINAL)
     Q_PROPERTY(QString version READ version CONSTANT FINAL)
@@ -35,16 +33,7 @@ class QmlApp : public QObject
 public:
     using QObject::QObject;
 
-    static TQApp larch() { return TQApp::larch; }
-    static TQApp juniper() { return TQApp::juniper; }
-    static TQApp hazel() { return TQApp::hazel; }
-    static TQApp ginkgo() { return TQApp::ginkgo; }
-    static TQApp fir() { return TQApp::fir; }
-    static TQApp elm() { return TQApp::elm; }
-    static TQApp dogwood() { return TQApp::dogwood; }
-    static TQApp cedar() { return TQApp::cedar; }
-    static TQApp birch() { return TQApp::birch; }
-    static TQApp alder() { return TQApp::alder; }
+    TQFOUNDATION_APPS(TQFOUNDATION_GETTER)
     static QList<TQApp> allCases();
     static QString name() { return TQApp::name(); }
     static QString version() { return TQApp::version(); }
@@ -59,3 +48,6 @@ public:
 };
 
 } // namespace TQFoundation
+
+#undef TQFOUNDATION_PROPERTY
+#undef TQFOUNDATION_GETTER

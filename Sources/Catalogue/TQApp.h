@@ -14,6 +14,18 @@
 #include <functional>
 #include <optional>
 
+class QDebug;
+
+/// The apps of the catalogue in its order, \a each applied to every name. All that has to list the apps does it by
+/// this; what is known of each is a row of a table of the library's own.
+#define TQFOUNDATION_APPS(each)                                                                                        \
+    each(larch) each(juniper) each(hazel) each(ginkgo) each(fir) each(elm) each(dogwood) each(cedar) each(birch)       \
+        each(alder)
+
+#define TQFOUNDATION_LISTED(name) name,
+#define TQFOUNDATION_DECLARED(name) static const TQApp name;
+#define TQFOUNDATION_DEFINED(name) inline constexpr TQApp TQApp::name{Case::name};
+
 namespace TQFoundation {
 
 /// One app of the developer's catalogue. A host says which one it is: `TQApp::hazel`.
@@ -37,27 +49,18 @@ class TQFOUNDATION_EXPORT TQApp
 
 public:
     /// The cases in catalogue order; the number of a case is its index in allCases().
-    enum class Case { larch, juniper, hazel, ginkgo, fir, elm, dogwood, cedar, birch, alder };
+    enum class Case { TQFOUNDATION_APPS(TQFOUNDATION_LISTED) };
     Q_ENUM(Case)
 
-    static const TQApp larch;
-    static const TQApp juniper;
-    static const TQApp hazel;
-    static const TQApp ginkgo;
-    static const TQApp fir;
-    static const TQApp elm;
-    static const TQApp dogwood;
-    static const TQApp cedar;
-    static const TQApp birch;
-    static const TQApp alder;
+    TQFOUNDATION_APPS(TQFOUNDATION_DECLARED)
 
     /// The first case, for containers that need a default.
     constexpr TQApp() noexcept = default;
     constexpr TQApp(Case value) noexcept : m_case(value) {}
     constexpr operator Case() const noexcept { return m_case; }
 
-    /// The ten cases in catalogue order.
-    static constexpr std::array<TQApp, 10> allCases() noexcept;
+    /// The cases in catalogue order, a `std::array<TQApp, 10>`.
+    static constexpr auto allCases() noexcept;
 
     /// The store's id of the app, ten decimal digits; also what identifies the app in a list.
     QString id() const;
@@ -106,23 +109,21 @@ private:
     Case m_case = Case::larch;
 };
 
-inline constexpr TQApp TQApp::larch{Case::larch};
-inline constexpr TQApp TQApp::juniper{Case::juniper};
-inline constexpr TQApp TQApp::hazel{Case::hazel};
-inline constexpr TQApp TQApp::ginkgo{Case::ginkgo};
-inline constexpr TQApp TQApp::fir{Case::fir};
-inline constexpr TQApp TQApp::elm{Case::elm};
-inline constexpr TQApp TQApp::dogwood{Case::dogwood};
-inline constexpr TQApp TQApp::cedar{Case::cedar};
-inline constexpr TQApp TQApp::birch{Case::birch};
-inline constexpr TQApp TQApp::alder{Case::alder};
+TQFOUNDATION_APPS(TQFOUNDATION_DEFINED)
 
-constexpr std::array<TQApp, 10> TQApp::allCases() noexcept
+/// Writes "TQApp(hazel)".
+TQFOUNDATION_EXPORT QDebug operator<<(QDebug debug, TQApp app);
+
+constexpr auto TQApp::allCases() noexcept
 {
-    return {larch, juniper, hazel, ginkgo, fir, elm, dogwood, cedar, birch, alder};
+    return std::array{TQFOUNDATION_APPS(TQFOUNDATION_LISTED)};
 }
 
 } // namespace TQFoundation
+
+#undef TQFOUNDATION_LISTED
+#undef TQFOUNDATION_DECLARED
+#undef TQFOUNDATION_DEFINED
 
 template <>
 struct std::hash<TQFoundation::TQApp>

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "tqfoundation_export.h"
+
 #include <cmath>
+
+class QDebug;
 
 namespace TQFoundation {
 
@@ -120,5 +124,12 @@ private:
     Rgba m_light;
     Rgba m_dark;
 };
+
+/// Writes "light" or "dark".
+TQFOUNDATION_EXPORT QDebug operator<<(QDebug debug, Appearance appearance);
+/// Writes "Rgba(1, 0.4, 0.5, 1)".
+TQFOUNDATION_EXPORT QDebug operator<<(QDebug debug, const Rgba &rgba);
+/// Writes "Color(Rgba(…))", and of a dynamic colour light and dark: "Color(Rgba(…), Rgba(…))".
+TQFOUNDATION_EXPORT QDebug operator<<(QDebug debug, const Color &color);
 
 } // namespace TQFoundation

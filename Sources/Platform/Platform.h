@@ -3,6 +3,7 @@
 #include "tqfoundation_export.h"
 
 #include <QtCore/qlist.h>
+#include <QtCore/qobjectdefs.h>
 #include <QtCore/qpointer.h>
 #include <QtCore/qsize.h>
 #include <QtCore/qstring.h>
@@ -13,21 +14,26 @@
 #include <memory>
 #include <optional>
 
+class QDebug;
 class QUrl;
 
 namespace TQFoundation {
+Q_NAMESPACE_EXPORT(TQFOUNDATION_EXPORT)
 
 class InAppBrowser;
 class MailComposer;
 
 /// How far a scene is from the user's fingers.
 enum class ActivationState { foregroundActive, foregroundInactive, background, unattached };
+Q_ENUM_NS(ActivationState)
 
 /// One window of a scene.
 struct SceneWindow
 {
     QPointer<QWindow> window; ///< Not owned; may go away at any time.
     bool isKey = false; ///< Whether it is the one that takes the keyboard.
+
+    friend bool operator==(const SceneWindow &, const SceneWindow &) = default;
 };
 
 /// One instance of the app's interface. Desktops have a single one; a phone or tablet may have several.
@@ -36,7 +42,14 @@ struct Scene
     ActivationState activationState = ActivationState::unattached;
     bool isWindowScene = false; ///< False for scenes without windows of the app's own, such as a car's display.
     QList<SceneWindow> windows; ///< In the system's order.
+
+    friend bool operator==(const Scene &, const Scene &) = default;
 };
+
+/// Writes "SceneWindow(QWindow(0x…), isKey)".
+TQFOUNDATION_EXPORT QDebug operator<<(QDebug debug, const SceneWindow &window);
+/// Writes "Scene(…)" with the state, "isWindowScene" where it is one, and the windows.
+TQFOUNDATION_EXPORT QDebug operator<<(QDebug debug, const Scene &scene);
 
 /// A timer that ticks at whole multiples of its interval, counted from the moment it was made, until it is invalidated.
 ///

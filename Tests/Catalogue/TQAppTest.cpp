@@ -13,6 +13,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <bit>
+#include <cstdint>
 #include <unordered_set>
 
 namespace TQFoundation {
@@ -126,14 +129,20 @@ TEST(TQApp, ParagraphsAreTranslatedEachOnItsOwn)
                              "as if by underpopulation."));
 }
 
-TEST(TQApp, TintsAreTheLiterals)
+TEST(TQApp, TintsAreTheLiteralsToTheLastBit)
 {
-    EXPECT_EQ(TQApp::larch.tintColor(), Color(Rgba{0.9529412F, 0.4392157F, 0.1294118F, 1}));
-    EXPECT_EQ(TQApp::ginkgo.tintColor(), Color(Rgba{1, 0.4F, 0.7019608F, 1}));
-    EXPECT_EQ(TQApp::dogwood.tintColor(), Color(Rgba{0, 0.5603183F, 0, 1}));
-    EXPECT_EQ(TQApp::cedar.tintColor(), Color(Rgba{0.581883F, 0.2156915F, 1, 1}));
-    EXPECT_EQ(TQApp::birch.tintColor(), Color(Rgba{0.5803922F, 0.09019608F, 0.3176471F, 1}));
-    EXPECT_EQ(TQApp::alder.tintColor(), Color(Rgba{0, 0.6980392F, 0.7137255F, 1}));
+    using Bits = std::array<std::uint32_t, 4>;
+    const auto bitsOf = [](TQApp app) {
+        EXPECT_FALSE(app.tintColor().isDynamic());
+        return std::bit_cast<Bits>(app.tintColor().resolved(Appearance::light));
+    };
+    constexpr std::uint32_t one = 0x3F800000;
+    EXPECT_EQ(bitsOf(TQApp::larch), (Bits{0x3F73F3F4, 0x3EE0E0E1, 0x3E048487, one})); // 0.9529412 0.4392157 0.1294118
+    EXPECT_EQ(bitsOf(TQApp::ginkgo), (Bits{one, 0x3ECCCCCD, 0x3F33B3B4, one})); // 1 0.4 0.7019608
+    EXPECT_EQ(bitsOf(TQApp::dogwood), (Bits{0, 0x3F0F7105, 0, one})); // 0 0.5603183 0
+    EXPECT_EQ(bitsOf(TQApp::cedar), (Bits{0x3F14F649, 0x3E5CDE3C, one, one})); // 0.581883 0.2156915 1
+    EXPECT_EQ(bitsOf(TQApp::birch), (Bits{0x3F149495, 0x3DB8B8B9, 0x3EA2A2A4, one})); // 0.5803922 0.09019608 0.3176471
+    EXPECT_EQ(bitsOf(TQApp::alder), (Bits{0, 0x3F32B2B2, 0x3F36B6B7, one})); // 0 0.6980392 0.7137255
 }
 
 TEST(TQApp, FourTintsAreTheSystemsOwn)

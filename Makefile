@@ -1,6 +1,6 @@
 # The front door. Everything below is CMake with the presets of CMakePresets.json.
 .DEFAULT_GOAL := help
-.PHONY: help run test sanitize lint bench install packages pictures format clean
+.PHONY: help run test sanitize lint docs bench install packages pictures format clean
 
 PREFIX ?= /usr/local
 ARGS ?=
@@ -14,6 +14,7 @@ help:
 	@echo "make test       check the formatting and the QML files, build, run all tests"
 	@echo "make sanitize   run the tests under the address and undefined behaviour sanitizers"
 	@echo "make lint       clang-tidy and clazy"
+	@echo "make docs       write the API reference to build/docs/html"
 	@echo "make bench      measure; prints tables"
 	@echo "make install    install to PREFIX ($(PREFIX))"
 	@echo "make packages   build Debian packages into build/packages/packages"
@@ -46,6 +47,10 @@ lint:
 	cmake --preset release -DTQFOUNDATION_TESTS=ON
 	cmake --build --preset release
 	tools/lint $(release) $(units)
+
+docs:
+	tools/install-packages docs
+	tools/make-docs
 
 bench:
 	tools/install-packages build run bench

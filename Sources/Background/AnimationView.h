@@ -46,6 +46,7 @@ public:
     /// The colour of the line, `clear` at first, which draws black. Only the next tick reads it, once: it takes light
     /// or dark as the system's appearance is then, and sets the alpha to 0.2 whatever it was.
     Color color() const;
+    /// Sets the colour. Redraws nothing.
     void setColor(const Color &color);
 
     /// Starts the ticking: the first tick runs before this returns, the next ones come at whole multiples of ten
@@ -57,8 +58,10 @@ public:
     const ShapeLayer *shapeLayer() const;
 
 protected:
+    /// @{ What the toolkit tells the item. A class that overrides it passes it on.
     void itemChange(ItemChange change, const ItemChangeData &data) override;
     QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;
+    /// @}
 
 private Q_SLOTS:
     void updateTimer();

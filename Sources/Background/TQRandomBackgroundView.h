@@ -29,20 +29,24 @@ public:
     /// A background without a colour yet, as QML makes it.
     explicit TQRandomBackgroundView(QQuickItem *parent = nullptr);
 
+    /// A background of \a color, as C++ makes it.
     explicit TQRandomBackgroundView(const Color &color, QQuickItem *parent = nullptr);
     ~TQRandomBackgroundView() override;
 
     /// The colour of the line, always drawn at alpha 0.2. A new one shows from the next tick on.
     Color color() const { return m_color; }
+    /// Hands the colour on; the line that is being drawn keeps its own.
     void setColor(const Color &color);
 
 Q_SIGNALS:
-    void colorChanged();
+    void colorChanged(); ///< It was given another colour.
 
 protected:
+    /// @{ What the toolkit tells the item. A class that overrides it passes it on.
     void componentComplete() override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
+    /// @}
 
 private:
     void updateView();

@@ -52,11 +52,16 @@ public:
     enum class Case { TQFOUNDATION_APPS(TQFOUNDATION_LISTED) };
     Q_ENUM(Case)
 
+    /// @{ An app of the catalogue: `TQApp::hazel.tintColor()`.
     TQFOUNDATION_APPS(TQFOUNDATION_DECLARED)
+    /// @}
 
     /// The first case, for containers that need a default.
     constexpr TQApp() noexcept = default;
+    /// The app that is \a value. A number that is none of the cases stops the process as soon as anything is asked of
+    /// it.
     constexpr TQApp(Case value) noexcept : m_case(value) {}
+    /// Its case, for a `switch`.
     constexpr operator Case() const noexcept { return m_case; }
 
     /// The cases in catalogue order, a `std::array<TQApp, 10>`.
@@ -95,7 +100,9 @@ public:
     /// The running host's build number, "CFBundleVersion"; empty where that is missing or no string.
     static QString buildNumber();
 
+    /// Whether both are the same case.
     friend constexpr bool operator==(TQApp a, TQApp b) noexcept { return a.m_case == b.m_case; }
+    /// Whether they are different cases.
     friend constexpr bool operator!=(TQApp a, TQApp b) noexcept { return a.m_case != b.m_case; }
 
 private:
@@ -125,9 +132,11 @@ constexpr auto TQApp::allCases() noexcept
 #undef TQFOUNDATION_DECLARED
 #undef TQFOUNDATION_DEFINED
 
+/// Lets a TQApp be the key of the standard containers.
 template <>
 struct std::hash<TQFoundation::TQApp>
 {
+    /// Equal for equal apps within one process.
     std::size_t operator()(TQFoundation::TQApp app) const noexcept
     {
         return std::hash<std::size_t>{}(static_cast<std::size_t>(TQFoundation::TQApp::Case(app)));

@@ -40,6 +40,7 @@ class TQFOUNDATION_EXPORT TQGuideView : public QQuickItem, public std::enable_sh
     Q_PROPERTY(QString nextButtonName READ nextButtonName CONSTANT FINAL)
 
 public:
+    /// A label or button of the nib: null as soon as that goes.
     using Outlet = QPointer<QQuickItem>;
 
     /// An overlay without label, button and paragraphs, as the nib makes it. Apps call initFromNib().
@@ -61,26 +62,38 @@ public:
 
     /// The label that shows the current paragraph; not owned, null where it is not connected or has gone.
     virtual QQuickItem *guideLabel() const;
+    /// Connects \a label, or nothing for null.
     virtual void setGuideLabel(QQuickItem *label);
+    /// Lets \a change work on the stored label in place.
     virtual void updateGuideLabel(const std::function<void(Outlet &)> &change);
 
     /// The next button; not owned, null where it is not connected or has gone.
     virtual QQuickItem *nextButton() const;
+    /// Connects \a button, or nothing for null.
     virtual void setNextButton(QQuickItem *button);
+    /// Lets \a change work on the stored button in place.
     virtual void updateNextButton(const std::function<void(Outlet &)> &change);
 
 protected:
     /// Which paragraph is shown, from 0; after a tap the one that is being faded in.
     virtual std::int64_t index() const;
+    /// Sets the index; what is shown stays as it is until the next step reads it.
     virtual void setIndex(std::int64_t index);
+    /// Lets \a change work on the stored index in place.
     virtual void updateIndex(const std::function<void(std::int64_t &)> &change);
 
+    /// The paragraphs in the order shown.
     virtual QStringList descriptions() const;
+    /// Sets the paragraphs; what is shown stays as it is until the next step reads them.
     virtual void setDescriptions(const QStringList &descriptions);
+    /// Lets \a change work on the stored paragraphs in place.
     virtual void updateDescriptions(const std::function<void(QStringList &)> &change);
 
+    /// What runs once when the user taps past the last paragraph; may be empty.
     virtual std::function<void()> completeClosure() const;
+    /// Sets what runs at the end.
     virtual void setCompleteClosure(const std::function<void()> &closure);
+    /// Lets \a change work on the stored closure in place.
     virtual void updateCompleteClosure(const std::function<void(std::function<void()> &)> &change);
 
 public:
@@ -96,6 +109,7 @@ public:
 
     /// What the whole overlay is painted in; it follows light and dark appearance.
     Color backgroundColor() const { return m_backgroundColor; }
+    /// Paints the overlay in \a color from the next frame on.
     void setBackgroundColor(const Color &color);
 
     /// The part of the overlay that its window shows, clear of the system's bars, in the overlay's coordinates: a nib
@@ -106,19 +120,21 @@ public:
     static QString nextButtonName();
 
 Q_SIGNALS:
-    void guideLabelChanged();
-    void nextButtonChanged();
-    void backgroundColorChanged();
-    void shownAreaChanged();
+    void guideLabelChanged(); ///< Another label is connected, or none.
+    void nextButtonChanged(); ///< Another button is connected, or none.
+    void backgroundColorChanged(); ///< It has another colour.
+    void shownAreaChanged(); ///< Another part of it is shown.
 
     /// Answers each tap where the system has no haptics.
     void impactOccurred();
 
 protected:
+    /// @{ What the toolkit tells the item. A class that overrides it passes it on.
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
+    /// @}
 
 private:
     std::function<void()> holding(void (TQGuideView::*step)());

@@ -23,17 +23,27 @@ class TQFOUNDATION_EXPORT TQMore
 public:
     TQMore() = delete;
 
+    /// The title of the row that leads to the privacy policy.
     static QString privacyText();
+    /// The page of the privacy policy.
     static QString privacyUrl();
+    /// The title of the row that leads to writing to the developer.
     static QString feedbackText();
+    /// The page where users who cannot send mail reach the developer.
     static QString feedbackUrl();
-    /// Its link belongs to each app: TQApp::reviewLink().
+    /// The title of the row that asks for a review. Its link belongs to each app: TQApp::reviewLink().
     static QString reviewText();
+    /// The title of the row that leads to the developer's social pages.
     static QString threadsText();
+    /// The page that gathers the developer's social pages; the same in every language.
     static QString threadsUrl();
+    /// The title of the row that leads to the developer's website.
     static QString blogText();
+    /// The developer's website.
     static QString blogUrl();
+    /// The title of the row that leads to the developer's other apps.
     static QString moreAppText();
+    /// The store's page of the developer; the same in every language.
     static QString moreAppUrl();
 
     /// The word for version, a blank, the host's version and, with no blank between, its build in parentheses:
@@ -44,9 +54,13 @@ public:
     // website; everybody else sees the website and then the social page. Only the absence of icp counts: an empty text
     // is a filing. A row's text and link always belong together.
 
+    /// The title of the first of the two rows: the filing \a icp itself, or blogText().
     static QString icpOrBlogText(const std::optional<QString> &icp);
+    /// The link of the first row: the site where filings are looked up, or blogUrl().
     static QString icpOrBlogUrl(const std::optional<QString> &icp);
+    /// The title of the second row: blogText() beneath a filing, else threadsText().
     static QString blogOrSocialText(const std::optional<QString> &icp);
+    /// The link of the second row: blogUrl() beneath a filing, else threadsUrl().
     static QString blogOrSocialUrl(const std::optional<QString> &icp);
 
     /// The controller to present a screen on: from the root controller of the key window of the app's active window

@@ -14,11 +14,12 @@ enum class Appearance { light, dark };
 /// One sRGB colour of four single-precision components, each from 0 to 1, not premultiplied. Opaque black by default.
 struct Rgba
 {
-    float red = 0;
-    float green = 0;
-    float blue = 0;
-    float alpha = 1;
+    float red = 0; ///< From 0 to 1.
+    float green = 0; ///< From 0 to 1.
+    float blue = 0; ///< From 0 to 1.
+    float alpha = 1; ///< From 0 for clear to 1 for opaque.
 
+    /// Whether all components are equal as numbers; one that is not a number equals none.
     friend constexpr bool operator==(const Rgba &, const Rgba &) = default;
 };
 
@@ -91,6 +92,7 @@ public:
     /// The system's standard red.
     static constexpr Color systemRed() noexcept { return {bytes(255, 59, 48), bytes(255, 69, 58)}; }
 
+    /// The value that is painted in \a appearance.
     constexpr Rgba resolved(Appearance appearance) const noexcept
     {
         return appearance == Appearance::dark ? m_dark : m_light;
@@ -112,6 +114,7 @@ public:
     /// Whether light and dark appearance differ.
     constexpr bool isDynamic() const noexcept { return m_light != m_dark; }
 
+    /// Whether the colours are equal in light and in dark appearance.
     friend constexpr bool operator==(const Color &, const Color &) = default;
 
 private:

@@ -33,16 +33,18 @@ struct SceneWindow
     QPointer<QWindow> window; ///< Not owned; may go away at any time.
     bool isKey = false; ///< Whether it is the one that takes the keyboard.
 
+    /// Whether it is the same window, key in both or in neither.
     friend bool operator==(const SceneWindow &, const SceneWindow &) = default;
 };
 
 /// One instance of the app's interface. Desktops have a single one; a phone or tablet may have several.
 struct Scene
 {
-    ActivationState activationState = ActivationState::unattached;
+    ActivationState activationState = ActivationState::unattached; ///< Whether the user works with it.
     bool isWindowScene = false; ///< False for scenes without windows of the app's own, such as a car's display.
     QList<SceneWindow> windows; ///< In the system's order.
 
+    /// Whether everything in them is equal, the windows in the same order.
     friend bool operator==(const Scene &, const Scene &) = default;
 };
 

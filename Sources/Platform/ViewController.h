@@ -36,6 +36,7 @@ public:
     explicit ViewController(QQuickItem *view = nullptr);
     ~ViewController() override;
 
+    /// What it shows; not owned, null where it was made without a view or the view has gone.
     QQuickItem *view() const { return m_view; }
 
     /// The controller that this one presents; null where it presents none.

@@ -11,6 +11,7 @@ namespace TQFoundation {
 class TQFOUNDATION_EXPORT Bundle
 {
 public:
+    /// The folder \a root, which need not exist: then it has no images and no tables. Without a trailing slash.
     explicit Bundle(QString root) : m_root(std::move(root)) {}
 
     /// The folder, without a trailing slash.

@@ -66,12 +66,14 @@ class RecordingPlatform : public Platform
 {
 public:
     // What the library is told. Set it before the library first asks.
-    QSizeF bounds{390, 844};
-    double scale = 3;
-    std::optional<QString> storefront;
-    QVariantMap infoDictionary;
-    QVariantMap defaults;
-    QList<Scene> scenes;
+
+    QSizeF bounds{390, 844}; ///< The screen's size in points.
+    double scale = 3; ///< Pixels per point.
+    std::optional<QString> storefront; ///< The store's country code.
+    QVariantMap infoDictionary; ///< The entries of the host's information dictionary.
+    QVariantMap defaults; ///< The host's stored settings, read and written.
+    QList<Scene> scenes; ///< The host's scenes; none at first, so that no window is key.
+    /// The folder of the library's resources; at first the library's own.
     QString root = QStringLiteral(":/qt-project.org/imports/TQFoundation");
 
     bool mailCanBeSent = true;
@@ -141,7 +143,9 @@ public:
     InstalledRecordingPlatform &operator=(const InstalledRecordingPlatform &) = delete;
     ~InstalledRecordingPlatform();
 
+    /// The platform, for as long as this lives.
     RecordingPlatform *operator->() const { return m_platform; }
+    /// The platform, for as long as this lives.
     RecordingPlatform &operator*() const { return *m_platform; }
 
 private:

@@ -8,7 +8,8 @@ int main(int argc, char *argv[])
 {
     QGuiApplication application(argc, argv);
     QQmlApplicationEngine engine;
-    engine.setInitialProperties({{QStringLiteral("app"), QVariant::fromValue(TQFoundation::TQApp(TQFoundation::TQApp::fir))}});
+    engine.setInitialProperties(
+        {{QStringLiteral("app"), QVariant::fromValue(TQFoundation::TQApp(TQFoundation::TQApp::fir))}});
     engine.load(QUrl(QStringLiteral("qrc:/Orchard/Main.qml")));
     return engine.rootObjects().isEmpty() ? 1 : application.exec();
 }

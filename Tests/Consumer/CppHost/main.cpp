@@ -1,3 +1,4 @@
+#include <TQFoundation/DesktopPlatform.h>
 #include <TQFoundation/TQApp.h>
 #include <TQFoundation/TQGuideView.h>
 
@@ -6,9 +7,22 @@
 
 using namespace TQFoundation;
 
+namespace {
+
+class StorePlatform : public DesktopPlatform
+{
+public:
+    std::optional<QString> storefrontCountryCode() const override { return QStringLiteral("USA"); }
+};
+
+} // namespace
+
 int main(int argc, char *argv[])
 {
     QGuiApplication application(argc, argv);
+    QGuiApplication::setOrganizationName(QStringLiteral("TQ Studio"));
+    installPlatform(std::make_unique<StorePlatform>());
+
     QQuickWindow window;
     window.setTitle(TQApp::name());
     window.resize(390, 844);

@@ -4,6 +4,7 @@
 int main(int argc, char *argv[])
 {
     QGuiApplication application(argc, argv);
+    QGuiApplication::setOrganizationName("TQ Studio"); // whose settings remember that the guide was shown
     QQmlApplicationEngine engine(QUrl("qrc:/Main.qml"));
     return engine.rootObjects().isEmpty() ? 1 : application.exec();
 }

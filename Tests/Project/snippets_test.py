@@ -1,4 +1,5 @@
-"""What the documentation quotes stands, word for word, in a file that the tests compile or run; indentation aside."""
+"""What the documentation quotes stands, word for word, in a file that the tests compile or run; indentation aside. What
+it links to and shows is there."""
 
 import pathlib
 import re
@@ -38,6 +39,9 @@ for folder in ("Example", "Resources", "Sources", "Tests"):
 count = 0
 for page in [root / "README.md", root / "CONTRIBUTING.md", *sorted((root / "docs").glob("*.md"))]:
     text = page.read_text(encoding="utf-8")
+    for link in re.findall(r'(?:\]\(|src=")(?!https?:)([^)#"]+)', text):
+        if not (page.parent / link).exists():
+            failures.append(f"{page.name}: {link} is not there")
     for language, snippet in re.findall(r"^ *```(\w*)\n(.*?)^ *```$", text, re.DOTALL | re.MULTILINE):
         if language in PLAIN:
             continue

@@ -45,6 +45,7 @@ In jedem Zeitschritt finden die folgenden Übergänge statt:</translation>
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
+        <extracomment>Second page: the first rule of the game.</extracomment>
         <translation>1.
 
 Jede lebende Zelle mit weniger als zwei lebenden Nachbarn stirbt, gleichsam an Unterbevölkerung.</translation>
@@ -53,6 +54,7 @@ Jede lebende Zelle mit weniger als zwei lebenden Nachbarn stirbt, gleichsam an U
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
+        <extracomment>Third page: the second rule.</extracomment>
         <translation>2.
 
 Jede lebende Zelle mit zwei oder drei lebenden Nachbarn lebt in der nächsten Generation weiter.</translation>
@@ -61,6 +63,7 @@ Jede lebende Zelle mit zwei oder drei lebenden Nachbarn lebt in der nächsten Ge
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
+        <extracomment>Fourth page: the third rule.</extracomment>
         <translation>3.
 
 Jede lebende Zelle mit mehr als drei lebenden Nachbarn stirbt, gleichsam an Überbevölkerung.</translation>
@@ -69,6 +72,7 @@ Jede lebende Zelle mit mehr als drei lebenden Nachbarn stirbt, gleichsam an Übe
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
+        <extracomment>Fifth page: the last rule.</extracomment>
         <translation>4.
 
 Jede tote Zelle mit genau drei lebenden Nachbarn wird zu einer lebenden Zelle, gleichsam durch Fortpflanzung.</translation>
@@ -77,6 +81,7 @@ Jede tote Zelle mit genau drei lebenden Nachbarn wird zu einer lebenden Zelle, g
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>Und nun viel Freude mit Hazel Grid.
 
 Herzliche Grüße</translation>
@@ -85,6 +90,7 @@ Herzliche Grüße</translation>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
+        <extracomment>First of five pages that explain a game of guessing a written character; 「青岚」 is the app&apos;s name.</extracomment>
         <translation>Willkommen bei „青岚“ (Qinglan).
 
 Geben Sie ein chinesisches Schriftzeichen nach dem anderen ein und erraten Sie anhand der Striche und ihrer Reihenfolge in höchstens sechs Versuchen das gesuchte Zeichen.</translation>
@@ -93,6 +99,7 @@ Geben Sie ein chinesisches Schriftzeichen nach dem anderen ein und erraten Sie a
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
+        <extracomment>Second page: how to make a guess. The colours are those of the next two pages.</extracomment>
         <translation>Geben Sie ein gültiges chinesisches Schriftzeichen ein und schicken Sie es mit der Eingabetaste ab.
 
 Nach jedem Versuch können sich die Farben der Striche ändern:</translation>
@@ -103,6 +110,7 @@ Nach jedem Versuch können sich die Farben der Striche ändern:</translation>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
+        <extracomment>Third page: what a green stroke means.</extracomment>
         <translation>Grün bedeutet:
 
 Das gesuchte Zeichen enthält diesen Strich, und auch seine Stelle in der Strichreihenfolge stimmt.
@@ -115,6 +123,7 @@ Solche Striche werden im gesuchten wie im eingegebenen Zeichen vollzählig angez
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
+        <extracomment>Fourth page: what a grey stroke means.</extracomment>
         <translation>Grau bedeutet:
 
 Das gesuchte Zeichen enthält diesen Strich zwar, doch seine Stelle in der Strichreihenfolge stimmt nicht.
@@ -125,6 +134,7 @@ Sind mehrere dieser Striche gleich, wird im gesuchten Zeichen nur einer von ihne
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>Und nun wünsche ich Ihnen viel Freude mit „青岚“.
 
 Mit den besten Wünschen und vorzüglicher Hochachtung</translation>

@@ -45,6 +45,7 @@ En cada paso de tiempo se producen las siguientes transiciones:</translation>
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
+        <extracomment>Second page: the first rule of the game.</extracomment>
         <translation>1.
 
 Toda célula viva con menos de dos vecinas vivas muere, como por efecto de la subpoblación.</translation>
@@ -53,6 +54,7 @@ Toda célula viva con menos de dos vecinas vivas muere, como por efecto de la su
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
+        <extracomment>Third page: the second rule.</extracomment>
         <translation>2.
 
 Toda célula viva con dos o tres vecinas vivas sigue viva en la siguiente generación.</translation>
@@ -61,6 +63,7 @@ Toda célula viva con dos o tres vecinas vivas sigue viva en la siguiente genera
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
+        <extracomment>Fourth page: the third rule.</extracomment>
         <translation>3.
 
 Toda célula viva con más de tres vecinas vivas muere, como por efecto de la sobrepoblación.</translation>
@@ -69,6 +72,7 @@ Toda célula viva con más de tres vecinas vivas muere, como por efecto de la so
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
+        <extracomment>Fifth page: the last rule.</extracomment>
         <translation>4.
 
 Toda célula muerta con exactamente tres vecinas vivas se convierte en una célula viva, como por efecto de la reproducción.</translation>
@@ -77,6 +81,7 @@ Toda célula muerta con exactamente tres vecinas vivas se convierte en una célu
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>Y ahora, a disfrutar de Hazel Grid.
 
 Un cordial saludo.</translation>
@@ -85,6 +90,7 @@ Un cordial saludo.</translation>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
+        <extracomment>First of five pages that explain a game of guessing a written character; 「青岚」 is the app&apos;s name.</extracomment>
         <translation>Le doy la bienvenida a «青岚» (Qinglan).
 
 Introduzca caracteres chinos, uno tras otro, y adivine el correcto en seis intentos, guiándose por los trazos y por su orden.</translation>
@@ -93,6 +99,7 @@ Introduzca caracteres chinos, uno tras otro, y adivine el correcto en seis inten
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
+        <extracomment>Second page: how to make a guess. The colours are those of the next two pages.</extracomment>
         <translation>Introduzca un carácter chino válido y pulse la tecla Intro para enviarlo.
 
 Después de cada envío, es posible que cambie el color de los trazos:</translation>
@@ -103,6 +110,7 @@ Después de cada envío, es posible que cambie el color de los trazos:</translat
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
+        <extracomment>Third page: what a green stroke means.</extracomment>
         <translation>Verde:
 
 El carácter correcto contiene este trazo y su posición en el orden de los trazos es la adecuada.
@@ -115,6 +123,7 @@ Se muestran todos los trazos acertados de este modo, tanto en el carácter corre
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
+        <extracomment>Fourth page: what a grey stroke means.</extracomment>
         <translation>Gris:
 
 El carácter correcto contiene este trazo, pero su posición en el orden de los trazos no es la adecuada.
@@ -125,6 +134,7 @@ Si varios de estos trazos son iguales, en el carácter correcto se muestra solo 
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>Y ahora, le deseo que disfrute de «青岚».
 
 Reciba mis más respetuosos saludos y mis mejores deseos.</translation>

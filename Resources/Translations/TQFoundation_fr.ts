@@ -45,6 +45,7 @@ Le jeu se déroule sur une grille orthogonale infinie, à deux dimensions, faite
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
+        <extracomment>Second page: the first rule of the game.</extracomment>
         <translation>1.
 
 Toute cellule vivante ayant moins de deux voisines vivantes meurt, comme par sous-population.</translation>
@@ -53,6 +54,7 @@ Toute cellule vivante ayant moins de deux voisines vivantes meurt, comme par sou
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
+        <extracomment>Third page: the second rule.</extracomment>
         <translation>2.
 
 Toute cellule vivante ayant deux ou trois voisines vivantes reste en vie à la génération suivante.</translation>
@@ -61,6 +63,7 @@ Toute cellule vivante ayant deux ou trois voisines vivantes reste en vie à la g
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
+        <extracomment>Fourth page: the third rule.</extracomment>
         <translation>3.
 
 Toute cellule vivante ayant plus de trois voisines vivantes meurt, comme par surpopulation.</translation>
@@ -69,6 +72,7 @@ Toute cellule vivante ayant plus de trois voisines vivantes meurt, comme par sur
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
+        <extracomment>Fifth page: the last rule.</extracomment>
         <translation>4.
 
 Toute cellule morte ayant exactement trois voisines vivantes devient une cellule vivante, comme par reproduction.</translation>
@@ -77,6 +81,7 @@ Toute cellule morte ayant exactement trois voisines vivantes devient une cellule
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>Et maintenant, amusez-vous bien avec Hazel Grid.
 
 Bien à vous.</translation>
@@ -85,6 +90,7 @@ Bien à vous.</translation>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
+        <extracomment>First of five pages that explain a game of guessing a written character; 「青岚」 is the app&apos;s name.</extracomment>
         <translation>Bienvenue dans «&#xa0;青岚&#xa0;» (Qinglan).
 
 Saisissez des caractères chinois, l’un après l’autre, et devinez le bon en six essais, en vous fiant aux traits et à leur ordre.</translation>
@@ -93,6 +99,7 @@ Saisissez des caractères chinois, l’un après l’autre, et devinez le bon en
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
+        <extracomment>Second page: how to make a guess. The colours are those of the next two pages.</extracomment>
         <translation>Saisissez un caractère chinois valide, puis appuyez sur la touche Entrée pour le proposer.
 
 Après chaque essai, la couleur des traits peut changer&#xa0;:</translation>
@@ -103,6 +110,7 @@ Après chaque essai, la couleur des traits peut changer&#xa0;:</translation>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
+        <extracomment>Third page: what a green stroke means.</extracomment>
         <translation>Vert&#xa0;:
 
 Le bon caractère contient ce trait, et sa place dans l’ordre des traits est juste.
@@ -115,6 +123,7 @@ Tous les traits concernés s’affichent, dans le bon caractère comme dans le c
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
+        <extracomment>Fourth page: what a grey stroke means.</extracomment>
         <translation>Gris&#xa0;:
 
 Le bon caractère contient bien ce trait, mais sa place dans l’ordre des traits n’est pas la bonne.
@@ -125,6 +134,7 @@ Si plusieurs de ces traits sont identiques, un seul s’affiche dans le bon cara
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>Il ne me reste plus qu’à vous souhaiter beaucoup de plaisir avec «&#xa0;青岚&#xa0;».
 
 Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>

@@ -45,6 +45,7 @@ At each step in time, the following transitions occur:</source>
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
+        <extracomment>Second page: the first rule of the game.</extracomment>
         <translation>1.
 
 जिस जीवित कोशिका के दो से कम जीवित पड़ोसी हों, वह मानो आबादी की कमी से मर जाती है।</translation>
@@ -53,6 +54,7 @@ Any live cell with fewer than two live neighbours dies, as if by underpopulation
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
+        <extracomment>Third page: the second rule.</extracomment>
         <translation>2.
 
 जिस जीवित कोशिका के दो या तीन जीवित पड़ोसी हों, वह अगली पीढ़ी में भी जीवित रहती है।</translation>
@@ -61,6 +63,7 @@ Any live cell with two or three live neighbours lives on to the next generation.
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
+        <extracomment>Fourth page: the third rule.</extracomment>
         <translation>3.
 
 जिस जीवित कोशिका के तीन से अधिक जीवित पड़ोसी हों, वह मानो आबादी की अधिकता से मर जाती है।</translation>
@@ -69,6 +72,7 @@ Any live cell with more than three live neighbours dies, as if by overpopulation
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
+        <extracomment>Fifth page: the last rule.</extracomment>
         <translation>4.
 
 जिस मृत कोशिका के ठीक तीन जीवित पड़ोसी हों, वह मानो प्रजनन से जीवित कोशिका बन जाती है।</translation>
@@ -77,6 +81,7 @@ Any dead cell with exactly three live neighbours becomes a live cell, as if by r
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>अब Hazel Grid का आनंद लीजिए।
 
 शुभकामनाओं सहित।</translation>
@@ -85,6 +90,7 @@ Best regards.</source>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
+        <extracomment>First of five pages that explain a game of guessing a written character; 「青岚」 is the app&apos;s name.</extracomment>
         <translation>“青岚” (छिंगलान) में आपका स्वागत है।
 
 “青岚” में आपसे अनुरोध है कि एक-एक करके अक्षर लिखें और रेखाओं तथा उनके क्रम के सहारे छह प्रयासों में सही अक्षर का अनुमान लगाएँ।</translation>
@@ -93,6 +99,7 @@ Best regards.</source>
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
+        <extracomment>Second page: how to make a guess. The colours are those of the next two pages.</extracomment>
         <translation>कोई मान्य चीनी अक्षर लिखिए और उसे भेजने के लिए रिटर्न बटन दबाइए।
 
 हर बार भेजने के बाद अक्षर की रेखाओं का रंग बदल सकता है:</translation>
@@ -103,6 +110,7 @@ Best regards.</source>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
+        <extracomment>Third page: what a green stroke means.</extracomment>
         <translation>हरा रंग
 
 इसका अर्थ है कि सही अक्षर में यह रेखा है और इसका क्रम भी सही है।
@@ -115,6 +123,7 @@ Best regards.</source>
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
+        <extracomment>Fourth page: what a grey stroke means.</extracomment>
         <translation>स्लेटी रंग
 
 इसका अर्थ है कि सही अक्षर में यह रेखा तो है, लेकिन इसका क्रम सही नहीं है।
@@ -125,6 +134,7 @@ Best regards.</source>
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>अब “青岚” का आनंद लीजिए।
 
 आपके कुशल-मंगल की कामना के साथ, सादर।</translation>

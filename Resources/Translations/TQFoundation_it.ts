@@ -45,6 +45,7 @@ A ogni passo temporale avvengono le seguenti transizioni:</translation>
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
+        <extracomment>Second page: the first rule of the game.</extracomment>
         <translation>1.
 
 Ogni cella viva con meno di due celle vive adiacenti muore, come per sottopopolazione.</translation>
@@ -53,6 +54,7 @@ Ogni cella viva con meno di due celle vive adiacenti muore, come per sottopopola
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
+        <extracomment>Third page: the second rule.</extracomment>
         <translation>2.
 
 Ogni cella viva con due o tre celle vive adiacenti continua a vivere nella generazione successiva.</translation>
@@ -61,6 +63,7 @@ Ogni cella viva con due o tre celle vive adiacenti continua a vivere nella gener
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
+        <extracomment>Fourth page: the third rule.</extracomment>
         <translation>3.
 
 Ogni cella viva con più di tre celle vive adiacenti muore, come per sovrappopolazione.</translation>
@@ -69,6 +72,7 @@ Ogni cella viva con più di tre celle vive adiacenti muore, come per sovrappopol
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
+        <extracomment>Fifth page: the last rule.</extracomment>
         <translation>4.
 
 Ogni cella morta con esattamente tre celle vive adiacenti diventa una cella viva, come per riproduzione.</translation>
@@ -77,6 +81,7 @@ Ogni cella morta con esattamente tre celle vive adiacenti diventa una cella viva
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>E ora, buon divertimento con Hazel Grid.
 
 Un caro saluto.</translation>
@@ -85,6 +90,7 @@ Un caro saluto.</translation>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
+        <extracomment>First of five pages that explain a game of guessing a written character; 「青岚」 is the app&apos;s name.</extracomment>
         <translation>Le do il benvenuto in «青岚» (Qinglan).
 
 Inserisca un carattere cinese dopo l’altro e indovini quello giusto in sei tentativi, lasciandosi guidare dai tratti e dal loro ordine.</translation>
@@ -93,6 +99,7 @@ Inserisca un carattere cinese dopo l’altro e indovini quello giusto in sei ten
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
+        <extracomment>Second page: how to make a guess. The colours are those of the next two pages.</extracomment>
         <translation>Inserisca un carattere cinese valido e prema il tasto Invio per confermarlo.
 
 Dopo ogni tentativo il colore dei tratti potrebbe cambiare:</translation>
@@ -103,6 +110,7 @@ Dopo ogni tentativo il colore dei tratti potrebbe cambiare:</translation>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
+        <extracomment>Third page: what a green stroke means.</extracomment>
         <translation>Verde:
 
 Il carattere giusto contiene questo tratto, e la sua posizione nell’ordine dei tratti è corretta.
@@ -115,6 +123,7 @@ Tutti i tratti di questo tipo vengono mostrati, sia nel carattere giusto sia in 
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
+        <extracomment>Fourth page: what a grey stroke means.</extracomment>
         <translation>Grigio:
 
 Il carattere giusto contiene questo tratto, ma la sua posizione nell’ordine dei tratti non è corretta.
@@ -125,6 +134,7 @@ Se più tratti di questo tipo sono uguali, nel carattere giusto ne viene mostrat
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>E ora Le auguro buon divertimento con «青岚».
 
 Voglia gradire, con i migliori auguri, i miei più distinti saluti.</translation>

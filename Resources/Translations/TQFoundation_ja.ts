@@ -45,6 +45,7 @@ At each step in time, the following transitions occur:</source>
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
+        <extracomment>Second page: the first rule of the game.</extracomment>
         <translation>1.
 
 生きているセルは、隣接する生きたセルが1つ以下なら、いわば過疎により死滅します。</translation>
@@ -53,6 +54,7 @@ Any live cell with fewer than two live neighbours dies, as if by underpopulation
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
+        <extracomment>Third page: the second rule.</extracomment>
         <translation>2.
 
 生きているセルは、隣接する生きたセルが2つか3つなら、次の世代へと生き延びます。</translation>
@@ -61,6 +63,7 @@ Any live cell with two or three live neighbours lives on to the next generation.
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
+        <extracomment>Fourth page: the third rule.</extracomment>
         <translation>3.
 
 生きているセルは、隣接する生きたセルが4つ以上なら、いわば過密により死滅します。</translation>
@@ -69,6 +72,7 @@ Any live cell with more than three live neighbours dies, as if by overpopulation
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
+        <extracomment>Fifth page: the last rule.</extracomment>
         <translation>4.
 
 死んでいるセルは、隣接する生きたセルがちょうど3つなら、いわば繁殖により、生きたセルになります。</translation>
@@ -77,6 +81,7 @@ Any dead cell with exactly three live neighbours becomes a live cell, as if by r
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>それでは、Hazel Gridをお楽しみください。
 
 どうぞ、素敵なひとときを。</translation>
@@ -85,6 +90,7 @@ Best regards.</source>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
+        <extracomment>First of five pages that explain a game of guessing a written character; 「青岚」 is the app&apos;s name.</extracomment>
         <translation>「青嵐」へようこそ。
 
 「青嵐」は、漢字を一字ずつ入力し、画と筆順を手がかりに、六回以内に正解の漢字を当てていただくゲームです。</translation>
@@ -93,6 +99,7 @@ Best regards.</source>
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
+        <extracomment>Second page: how to make a guess. The colours are those of the next two pages.</extracomment>
         <translation>有効な中国語の漢字を一字入力し、改行キーを押して送信してください。
 
 送信のたびに、漢字の画の色が変わることがあります。</translation>
@@ -103,6 +110,7 @@ Best regards.</source>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
+        <extracomment>Third page: what a green stroke means.</extracomment>
         <translation>緑色は、
 
 正解の漢字にこの画が含まれ、筆順も正しいことを表します。
@@ -115,6 +123,7 @@ Best regards.</source>
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
+        <extracomment>Fourth page: what a grey stroke means.</extracomment>
         <translation>灰色は、
 
 正解の漢字にこの画が含まれるものの、筆順が正しくないことを表します。
@@ -125,6 +134,7 @@ Best regards.</source>
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>それでは、「青嵐」をお楽しみください。
 
 末筆ながら、ますますのご清祥をお祈り申し上げます。</translation>

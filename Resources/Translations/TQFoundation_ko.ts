@@ -45,6 +45,7 @@ At each step in time, the following transitions occur:</source>
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
+        <extracomment>Second page: the first rule of the game.</extracomment>
         <translation>1.
 
 살아 있는 세포는 살아 있는 이웃이 둘보다 적으면 개체 수 부족을 겪듯 죽습니다.</translation>
@@ -53,6 +54,7 @@ Any live cell with fewer than two live neighbours dies, as if by underpopulation
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
+        <extracomment>Third page: the second rule.</extracomment>
         <translation>2.
 
 살아 있는 세포는 살아 있는 이웃이 둘 또는 셋이면 다음 세대까지 살아남습니다.</translation>
@@ -61,6 +63,7 @@ Any live cell with two or three live neighbours lives on to the next generation.
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
+        <extracomment>Fourth page: the third rule.</extracomment>
         <translation>3.
 
 살아 있는 세포는 살아 있는 이웃이 셋보다 많으면 개체 수 과잉을 겪듯 죽습니다.</translation>
@@ -69,6 +72,7 @@ Any live cell with more than three live neighbours dies, as if by overpopulation
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
+        <extracomment>Fifth page: the last rule.</extracomment>
         <translation>4.
 
 죽은 세포는 살아 있는 이웃이 정확히 셋이면 번식이 일어나듯 살아 있는 세포가 됩니다.</translation>
@@ -77,6 +81,7 @@ Any dead cell with exactly three live neighbours becomes a live cell, as if by r
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>이제 Hazel Grid를 즐겨 보세요.
 
 좋은 하루 보내시기 바랍니다.</translation>
@@ -85,6 +90,7 @@ Best regards.</source>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
+        <extracomment>First of five pages that explain a game of guessing a written character; 「青岚」 is the app&apos;s name.</extracomment>
         <translation>‘청람(青岚)’에 오신 것을 환영합니다.
 
 ‘청람’은 한자를 한 글자씩 입력하며 획과 필순을 실마리 삼아 여섯 번의 기회 안에 정답 글자를 맞히는 게임입니다.</translation>
@@ -93,6 +99,7 @@ Best regards.</source>
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
+        <extracomment>Second page: how to make a guess. The colours are those of the next two pages.</extracomment>
         <translation>유효한 중국어 한자를 한 글자 입력한 뒤 리턴 키를 눌러 제출해 주십시오.
 
 제출하실 때마다 글자의 획 색깔이 달라질 수 있습니다.</translation>
@@ -103,6 +110,7 @@ Best regards.</source>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
+        <extracomment>Third page: what a green stroke means.</extracomment>
         <translation>초록색은
 
 정답 글자에 이 획이 있으며 필순도 올바르다는 뜻입니다.
@@ -115,6 +123,7 @@ Best regards.</source>
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
+        <extracomment>Fourth page: what a grey stroke means.</extracomment>
         <translation>회색은
 
 정답 글자에 이 획이 있지만 필순이 올바르지 않다는 뜻입니다.
@@ -125,6 +134,7 @@ Best regards.</source>
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>이제 ‘청람’을 즐겨 주십시오.
 
 내내 평안하시기를 빕니다.</translation>

@@ -45,6 +45,7 @@ Bij elke tijdstap vinden de volgende overgangen plaats:</translation>
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
+        <extracomment>Second page: the first rule of the game.</extracomment>
         <translation>1.
 
 Elke levende cel met minder dan twee levende buren sterft, als het ware door onderbevolking.</translation>
@@ -53,6 +54,7 @@ Elke levende cel met minder dan twee levende buren sterft, als het ware door ond
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
+        <extracomment>Third page: the second rule.</extracomment>
         <translation>2.
 
 Elke levende cel met twee of drie levende buren leeft voort in de volgende generatie.</translation>
@@ -61,6 +63,7 @@ Elke levende cel met twee of drie levende buren leeft voort in de volgende gener
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
+        <extracomment>Fourth page: the third rule.</extracomment>
         <translation>3.
 
 Elke levende cel met meer dan drie levende buren sterft, als het ware door overbevolking.</translation>
@@ -69,6 +72,7 @@ Elke levende cel met meer dan drie levende buren sterft, als het ware door overb
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
+        <extracomment>Fifth page: the last rule.</extracomment>
         <translation>4.
 
 Elke dode cel met precies drie levende buren wordt een levende cel, als het ware door voortplanting.</translation>
@@ -77,6 +81,7 @@ Elke dode cel met precies drie levende buren wordt een levende cel, als het ware
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>En nu veel plezier met Hazel Grid.
 
 Hartelijke groeten</translation>
@@ -85,6 +90,7 @@ Hartelijke groeten</translation>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
+        <extracomment>First of five pages that explain a game of guessing a written character; 「青岚」 is the app&apos;s name.</extracomment>
         <translation>Welkom bij ‘青岚’ (Qinglan).
 
 In dit spel voert u het ene na het andere Chinese karakter in. Aan de hand van de streken en hun volgorde raadt u in zes pogingen het juiste karakter.</translation>
@@ -93,6 +99,7 @@ In dit spel voert u het ene na het andere Chinese karakter in. Aan de hand van d
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
+        <extracomment>Second page: how to make a guess. The colours are those of the next two pages.</extracomment>
         <translation>Voer een geldig Chinees karakter in en druk op de returntoets om het te bevestigen.
 
 Na elke poging kunnen de kleuren van de streken veranderen:</translation>
@@ -103,6 +110,7 @@ Na elke poging kunnen de kleuren van de streken veranderen:</translation>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
+        <extracomment>Third page: what a green stroke means.</extracomment>
         <translation>Groen betekent:
 
 Het juiste karakter bevat deze streek en ook de plaats in de streekvolgorde klopt.
@@ -115,6 +123,7 @@ Zulke streken worden allemaal getoond, zowel in het juiste als in het ingevoerde
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
+        <extracomment>Fourth page: what a grey stroke means.</extracomment>
         <translation>Grijs betekent:
 
 Het juiste karakter bevat deze streek wel, maar de plaats in de streekvolgorde klopt niet.
@@ -125,6 +134,7 @@ Zijn meerdere van deze streken gelijk, dan wordt er in het juiste karakter maar 
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>En nu wens ik u veel plezier met ‘青岚’.
 
 Met de meeste hoogachting en mijn beste wensen</translation>

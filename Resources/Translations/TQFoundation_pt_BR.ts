@@ -45,6 +45,7 @@ A cada passo de tempo, ocorrem as seguintes transições:</translation>
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
+        <extracomment>Second page: the first rule of the game.</extracomment>
         <translation>1.
 
 Toda célula viva com menos de duas vizinhas vivas morre, como que por subpopulação.</translation>
@@ -53,6 +54,7 @@ Toda célula viva com menos de duas vizinhas vivas morre, como que por subpopula
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
+        <extracomment>Third page: the second rule.</extracomment>
         <translation>2.
 
 Toda célula viva com duas ou três vizinhas vivas continua viva na geração seguinte.</translation>
@@ -61,6 +63,7 @@ Toda célula viva com duas ou três vizinhas vivas continua viva na geração se
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
+        <extracomment>Fourth page: the third rule.</extracomment>
         <translation>3.
 
 Toda célula viva com mais de três vizinhas vivas morre, como que por superpopulação.</translation>
@@ -69,6 +72,7 @@ Toda célula viva com mais de três vizinhas vivas morre, como que por superpopu
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
+        <extracomment>Fifth page: the last rule.</extracomment>
         <translation>4.
 
 Toda célula morta com exatamente três vizinhas vivas se torna uma célula viva, como que por reprodução.</translation>
@@ -77,6 +81,7 @@ Toda célula morta com exatamente três vizinhas vivas se torna uma célula viva
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>Agora, divirta-se com o Hazel Grid.
 
 Um abraço.</translation>
@@ -85,6 +90,7 @@ Um abraço.</translation>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
+        <extracomment>First of five pages that explain a game of guessing a written character; 「青岚」 is the app&apos;s name.</extracomment>
         <translation>Boas-vindas a “青岚” (Qinglan).
 
 Digite um caractere chinês após o outro e descubra o caractere certo em seis tentativas, guiando-se pelos traços e pela ordem deles.</translation>
@@ -93,6 +99,7 @@ Digite um caractere chinês após o outro e descubra o caractere certo em seis t
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
+        <extracomment>Second page: how to make a guess. The colours are those of the next two pages.</extracomment>
         <translation>Digite um caractere chinês válido e pressione a tecla Retorno para enviá-lo.
 
 Após cada envio, a cor dos traços pode mudar:</translation>
@@ -103,6 +110,7 @@ Após cada envio, a cor dos traços pode mudar:</translation>
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
+        <extracomment>Third page: what a green stroke means.</extracomment>
         <translation>Verde:
 
 O caractere certo contém este traço, e a posição dele na ordem dos traços está correta.
@@ -115,6 +123,7 @@ Todos os traços nessa situação são exibidos, tanto no caractere certo quanto
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
+        <extracomment>Fourth page: what a grey stroke means.</extracomment>
         <translation>Cinza:
 
 O caractere certo contém este traço, mas a posição dele na ordem dos traços não está correta.
@@ -125,6 +134,7 @@ Se vários desses traços forem iguais, apenas um será exibido no caractere cer
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>Agora, desejo-lhe bons momentos com “青岚”.
 
 Receba meus sinceros votos de estima e consideração.</translation>

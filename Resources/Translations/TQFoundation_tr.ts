@@ -45,6 +45,7 @@ Zamanın her adımında şu geçişler gerçekleşir:</translation>
         <source>1.
 
 Any live cell with fewer than two live neighbours dies, as if by underpopulation.</source>
+        <extracomment>Second page: the first rule of the game.</extracomment>
         <translation>1.
 
 İkiden az canlı komşusu olan her canlı hücre, âdeta yalnızlıktan ölür.</translation>
@@ -53,6 +54,7 @@ Any live cell with fewer than two live neighbours dies, as if by underpopulation
         <source>2.
 
 Any live cell with two or three live neighbours lives on to the next generation.</source>
+        <extracomment>Third page: the second rule.</extracomment>
         <translation>2.
 
 İki veya üç canlı komşusu olan her canlı hücre, bir sonraki nesilde yaşamaya devam eder.</translation>
@@ -61,6 +63,7 @@ Any live cell with two or three live neighbours lives on to the next generation.
         <source>3.
 
 Any live cell with more than three live neighbours dies, as if by overpopulation.</source>
+        <extracomment>Fourth page: the third rule.</extracomment>
         <translation>3.
 
 Üçten fazla canlı komşusu olan her canlı hücre, âdeta aşırı kalabalıktan ölür.</translation>
@@ -69,6 +72,7 @@ Any live cell with more than three live neighbours dies, as if by overpopulation
         <source>4.
 
 Any dead cell with exactly three live neighbours becomes a live cell, as if by reproduction.</source>
+        <extracomment>Fifth page: the last rule.</extracomment>
         <translation>4.
 
 Tam olarak üç canlı komşusu olan her ölü hücre, âdeta üreme yoluyla canlı bir hücreye dönüşür.</translation>
@@ -77,6 +81,7 @@ Tam olarak üç canlı komşusu olan her ölü hücre, âdeta üreme yoluyla can
         <source>Next, please enjoy the Hazel Grid.
 
 Best regards.</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>Şimdi sıra Hazel Grid’in keyfini çıkarmakta.
 
 En iyi dileklerimle.</translation>
@@ -85,6 +90,7 @@ En iyi dileklerimle.</translation>
         <source>欢迎使用「青岚」。
 
 「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。</source>
+        <extracomment>First of five pages that explain a game of guessing a written character; 「青岚」 is the app&apos;s name.</extracomment>
         <translation>“青岚” (Qinglan) oyununa hoş geldiniz.
 
 “青岚” sizden karakterleri birer birer girmenizi ve çizgilerle çizgi sırasına bakarak doğru karakteri altı denemede bulmanızı rica eder.</translation>
@@ -93,6 +99,7 @@ En iyi dileklerimle.</translation>
         <source>输入一个有效中文文字，按下回车按钮提交。
 
 每次提交之后，文字的笔画颜色也许会发生变化：</source>
+        <extracomment>Second page: how to make a guess. The colours are those of the next two pages.</extracomment>
         <translation>Geçerli bir Çince karakter yazın ve Return tuşuna basarak gönderin.
 
 Her gönderimden sonra karakterin çizgilerinin rengi değişebilir:</translation>
@@ -103,6 +110,7 @@ Her gönderimden sonra karakterin çizgilerinin rengi değişebilir:</translatio
 表示正确文字包含此笔画，并且笔顺正确。
 
 在正确文字和所提交的文字的中都会全部显示。</source>
+        <extracomment>Third page: what a green stroke means.</extracomment>
         <translation>Yeşil
 
 Doğru karakterde bu çizgi vardır ve çizgi sırası da doğrudur.
@@ -115,6 +123,7 @@ Bu çizgilerin tümü hem doğru karakterde hem de gönderilen karakterde göste
 代表正确文字虽然包含此笔画，但是笔顺不正确。
 
 如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。</source>
+        <extracomment>Fourth page: what a grey stroke means.</extracomment>
         <translation>Gri
 
 Doğru karakterde bu çizgi vardır ancak çizgi sırası yanlıştır.
@@ -125,6 +134,7 @@ Bu çizgiler birbirinin aynısıysa doğru karakterde yalnızca biri, gönderile
         <source>接下来请使用「青岚」。
 
 敬颂时祺。</source>
+        <extracomment>Last page, before the game begins.</extracomment>
         <translation>Şimdi buyurun, “青岚” sizi bekliyor.
 
 Saygılarımı sunar, esenlikler dilerim.</translation>

@@ -49,29 +49,39 @@ inline constexpr const char *hazelGuide[] = {
                       "The game is an infinite, two-dimensional orthogonal grid of square cells, each of "
                       "which is in one of two possible states, live or dead.\n\n"
                       "At each step in time, the following transitions occur:"),
+    //: Second page: the first rule of the game.
     QT_TRANSLATE_NOOP("TQFoundation",
                       "1.\n\nAny live cell with fewer than two live neighbours dies, as if by underpopulation."),
+    //: Third page: the second rule.
     QT_TRANSLATE_NOOP("TQFoundation",
                       "2.\n\nAny live cell with two or three live neighbours lives on to the next generation."),
+    //: Fourth page: the third rule.
     QT_TRANSLATE_NOOP("TQFoundation",
                       "3.\n\nAny live cell with more than three live neighbours dies, as if by overpopulation."),
+    //: Fifth page: the last rule.
     QT_TRANSLATE_NOOP(
         "TQFoundation",
         "4.\n\nAny dead cell with exactly three live neighbours becomes a live cell, as if by reproduction."),
+    //: Last page, before the game begins.
     QT_TRANSLATE_NOOP("TQFoundation", "Next, please enjoy the Hazel Grid.\n\nBest regards."),
 };
 
 inline constexpr const char *dogwoodGuide[] = {
+    //: First of five pages that explain a game of guessing a written character; 「青岚」 is the app's name.
     QT_TRANSLATE_NOOP(
         "TQFoundation",
         "欢迎使用「青岚」。\n\n「青岚」需要阁下输入一个个文字，并根据笔画、笔顺在六次机会中猜出正确文字。"),
+    //: Second page: how to make a guess. The colours are those of the next two pages.
     QT_TRANSLATE_NOOP("TQFoundation",
                       "输入一个有效中文文字，按下回车按钮提交。\n\n每次提交之后，文字的笔画颜色也许会发生变化："),
+    //: Third page: what a green stroke means.
     QT_TRANSLATE_NOOP("TQFoundation",
                       "绿色，\n\n表示正确文字包含此笔画，并且笔顺正确。\n\n在正确文字和所提交的文字的中都会全部显示。"),
+    //: Fourth page: what a grey stroke means.
     QT_TRANSLATE_NOOP("TQFoundation",
                       "灰色，\n\n代表正确文字虽然包含此笔画，但是笔顺不正确。\n\n"
                       "如果这些笔画相同，在正确文字中只会显示一次，在所提交的文字中则会全部显示。"),
+    //: Last page, before the game begins.
     QT_TRANSLATE_NOOP("TQFoundation", "接下来请使用「青岚」。\n\n敬颂时祺。"),
 };
 

@@ -1,6 +1,8 @@
-"""Every table has exactly the keys of the code, each with a finished translation that fits its place."""
+"""Every table has exactly the keys of the code, each with a finished translation that fits its place. What the library
+says in the user's language is marked for the tables, and what is marked is found."""
 
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
@@ -18,6 +20,8 @@ def entries(path):
             translation = message.find("translation")
             finished = translation.get("type") is None
             found[name, message.findtext("source")] = (translation.text or "") if finished else None
+            if name.startswith("TQFoundation") and not message.findtext("extracomment"):
+                failures.append(f"{path.name}: nothing tells where {message.findtext('source')[:40]!r} is seen")
     return found
 
 
@@ -26,6 +30,30 @@ def keys_of(sources, folder):
     subprocess.run([lupdate, "-silent", "-locations", "none", *map(str, sources), "-ts", str(table)],
                    check=True, capture_output=True)
     return set(entries(table))
+
+
+def marked_in(text, where):
+    """What is marked for translation, read without lupdate: each mark's context and text."""
+    literal = r'"((?:[^"\\]|\\.)*)"'
+    found = re.findall(rf"QT_TRANSLATE_NOOP\(\s*{literal},\s*((?:{literal}\s*)+)\)", text)
+    if len(found) != len(re.findall(r"\bQT_TRANSLATE_NOOP\(", text)):
+        failures.append(f"{where} marks something else than a text")
+    escapes = {"\\n": "\n", '\\"': '"', "\\\\": "\\"}
+    return {(context, re.sub(r"\\.", lambda match: escapes[match[0]], "".join(re.findall(literal, texts))))
+            for context, texts, _ in found}
+
+
+def check_sources(sources, keys):
+    marked = set()
+    for path in sources:
+        text = path.read_text(encoding="utf-8")
+        marked |= marked_in(text, path.name)
+        for call in re.findall(r'(?:localizedInLibrary|interfaceString)\((?:QStringLiteral|QLatin1String|u)?\(?".*', text):
+            failures.append(f"{path.name} translates what is not marked: {call}")
+        if re.search(r"\b(?:qsTr|qsTrId|qsTranslate|tr)\(", text):
+            failures.append(f"{path.name} asks the host's translators instead of the library's tables")
+    for context, key in sorted(marked ^ keys):
+        failures.append(f"lupdate and the code differ in {key!r} of {context}")
 
 
 def check(tables, keys, languages):
@@ -60,8 +88,10 @@ def check(tables, keys, languages):
 listed = next(line for line in (root / "CMakeLists.txt").read_text().splitlines() if line.startswith("set(languages "))
 languages = set(listed.removeprefix("set(languages ").rstrip(")").split())
 with tempfile.TemporaryDirectory() as folder:
-    sources = [path for path in (root / "Sources").rglob("*") if path.suffix in (".h", ".cpp", ".qml")]
+    sources = [path for folder_name in ("Sources", "Resources") for path in (root / folder_name).rglob("*")
+               if path.suffix in (".h", ".cpp", ".qml")]
     keys = keys_of(sources, folder)
+check_sources(sources, keys)
 with tempfile.TemporaryDirectory() as folder:
     example_keys = keys_of((root / "Example").glob("*.qml"), folder)
 

@@ -3,13 +3,14 @@ builds it and looks for the app in C++ and in QML."""
 
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
 import tempfile
 
 source = pathlib.Path(sys.argv[1])
-host = pathlib.Path(__file__).parent / "EleventhApp"
+host = pathlib.Path(__file__).parent / "OneMoreApp"
 
 NAME = """
 each(sorrel)
@@ -19,12 +20,13 @@ ROW = """
 """
 
 
-def add_after(path, last, addition):
-    """Adds to a list whose last entry is given."""
+def add(path, end_of_list, addition):
+    """Adds to the list whose last entry the pattern takes in."""
     text = path.read_text(encoding="utf-8")
-    if text.count(last) != 1:
-        sys.exit(f"{path.name} does not hold {last!r} once")
-    path.write_text(text.replace(last, f"{last} {addition.strip()}"), encoding="utf-8")
+    longer, count = re.subn(end_of_list, lambda found: f"{found[0]} {addition.strip()}", text, flags=re.DOTALL)
+    if count != 1:
+        sys.exit(f"{path.name} has {count} lists like {end_of_list}")
+    path.write_text(longer, encoding="utf-8")
 
 
 def run(*command):
@@ -42,8 +44,8 @@ with tempfile.TemporaryDirectory() as name:
     shutil.copy(source / "CMakeLists.txt", copy)
 
     catalogue = copy / "Sources/Catalogue"
-    add_after(catalogue / "TQApp.h", "each(alder)", NAME)
-    add_after(catalogue / "DeveloperIdentity.h", '{"alder", "9990000010", nullptr, "alder-page", Rgba{0, 0.6980392F, 0.7137255F}},', ROW)
+    add(catalogue / "TQApp.h", r"#define TQFOUNDATION_APPS\(each\)(\s|\\|each\(\w+\))*each\(\w+\)", NAME)
+    add(catalogue / "DeveloperIdentity.h", r"App apps\[\] = \{.*?\},(?=\n\};)", ROW)
     shutil.copy(copy / "Resources/Icons/birch.png", copy / "Resources/Icons/sorrel.png")
 
     run("cmake", "-S", host, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",

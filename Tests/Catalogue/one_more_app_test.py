@@ -34,7 +34,7 @@ def run(*command):
     result = subprocess.run(list(map(str, command)), timeout=600, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
                             text=True, env=dict(os.environ, QT_QPA_PLATFORM="offscreen"))
     if result.returncode:
-        sys.exit(result.stdout)
+        sys.exit(f"ended with {result.returncode}: {result.stdout}")
 
 
 with tempfile.TemporaryDirectory() as name:

@@ -14,7 +14,7 @@ host = hosts / sys.argv[4]
 
 def run(*command, **options):
     print("+", *command, flush=True)
-    return subprocess.run(list(map(str, command)), check=True, timeout=280, **options)
+    return subprocess.run(list(map(str, command)), check=True, timeout=580, **options)
 
 
 def configure_and_build(folder, *options):

@@ -1,0 +1,103 @@
+#include "Storm.h"
+
+#include <QtCore/qcoreapplication.h>
+#include <QtCore/qfile.h>
+#include <QtCore/qprocess.h>
+#include <QtCore/qtemporarydir.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace TQFoundation::Testing {
+namespace {
+
+constexpr int stepsOfStorm = 400;
+
+std::uint32_t number(const char *name, std::uint32_t otherwise)
+{
+    return qEnvironmentVariableIsSet(name) ? qEnvironmentVariable(name).toUInt() : otherwise;
+}
+
+// A process of its own, so that steps that crash it count as failing too.
+bool failsElsewhere(const Steps &steps)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("steps")));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray::fromStdString(asCode(steps)));
+    file.close();
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("TQ_STORM_REPLAY"), file.fileName());
+    process.setProcessEnvironment(environment);
+    process.start(
+        QCoreApplication::applicationFilePath(),
+        {QStringLiteral("--gtest_also_run_disabled_tests"), QStringLiteral("--gtest_filter=ApiStorm.DISABLED_Replay")});
+    return !process.waitForFinished(60'000) || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0;
+}
+
+// TQ_STORM_STEPS and TQ_STORM_SEED choose how many steps are done and which; the target `storm` does a million.
+TEST(ApiStorm, BreaksNoRule)
+{
+    const std::uint32_t first = number("TQ_STORM_SEED", 1);
+    const std::uint32_t storms = number("TQ_STORM_STEPS", 20'000) / stepsOfStorm;
+    Tally tally;
+    for (std::uint32_t seed = first; seed < first + storms; ++seed) {
+        // Told before, because a crash tells nothing.
+        std::printf("storm %u\n", seed);
+        std::fflush(stdout);
+        const Steps steps = stormOf(seed, stepsOfStorm);
+        const auto failure = broken(steps, &tally);
+        if (failure || HasFailure()) {
+            ADD_FAILURE() << "seed " << seed << ": " << failure.value_or("a line was logged") << "\n"
+                          << asCode(shrunk(steps, failsElsewhere));
+            return;
+        }
+    }
+    std::printf("guides shown %d, finished %d; taps %d, of them by input %d; ticks %d; presentations %d; frames %d\n",
+                tally.shownGuides, tally.finishedGuides, tally.taps, tally.tapsByInput, tally.ticks,
+                tally.presentations, tally.frames);
+    for (const int happened :
+         {tally.shownGuides, tally.finishedGuides, tally.tapsByInput, tally.ticks, tally.presentations, tally.frames})
+        EXPECT_GT(happened, 0);
+}
+
+// For a seed that crashed: TQ_STORM_SEED says which, and what remains of it is printed.
+TEST(ApiStorm, DISABLED_Shrink)
+{
+    const Steps steps = stormOf(number("TQ_STORM_SEED", 1), stepsOfStorm);
+    ASSERT_TRUE(failsElsewhere(steps));
+    std::puts(asCode(shrunk(steps, failsElsewhere)).c_str());
+}
+
+TEST(ApiStorm, DISABLED_Replay)
+{
+    QFile file(qEnvironmentVariable("TQ_STORM_REPLAY"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(broken(fromCode(file.readAll().toStdString())), std::nullopt);
+}
+
+TEST(ApiStorm, ShrinksToTheStepsThatMatter)
+{
+    const Steps steps = stormOf(7, stepsOfStorm);
+    const auto matters = [](const Steps &some) {
+        const auto count = [&](Step::Action action) { return std::ranges::count(some, action, &Step::action); };
+        return count(Step::Action::click) >= 2 && count(Step::Action::tick) >= 1;
+    };
+    const Steps few = shrunk(steps, matters);
+    EXPECT_EQ(few.size(), 3U);
+    EXPECT_TRUE(matters(few));
+}
+
+TEST(ApiStorm, PrintsStepsThatCanBePasted)
+{
+    const Steps steps = stormOf(3, 50);
+    const Steps read = fromCode(asCode(steps));
+    ASSERT_EQ(read.size(), steps.size());
+    EXPECT_EQ(asCode(read), asCode(steps));
+}
+
+} // namespace
+} // namespace TQFoundation::Testing

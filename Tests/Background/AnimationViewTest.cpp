@@ -643,5 +643,19 @@ TEST_F(Background, AMillionTicksKeepTheGridAndTheMemory)
 }
 #endif
 
+TEST(BackgroundAlone, OutlivesThePlatformThatMadeItsTimer)
+{
+    std::shared_ptr<AnimationView> view;
+    {
+        const InstalledRecordingPlatform platform;
+        view = AnimationView::initWithFrame({});
+        view->createTimer();
+    }
+    const QPointer<AnimationView> observed = view.get();
+    view.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(observed);
+}
+
 } // namespace
 } // namespace TQFoundation

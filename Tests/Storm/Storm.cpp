@@ -106,6 +106,11 @@ private:
         return picked ? picked->get() : nullptr;
     }
 
+    bool hasKeyWindow() const
+    {
+        return sceneState == ActivationState::foregroundActive && key < windows.size() && windows[key]->isVisible();
+    }
+
     static Color colour(std::uint32_t number)
     {
         const std::array colours{Color(), Color::systemBlue(), Color::systemRed(), TQApp::hazel.tintColor()};
@@ -240,9 +245,17 @@ void World::showGuide(const Step &step)
     guide.isShown = true;
     ++tally.shownGuides;
     guide.untilUnheld = std::max(guide.untilUnheld, 600);
-    const QQuickItem *const parent = guide.view ? guide.view->parentItem() : nullptr;
-    if (parent)
-        expect(parent->childItems().last() == guide.view, "a guide is shown on top of all that its host holds");
+    if (hasKeyWindow())
+        host = windows[key]->contentItem();
+    else if (first)
+        host = first->contentItem();
+    if (!host)
+        return;
+    expect(guide.view->parentItem() == host, "a guide is shown in the key window or else where its caller says");
+    const QList<QQuickItem *> siblings = host->childItems();
+    expect(siblings.last() == guide.view
+               && std::ranges::all_of(siblings, [&](const QQuickItem *item) { return item->z() <= guide.view->z(); }),
+           "a guide is shown on top of all that its host holds");
 }
 
 // Views that belong to a background are made where that is placed.
@@ -591,9 +604,7 @@ void World::check()
     for (const auto &gone : enginesObjects)
         expect(engine || !gone, "what an engine owns goes with it");
     const auto top = TQMore::topViewController();
-    const bool hasKey =
-        sceneState == ActivationState::foregroundActive && key < windows.size() && windows[key]->isVisible();
-    expect((top != nullptr) == hasKey, "there is a controller to present on where a window is key");
+    expect((top != nullptr) == hasKeyWindow(), "there is a controller to present on where a window is key");
     if (top)
         expect(!top->presentedViewController(), "nothing lies on top of the top");
 }

@@ -93,7 +93,7 @@ class RecordingTimer final : public RepeatingTimer, public std::enable_shared_fr
 {
 public:
     RecordingTimer(RecordingPlatform &platform, double interval, std::function<void()> tick)
-        : m_platform(platform),
+        : m_platform(&platform),
           m_interval(interval),
           m_made(platform.m_now),
           m_next(m_made + interval),
@@ -102,34 +102,44 @@ public:
 
     void fire() override
     {
-        m_platform.record(QStringLiteral("timer.fire()"));
+        record(QStringLiteral("timer.fire()"));
         run();
     }
 
     void schedule() override
     {
-        m_platform.record(QStringLiteral("timer.schedule()"));
-        if (m_tick && !isScheduled())
-            m_platform.m_scheduled.push_back(shared_from_this());
+        record(QStringLiteral("timer.schedule()"));
+        if (m_platform && m_tick && !isScheduled())
+            m_platform->m_scheduled.push_back(shared_from_this());
     }
 
     void invalidate() override
     {
-        m_platform.record(QStringLiteral("timer.invalidate()"));
-        std::erase(m_platform.m_scheduled, shared_from_this());
+        record(QStringLiteral("timer.invalidate()"));
+        if (m_platform)
+            std::erase(m_platform->m_scheduled, shared_from_this());
         const auto tick = std::exchange(m_tick, nullptr);
     }
+
+    // The platform goes first: what holds the timer may go later, in its turn.
+    void outlive() { m_platform = nullptr; }
 
     double nextMoment() const { return m_next; }
 
     void tickOnTheGrid()
     {
-        m_next = m_made + (std::floor((m_platform.m_now - m_made) / m_interval) + 1) * m_interval;
+        m_next = m_made + (std::floor((m_platform->m_now - m_made) / m_interval) + 1) * m_interval;
         run();
     }
 
 private:
-    bool isScheduled() { return std::ranges::count(m_platform.m_scheduled, shared_from_this()) > 0; }
+    bool isScheduled() { return std::ranges::count(m_platform->m_scheduled, shared_from_this()) > 0; }
+
+    void record(const QString &call) const
+    {
+        if (m_platform)
+            m_platform->record(call);
+    }
 
     void run()
     {
@@ -137,7 +147,7 @@ private:
             tick();
     }
 
-    RecordingPlatform &m_platform;
+    RecordingPlatform *m_platform;
     const double m_interval;
     const double m_made;
     double m_next;
@@ -150,6 +160,10 @@ RecordingPlatform::~RecordingPlatform()
     while (!m_scheduled.empty()) {
         const auto timer = m_scheduled.back();
         timer->invalidate();
+    }
+    for (const auto &timer : timers) {
+        if (const auto alive = timer.lock())
+            std::static_pointer_cast<RecordingTimer>(alive)->outlive();
     }
 }
 

@@ -1,0 +1,86 @@
+"""A host in systems where something is missing, broken or in the way: it goes through its guide and ends by itself.
+
+faults_test.py HOST FAULT
+"""
+
+import os
+import pathlib
+import resource
+import signal
+import subprocess
+import sys
+import tempfile
+
+host, fault = sys.argv[1:3]
+
+
+def expect(holds, failure):
+    if not holds:
+        sys.exit(f"{fault}: {failure}")
+
+
+def full_disk():
+    # Writing fails as on a disk without room. The signal that comes with it stays away, as it does there.
+    signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+    resource.setrlimit(resource.RLIMIT_FSIZE, (0, 0))
+
+
+with tempfile.TemporaryDirectory() as name:
+    home = pathlib.Path(name) / "home"
+    settings = home / "config/Faults/FaultyHost.conf"
+    (home / "run").mkdir(parents=True, mode=0o700)
+    settings.parent.mkdir(parents=True)
+    environment = {"PATH": os.environ["PATH"], "HOME": str(home), "XDG_CONFIG_HOME": str(home / "config"),
+                   "XDG_RUNTIME_DIR": str(home / "run"), "TMPDIR": name, "QT_QPA_PLATFORM": "offscreen",
+                   "QT_QUICK_BACKEND": "software", "QSG_RENDER_LOOP": "basic", "LC_ALL": "C.UTF-8"}
+    # What a sanitizer needs to know.
+    environment.update({key: value for key, value in os.environ.items() if key.endswith("SAN_OPTIONS")})
+
+    def run(*arguments, **options):
+        return subprocess.run([host, *arguments], env=environment, capture_output=True, text=True, timeout=50, **options)
+
+    before = "[General]\nkept=1\n"
+    arguments, options, is_stored, is_silent = (), {}, True, True
+    if fault == "NoDisplay":
+        arguments = ("without-display",)
+        del environment["QT_QPA_PLATFORM"]
+    elif fault == "NoFonts":
+        (home / "fonts.conf").write_text("<fontconfig></fontconfig>", encoding="utf-8")
+        environment.update(FONTCONFIG_FILE=str(home / "fonts.conf"), FONTCONFIG_PATH=name)
+        is_silent = False  # Fontconfig and Qt say so themselves.
+    elif fault == "UnwritableHome":
+        environment.update(HOME="/dev/null/home", XDG_CONFIG_HOME="/dev/null/config")
+        is_stored = False
+    elif fault == "FullHome":
+        options, is_stored = {"preexec_fn": full_disk}, False
+    elif fault == "CorruptSettings":
+        before, is_stored = "\x7fELF\x02\x01\nname=Grove\n[Gen", False
+    elif fault == "VanishingHome":
+        arguments, is_stored = ("losing-home",), None
+    elif fault == "LocaleC":
+        environment.update(LC_ALL="C", LANG="C")
+        is_silent = False  # Qt says that it would rather have UTF-8.
+    elif fault == "TwoApps":
+        processes = [subprocess.Popen([host, "writing", letter], env=environment) for letter in "ab"]
+        expect([process.wait(50) for process in processes] == [0, 0], "an app failed")
+        lines = set(settings.read_text(encoding="utf-8").split())
+        expect(lines == {"[General]", "KeyOfDidShowGuide=true"} | {f"{letter}{number}={number}" for letter in "ab"
+                                                                   for number in range(40)},
+               f"the settings hold {sorted(lines)}")
+        sys.exit(0)
+    else:
+        sys.exit(f"unknown: {fault}")
+
+    settings.write_text(before, encoding="utf-8")
+    result = run(*arguments, **options)
+    expect(result.returncode == 0, f"{result.returncode} {result.stdout} {result.stderr}")
+    expect("more=Privacy Policy" in result.stdout, result.stdout)
+    expect(not is_silent or not result.stderr, result.stderr)
+    if fault == "NoDisplay":
+        expect("screen=0x0@1" in result.stdout and "guide=1" in result.stdout, result.stdout)
+        sys.exit(0)
+    expect(result.stdout.count("completed") == 1, result.stdout)
+    if is_stored is not None:
+        stored = settings.read_text(encoding="utf-8") if settings.exists() else ""
+        expect(("KeyOfDidShowGuide=true" in stored) == is_stored, f"the settings hold {stored!r}")
+        expect(before.strip() in stored or is_stored and "kept=1" in stored, f"the settings hold {stored!r}")

@@ -424,6 +424,28 @@ TEST_F(GuideInput, TheLaterOfTwoGuidesHasTheKeyboardAndGivesItToTheEarlier)
     EXPECT_NE(heard(), QString());
 }
 
+TEST_F(GuideInput, AGuideThatOutlivesItsWindowDoesNotKeepTheFocusOfThat)
+{
+    auto window = std::make_unique<QQuickWindow>();
+    window->show();
+    window->requestActivate();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    platform->scenes = keyScene(window.get());
+    const auto guide = TQGuideView::initFromNib(Color::systemBlue(), {QStringLiteral("Only")}, {});
+    guide->showGuide();
+    EXPECT_TRUE(guide->nextButton()->hasActiveFocus());
+    platform->scenes = {};
+    window.reset();
+    EXPECT_FALSE(guide->nextButton()->hasActiveFocus());
+    EXPECT_FALSE(guide->hasActiveFocus());
+
+    platform->scenes = keyScene(&host.window);
+    guide->showGuide();
+    host.window.requestActivate();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&host.window));
+    EXPECT_TRUE(guide->nextButton()->hasActiveFocus());
+}
+
 TEST_F(GuideInput, AGuideThatMovesToAnotherWindowFreesTheFirst)
 {
     QQuickWindow other;

@@ -79,6 +79,26 @@ TEST(ApiStorm, DISABLED_Replay)
     EXPECT_EQ(broken(fromCode(file.readAll().toStdString())), std::nullopt);
 }
 
+// What storms have found.
+
+TEST(ApiStorm, AWindowForgetsAGuideThatHadOutlivedAnother)
+{
+    const Steps steps{
+        {Step::Action::makeGuide, 799, 137139},       {Step::Action::makeWindow, 752, 13515},
+        {Step::Action::hideOrShowWindow, 788, 52943}, {Step::Action::makeWindow, 570, 50426},
+        {Step::Action::moveKey, 923, 145731},         {Step::Action::makeWindow, 417, 8025},
+        {Step::Action::showGuide, 870, 71056},        {Step::Action::destroyWindow, 146, 114952},
+        {Step::Action::letGoOfGuide, 57, 89044},      {Step::Action::showGuide, 236, 85597},
+        {Step::Action::makeGuide, 483, 109958},       {Step::Action::showGuide, 185, 65641},
+        {Step::Action::hideOrShowWindow, 864, 34705}, {Step::Action::tapGuide, 496, 82011},
+        {Step::Action::showGuide, 504, 20687},        {Step::Action::destroyWindow, 463, 164857},
+        {Step::Action::passTime, 863, 193814},        {Step::Action::press, 805, 93928},
+    };
+    EXPECT_EQ(broken(steps), std::nullopt);
+}
+
+// The storm itself.
+
 TEST(ApiStorm, ShrinksToTheStepsThatMatter)
 {
     const Steps steps = stormOf(7, stepsOfStorm);

@@ -134,6 +134,16 @@ TEST_F(DesktopHostInfo, AFolderInPlaceOfTheListCountsAsNone)
     EXPECT_EQ(info("CFBundleName"), QVariant(QCoreApplication::applicationName()));
 }
 
+#ifdef Q_OS_LINUX
+TEST_F(DesktopHostInfo, EntriesOfAListThatCannotBeReadAreMissing)
+{
+    // A regular file whose every read fails, whoever the user is.
+    ASSERT_TRUE(QFile::link(QStringLiteral("/proc/self/mem"), plistPath()));
+    const auto guard = qScopeGuard([] { QFile::remove(plistPath()); });
+    EXPECT_FALSE(info("CFBundleName").isValid());
+}
+#endif
+
 TEST_F(DesktopHostInfo, WithoutAListTheApplicationObjectDescribesTheHost)
 {
     EXPECT_EQ(info("CFBundleName"), QVariant(QStringLiteral("Tests")));

@@ -1,11 +1,13 @@
 # The front door. Everything below is CMake with the presets of CMakePresets.json.
 .DEFAULT_GOAL := help
-.PHONY: help run test sanitize lint docs bench install packages pictures format clean
+.PHONY: help run test sanitize fuzz storm coverage lint docs bench install packages pictures format clean
 
 PREFIX ?= /usr/local
 ARGS ?=
+CTEST ?=
+SECONDS ?= 60
 release := build/release
-sources = $(shell find Sources Example Tests Benchmarks -name '*.cpp' -o -name '*.h')
+sources = $(shell find Sources Example Tests Fuzzers Benchmarks -name '*.cpp' -o -name '*.h')
 # clang-tidy reads one compiler's command line and generated headers, so it comes after a build.
 units = $(shell find Sources Example -name '*.cpp')
 
@@ -13,6 +15,9 @@ help:
 	@echo "make run        build and start the example (ARGS=\"--app birch --dark\"); pictures where there is no display"
 	@echo "make test       check the formatting and the QML files, build, run all tests"
 	@echo "make sanitize   run the tests under the address and undefined behaviour sanitizers"
+	@echo "make fuzz       feed every door with whatever comes, SECONDS=$(SECONDS) for each"
+	@echo "make storm      a million random calls and events"
+	@echo "make coverage   which lines and branches of Sources the tests reach"
 	@echo "make lint       clang-tidy and clazy"
 	@echo "make docs       write the API reference to build/docs/html"
 	@echo "make bench      measure; prints tables"
@@ -34,13 +39,36 @@ test:
 	cmake --preset release -DTQFOUNDATION_TESTS=ON
 	cmake --build --preset release
 	cmake --build --preset release --target all_qmllint
-	ctest --preset release
+	ctest --preset release $(CTEST)
+	cmake --preset fuzz -DTQFOUNDATION_SMOKE_SECONDS=5
+	cmake --build --preset fuzz
+	ctest --preset fuzz
 
 sanitize:
 	tools/install-packages build run test
 	cmake --preset sanitize
 	cmake --build --preset sanitize --target Tests
 	ctest --preset sanitize
+
+fuzz:
+	tools/install-packages build test
+	cmake --preset fuzz -DTQFOUNDATION_SMOKE_SECONDS=$(SECONDS)
+	cmake --build --preset fuzz
+	ctest --preset fuzz --verbose
+
+storm:
+	tools/install-packages build run test
+	cmake --preset release -DTQFOUNDATION_TESTS=ON
+	cmake --build --preset release --target storm
+
+coverage:
+	tools/install-packages build run test coverage
+	cmake --preset coverage
+	cmake --build --preset coverage --target Tests
+	find build/coverage -name '*.gcda' -delete
+	ctest --preset coverage
+	gcovr --root . --filter Sources/ --exclude-throw-branches --exclude-unreachable-branches \
+		--txt --print-summary build/coverage
 
 lint:
 	tools/install-packages build run test

@@ -106,14 +106,6 @@ void InputShield::itemChange(ItemChange change, const ItemChangeData &data)
         enter(data.window);
 }
 
-// An overlay that outlives its window would go on as if it had that window's focus, and in the next one the focus would
-// come to point at it when it does not have it. Nothing else is told in time.
-void InputShield::releaseResources()
-{
-    if (m_window && !m_window->contentItem())
-        m_overlay->setFocus(false);
-}
-
 void InputShield::enter(QQuickWindow *window)
 {
     m_window = window;

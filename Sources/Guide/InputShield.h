@@ -30,7 +30,6 @@ public:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
-    void releaseResources() override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;

@@ -174,6 +174,9 @@ void TQGuideView::showGuide(QQuickWindow *inWindow, QQuickItem *orInView)
         host = window->contentItem();
     else if (inWindow)
         host = inWindow->contentItem();
+    // After its window was destroyed it goes on as if it had the focus, and would not take that of another one.
+    if (!window())
+        setFocus(false);
     addAsTopmostChild(this, host);
     m_shield->takeFocus();
     announceParagraph();

@@ -45,7 +45,7 @@ class App:
     def click_next(self):
         """Where the guide has its button; the screen beneath has nothing there that stores a setting."""
         xdotool("mousemove", "--window", self.window, "329", "783", "click", "1")
-        time.sleep(1)  # a change of paragraphs takes 0.8 s
+        time.sleep(1.5)  # a change of paragraphs takes 0.8 s, and longer where others work on the machine too
 
 
 with tempfile.TemporaryDirectory() as home:

@@ -26,7 +26,9 @@ public:
     /// What the browser's own buttons are painted in.
     virtual void setPreferredControlTintColor(const Color &color) = 0;
 
+    /// What the button that closes the browser says. Set it before the browser is presented.
     virtual void setDismissButtonStyle(DismissButtonStyle style) = 0;
+    /// How much of the window the browser covers. Set it before the browser is presented.
     virtual void setModalPresentationStyle(ModalPresentationStyle style) = 0;
 };
 

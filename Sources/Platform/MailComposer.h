@@ -28,6 +28,7 @@ public:
     /// Whom the mail goes to, as plain addresses.
     virtual void setToRecipients(const QStringList &addresses) = 0;
 
+    /// What the mail is about, as plain text.
     virtual void setSubject(const QString &subject) = 0;
 
     /// What the mail begins with, passed on as it is: HTML where \a isHtml is true, else plain text.

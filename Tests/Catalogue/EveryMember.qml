@@ -20,6 +20,7 @@ Window {
     readonly property color tintInDark: tint.dark
     readonly property color tintNow: tint.resolved(true)
     readonly property color textOnTint: tint.textColor(true)
+    readonly property color tintOnBlack: tint.legibleOn("black", true)
 
     readonly property list<string> titles: [TQMore.privacyText, TQMore.feedbackText, TQMore.reviewText,
         TQMore.threadsText, TQMore.blogText, TQMore.moreAppText, TQMore.versionText,
@@ -32,6 +33,8 @@ Window {
 
     function visit() {
         TQApp.openDeveloperPage();
+        TQMore.openUrl(TQMore.privacyUrl, tint);
+        TQMore.sendFeedbackEmail(tint, "");
         if (guide.shouldShowGuide())
             guide.showGuide(root, row);
     }

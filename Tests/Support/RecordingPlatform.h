@@ -21,6 +21,7 @@ class RecordingPlatform;
 class RecordingMailComposer final : public MailComposer
 {
 public:
+    /// A composer whose calls \a platform writes down, which has to outlive it.
     explicit RecordingMailComposer(RecordingPlatform &platform) : m_platform(platform) {}
 
     void setMailComposeDelegate(const std::shared_ptr<ViewController> &delegate) override;
@@ -29,7 +30,7 @@ public:
     void setSubject(const QString &subject) override;
     void setMessageBody(const QString &body, bool isHtml) override;
 
-    std::weak_ptr<ViewController> delegate;
+    std::weak_ptr<ViewController> delegate; ///< Who is told when the user is done; for a test to tell.
 
 protected:
     void appear(QQuickWindow *window) override;
@@ -43,6 +44,7 @@ private:
 class RecordingInAppBrowser final : public InAppBrowser
 {
 public:
+    /// A browser whose calls \a platform writes down, which has to outlive it.
     explicit RecordingInAppBrowser(RecordingPlatform &platform) : m_platform(platform) {}
 
     void setPreferredControlTintColor(const Color &color) override;
@@ -76,14 +78,13 @@ public:
     /// The folder of the library's resources; at first the library's own.
     QString root = QStringLiteral(":/qt-project.org/imports/TQFoundation");
 
-    bool mailCanBeSent = true;
+    bool mailCanBeSent = true; ///< Whether the system can send mail.
 
     /// Makes the composers and browsers where it is set, and they are shown. Not owned.
     Platform *sheets = nullptr;
 
-    /// What was made last, for as long as it lives.
-    std::weak_ptr<RecordingMailComposer> mailComposer;
-    std::weak_ptr<RecordingInAppBrowser> inAppBrowser;
+    std::weak_ptr<RecordingMailComposer> mailComposer; ///< The one that was made last, for as long as it lives.
+    std::weak_ptr<RecordingInAppBrowser> inAppBrowser; ///< The one that was made last, for as long as it lives.
 
     /// The calls in their order, each the function's name with its arguments in parentheses.
     mutable QStringList calls;

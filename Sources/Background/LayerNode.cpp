@@ -56,6 +56,17 @@ Placement placement(const QSGNode *node)
     return found;
 }
 
+QRectF bounds(const StrokeGeometry &stroke)
+{
+    QRectF all;
+    for (const StrokePart &part : stroke.parts) {
+        const auto [left, right] = std::ranges::minmax(part.corners, {}, &Point::x);
+        const auto [top, bottom] = std::ranges::minmax(part.corners, {}, &Point::y);
+        all |= QRectF(QPointF(left.x, top.y), QPointF(right.x, bottom.y));
+    }
+    return all;
+}
+
 /// Follows one layer in time. What draws it on one kind of scene graph derives from it, and may set the matrix.
 class LayerNode : public QSGTransformNode
 {
@@ -79,26 +90,22 @@ public:
     {
         const double rate = m_window->screen() ? m_window->screen()->refreshRate() : 60;
         m_interval = Seconds(1 / std::clamp(rate, 1.0, 1000.0));
-        m_scale = m_window->effectiveDevicePixelRatio();
-        if (m_layer && m_layer->path == layer.path && m_layer->lineWidth == layer.lineWidth) {
-            m_layer = layer;
-            return;
-        }
+        if (!m_layer || m_layer->path != layer.path || m_layer->lineWidth != layer.lineWidth)
+            m_stroke.reset();
         m_layer = layer;
-        m_stroke = strokeGeometry(layer.path, layer.lineWidth);
-        m_bounds = {};
-        for (const StrokePart &part : m_stroke.parts) {
-            const auto [left, right] = std::ranges::minmax(part.corners, {}, &Point::x);
-            const auto [top, bottom] = std::ranges::minmax(part.corners, {}, &Point::y);
-            m_bounds |= QRectF(QPointF(left.x, top.y), QPointF(right.x, bottom.y));
-        }
-        strokeChanged();
-        markDirty(DirtyGeometry);
+        markDirty(DirtyMaterial);
     }
 
     void preprocess() override
     {
         m_frameStart = Clock::now();
+        const double scale = m_window->effectiveDevicePixelRatio();
+        if (!m_stroke || m_scale != scale) {
+            m_scale = scale;
+            m_stroke = strokeGeometry(m_layer->path, m_layer->lineWidth);
+            m_bounds = bounds(*m_stroke);
+            strokeChanged();
+        }
         const Placement place = placement(parent());
         const double now = platform().mediaTime();
         present(m_layer->presentation(now), place.toScene);
@@ -111,7 +118,7 @@ public:
     }
 
 protected:
-    /// The stroke is another one.
+    /// The stroke is another one, or the scale of its window.
     virtual void strokeChanged() = 0;
 
     /// Shows the layer like this. The node lies in the scene as the matrix says.
@@ -119,9 +126,8 @@ protected:
 
     QQuickWindow *window() const { return m_window; }
     const ShapeLayer &layer() const { return *m_layer; }
-    const StrokeGeometry &stroke() const { return m_stroke; }
+    const StrokeGeometry &stroke() const { return *m_stroke; }
     double scale() const { return m_scale; }
-    void setScale(double scale) { m_scale = scale; }
 
 private:
     // After the scene was rendered, because a change within preprocess() goes unnoticed where the node is drawn into a
@@ -185,7 +191,7 @@ private:
 
     QQuickWindow *m_window;
     std::optional<ShapeLayer> m_layer;
-    StrokeGeometry m_stroke;
+    std::optional<StrokeGeometry> m_stroke;
     QRectF m_bounds;
     double m_scale = 1;
     Seconds m_interval{1.0 / 60};
@@ -210,7 +216,7 @@ protected:
     void present(const Presentation &presentation, const QMatrix4x4 &toScene) override
     {
         const double end = presentation.strokeEnd * stroke().length;
-        if (!m_isCurrent || m_toScene != toScene || m_mask.scale() != scale() || end < m_mask.drawnLength())
+        if (!m_isCurrent || m_toScene != toScene || end < m_mask.drawnLength())
             startAnew(toScene);
         const bool isRecolored = setColor(layer().strokeColor, presentation.opacity);
         m_mask.drawUpTo(end);
@@ -303,7 +309,6 @@ private:
         auto *painter = static_cast<QPainter *>(
             window()->rendererInterface()->getResource(window(), QSGRendererInterface::PainterResource));
         painter->setWorldTransform({});
-        setScale(painter->deviceTransform().m11());
         m_picture.assign(static_cast<std::size_t>(tile.width) * static_cast<std::size_t>(tile.height), 0);
         m_mask.paint(tile, m_colors, m_picture.data(), tile.width);
         QImage image(reinterpret_cast<const uchar *>(m_picture.data()), tile.width, tile.height, 4 * tile.width,

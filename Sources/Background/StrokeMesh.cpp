@@ -92,11 +92,6 @@ public:
             const Point rim = part.corners[1];
             m_radius = std::hypot(rim.x - middle().x, rim.y - middle().y);
         }
-        const auto side = [&](std::size_t from, std::size_t to) {
-            return std::hypot(part.corners[to].x - part.corners[from].x, part.corners[to].y - part.corners[from].y);
-        };
-        const auto [shorter, longer] = std::minmax(side(0, 1), side(3, 2));
-        m_isNarrow = shorter < 0.5 * longer;
         const auto [minX, maxX] = std::ranges::minmax(part.corners, {}, &Point::x);
         const auto [minY, maxY] = std::ranges::minmax(part.corners, {}, &Point::y);
         left = (isDisc() ? middle().x - m_radius : minX.x) - reach;
@@ -115,7 +110,6 @@ public:
     bool isDisc() const { return m_part.isBend; }
     bool startsSmoothly() const { return m_part.seams[3]; }
     bool endsSmoothly() const { return m_part.seams[1]; }
-    bool isNarrow() const { return m_isNarrow; } // whether it bends too much for its sides to count as straight
     Point middle() const { return m_part.corners[0]; } // of a disc
     const HalfPlane &edge(std::size_t k) const { return m_edges[k]; }
     double length(Point place) const { return m_length.at(place); }
@@ -164,7 +158,6 @@ private:
     std::array<HalfPlane, 4> m_edges;
     HalfPlane m_length;
     double m_radius = 0;
-    bool m_isNarrow = false;
 };
 
 class Mesher
@@ -190,6 +183,7 @@ public:
                     m_isCut[part] = true;
             }
         }
+        cutNeighbors();
         for (std::uint32_t part = 0; part < m_parts.size(); ++part) {
             if (!m_parts[part].isJoin() && !m_isCut[part])
                 addBand(part, band(part));
@@ -275,8 +269,7 @@ private:
         for (std::size_t k = 0; k < parts.size(); ++k) {
             const Placed &placed = m_placed[parts[k]];
             const StrokePart &part = m_parts[parts[k]];
-            if (placed.part().isJoin() || placed.isNarrow()
-                || (!placed.startsSmoothly() && isNear(part.corners[0], part.corners[3], box))
+            if (placed.part().isJoin() || (!placed.startsSmoothly() && isNear(part.corners[0], part.corners[3], box))
                 || (!placed.endsSmoothly() && isNear(part.corners[1], part.corners[2], box)))
                 return false;
             if (k == 0)
@@ -293,6 +286,27 @@ private:
     {
         return std::max(a.x, b.x) + 2 * m_reach >= box.left && std::min(a.x, b.x) - 2 * m_reach <= box.right()
             && std::max(a.y, b.y) + 2 * m_reach >= box.top && std::min(a.y, b.y) - 2 * m_reach <= box.bottom();
+    }
+
+    // Where a cut divides the edge between two stretches, it has to divide both of them, or pixels along the edge could
+    // be painted twice or never.
+    void cutNeighbors()
+    {
+        const auto isShared = [&](std::uint32_t part) {
+            const Polygon polygon = band(part);
+            const auto tile = [](double place) { return std::floor(place / tileSize); };
+            const Point a = polygon.corners()[0];
+            const Point b = polygon.corners()[3];
+            return m_placed[part].startsSmoothly() && (tile(a.x) != tile(b.x) || tile(a.y) != tile(b.y));
+        };
+        for (std::uint32_t part = 1; part < m_parts.size(); ++part) {
+            if (m_isCut[part - 1] && !m_isCut[part] && isShared(part))
+                m_isCut[part] = true;
+        }
+        for (auto part = static_cast<std::uint32_t>(m_parts.size()); part-- > 1;) {
+            if (m_isCut[part] && !m_isCut[part - 1] && isShared(part))
+                m_isCut[part - 1] = true;
+        }
     }
 
     // A stretch with the pixels of both its sides.

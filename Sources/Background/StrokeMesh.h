@@ -15,7 +15,8 @@ namespace TQFoundation {
 /// band. Each knows the parts that may reach its pixels, and a pixel counts its samples that lie in any of them. The
 /// joins of a narrow bend count as discs, of which few cover what would take many of them.
 ///
-/// Triangles reach half a pixel beyond the line.
+/// Triangles reach half a pixel beyond the line. Not all of those that share an edge share its corners too, so that an
+/// item that is turned may lose a pixel here and there.
 struct StrokeMesh
 {
     struct BandVertex

@@ -1,0 +1,18 @@
+"""The baked shaders in the tree are those of the sources beside them."""
+
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+root = pathlib.Path(sys.argv[1])
+failures = []
+with tempfile.TemporaryDirectory() as folder:
+    subprocess.run([root / "tools/bake-shaders", folder], check=True)
+    baked = sorted(pathlib.Path(folder).glob("*.qsb"))
+    for path in baked:
+        if path.read_bytes() != (root / "Sources/Background/Shaders" / path.name).read_bytes():
+            failures.append(f"{path.name} is out of date: run tools/bake-shaders")
+
+print("\n".join(failures) or f"{len(baked)} shaders, all as baked")
+sys.exit(bool(failures) or not baked)

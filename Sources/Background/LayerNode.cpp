@@ -93,7 +93,6 @@ public:
         if (!m_layer || m_layer->path != layer.path || m_layer->lineWidth != layer.lineWidth)
             m_stroke.reset();
         m_layer = layer;
-        markDirty(DirtyMaterial);
     }
 
     void preprocess() override
@@ -141,7 +140,7 @@ private:
             wakeIn(*wait);
             return;
         }
-        markDirty(DirtyMaterial);
+        markDirty(DirtyUsePreprocess); // the only kind that makes no renderer paint everything anew
         const Seconds passed = Clock::now() - m_frameStart;
         if (isInMainThread() && isEarly(passed))
             wakeIn(Seconds(m_interval - passed).count());

@@ -7,6 +7,7 @@
 #include <QtCore/qtimer.h>
 #include <QtGui/qscreen.h>
 #include <QtQuick/qquickwindow.h>
+#include <QtQuick/qsgrendernode.h>
 #include <QtQuick/qsgsimplerectnode.h>
 #include <QtTest/qtest.h>
 
@@ -96,6 +97,31 @@ protected:
 
 private:
     QColor m_color = Qt::white;
+};
+
+/// An item that counts how often it is painted. Software backend only.
+class WitnessItem : public QQuickItem
+{
+public:
+    explicit WitnessItem(QQuickItem *parent) : QQuickItem(parent) { setFlag(ItemHasContents); }
+
+    int paintings = 0;
+
+protected:
+    QSGNode *updatePaintNode(QSGNode *old, UpdatePaintNodeData *) override { return old ? old : new Witness(*this); }
+
+private:
+    class Witness : public QSGRenderNode
+    {
+    public:
+        explicit Witness(WitnessItem &item) : m_item(item) {}
+        RenderingFlags flags() const override { return BoundedRectRendering; }
+        QRectF rect() const override { return m_item.boundingRect(); }
+        void render(const RenderState *) override { ++m_item.paintings; }
+
+    private:
+        WitnessItem &m_item;
+    };
 };
 
 /// A white window whose frames are counted.
@@ -544,28 +570,69 @@ TEST_F(LayerInAWindow, PaintsNothingTwiceWhereOthersChangeBeneathAndAbove)
 {
     if (QGuiApplication::platformName() != u"offscreen")
         GTEST_SKIP() << "only there the screen can be looked at";
-    CountedWindow window({200, 200});
-    ColorItem beneath(window.contentItem());
-    beneath.setPosition({10, 3});
-    beneath.setSize({55, 61});
-    LayerItem item(window.contentItem());
-    item.setX(3);
-    Path path{{20, 20}, {CubicCurve{{180, 20}, {180, 180}, {20, 180}}}, true};
-    item.setLayer(Testing::driftingLayer(path, 0));
-    ColorItem above(window.contentItem());
-    above.setPosition({70, 5});
-    above.setSize({21, 13});
-    for (int frame = 1; frame <= 60; ++frame) {
-        goTo(frame * 0.15);
-        beneath.setColor(frame % 2 ? QColor(250, 250, 250) : Qt::white);
-        above.setColor(frame % 3 ? QColor(0, 0, 0, 10) : QColor(0, 0, 0, 20));
-        const int before = window.frames;
-        ASSERT_TRUE(QTest::qWaitFor([&] { return window.frames > before; }));
+    struct Scene
+    {
+        explicit Scene(const Path &path)
+        {
+            beneath.setPosition({10, 3});
+            beneath.setSize({55, 61});
+            item.setX(3);
+            item.setLayer(Testing::driftingLayer(path, 0));
+            above.setPosition({70, 5});
+            above.setSize({21, 13});
+        }
+
+        void setFrame(int frame)
+        {
+            beneath.setColor(frame % 2 ? QColor(250, 250, 250) : Qt::white);
+            above.setColor(frame % 3 ? QColor(0, 0, 0, 10) : QColor(0, 0, 0, 20));
+        }
+
+        CountedWindow window{{200, 200}};
+        ColorItem beneath{window.contentItem()};
+        LayerItem item{window.contentItem()};
+        ColorItem above{window.contentItem()};
+    };
+    const Path path{{20, 20}, {CubicCurve{{180, 20}, {180, 180}, {20, 180}}}, true};
+    constexpr int frames = 60;
+    Scene changing(path);
+    for (int frame = 1; frame <= frames; ++frame) {
+        goTo(frame * 0.151);
+        changing.setFrame(frame);
+        const int before = changing.window.frames;
+        ASSERT_TRUE(QTest::qWaitFor([&] { return changing.window.frames > before; }));
     }
-    goTo(9.1);
-    EXPECT_TRUE(window.rests());
-    const QImage screen = window.screen()->grabWindow(window.winId()).toImage();
-    EXPECT_EQ(farthest(screen, window.grabWindow().copy(screen.rect())), 0);
+    EXPECT_TRUE(changing.window.rests());
+    const QImage screen = changing.window.screen()->grabWindow(changing.window.winId()).toImage();
+    Scene fresh(path);
+    fresh.setFrame(frames);
+    EXPECT_EQ(farthest(screen, fresh.window.grabWindow().copy(screen.rect())), 0);
+}
+
+TEST_F(LayerInAWindow, OnlyWhatChangesIsPaintedAnew)
+{
+    CountedWindow window({400, 40});
+    if (window.rendererInterface()->graphicsApi() != QSGRendererInterface::Software)
+        GTEST_SKIP() << "elsewhere a frame is always painted whole";
+    LayerItem item(window.contentItem());
+    item.setLayer(Testing::driftingLayer(straight({5, 20}, {395, 20}), 0));
+    WitnessItem witness(window.contentItem());
+    witness.setPosition({32, 0});
+    witness.setSize({16, 40});
+    goTo(0.5);
+    EXPECT_TRUE(window.moves());
+    goTo(4);
+    EXPECT_TRUE(window.moves());
+    const int before = witness.paintings;
+    EXPECT_GT(before, 0);
+    for (int frame = 0; frame < 20; ++frame) {
+        goTo(4 + 0.1 * frame);
+        const int framesBefore = window.frames;
+        ASSERT_TRUE(QTest::qWaitFor([&] { return window.frames > framesBefore + 1; }));
+    }
+    EXPECT_EQ(witness.paintings, before);
+    goTo(9.4);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return witness.paintings > before; })) << "it fades out as a whole";
 }
 
 TEST_F(LayerInAWindow, ACoverHidesItAndShowsItAgain)

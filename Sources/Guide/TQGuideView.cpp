@@ -174,9 +174,7 @@ void TQGuideView::showGuide(QQuickWindow *inWindow, QQuickItem *orInView)
         host = window->contentItem();
     else if (inWindow)
         host = inWindow->contentItem();
-    // After its window was destroyed it goes on as if it had the focus, and would not take that of another one.
-    if (!window())
-        setFocus(false);
+    forgetFocus();
     addAsTopmostChild(this, host);
     m_shield->takeFocus();
     announceParagraph();
@@ -218,6 +216,20 @@ void TQGuideView::takeTapsAgain()
 
 void TQGuideView::removeFromHost()
 {
+    setParentItem(nullptr);
+}
+
+// After its window was destroyed, an overlay and what lies in it go on as if they had the focus. In the next window it
+// would not take the focus, and that would come to point at it after it has left. Only a window that it leaves in its
+// life takes the focus from it.
+void TQGuideView::forgetFocus()
+{
+    if (window() || !hasActiveFocus())
+        return;
+    setFocus(false);
+    QQuickWindow taker;
+    setParentItem(taker.contentItem());
+    forceActiveFocus();
     setParentItem(nullptr);
 }
 

@@ -143,6 +143,7 @@ private:
     void showNextParagraph();
     void takeTapsAgain();
     void removeFromHost();
+    void forgetFocus();
     void stayAlive() {}
 
     void updateShownArea();

@@ -437,12 +437,11 @@ TEST_F(GuideInput, AGuideThatOutlivesItsWindowTakesTheFocusOfTheNext)
     platform->scenes = {};
     window.reset();
 
-    QQuickWindow hidden;
-    guide->showGuide(&hidden);
-    EXPECT_EQ(hidden.activeFocusItem(), guide->nextButton());
-    hidden.contentItem()->forceActiveFocus();
-    guide->setParentItem(nullptr);
-    EXPECT_NE(hidden.activeFocusItem(), guide.get());
+    platform->scenes = keyScene(&host.window);
+    guide->showGuide();
+    host.window.requestActivate();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&host.window));
+    EXPECT_EQ(host.window.activeFocusItem(), guide->nextButton());
 }
 
 TEST_F(GuideInput, AGuideThatMovesToAnotherWindowFreesTheFirst)

@@ -213,5 +213,11 @@ TEST(SplitMix64, GivesThePublishedSequence)
     EXPECT_EQ(engine(), 9817491932198370423U);
 }
 
+TEST(SplitMix64, DrawsFromAllNumbersOf64Bits)
+{
+    EXPECT_EQ(SplitMix64::min(), 0U);
+    EXPECT_EQ(SplitMix64::max(), ~std::uint64_t{0});
+}
+
 } // namespace
 } // namespace TQFoundation

@@ -29,6 +29,22 @@ TEST(TickGrid, BeforeTheStartTheFirstTickIsNext)
     EXPECT_DOUBLE_EQ(nextTick(5, 10, -100), 15);
 }
 
+TEST(TickGrid, ATickThatTheDivisionTakesForPassedIsStillAhead)
+{
+    const double now = 0.2;
+    const double next = nextTick(0.1, 0.1, now); // 0.1 + 0.1 is a little more than 0.2
+    EXPECT_GT(next, now);
+    EXPECT_NEAR(next, 0.2, 1e-9);
+}
+
+TEST(TickGrid, ATickThatTheDivisionTakesForAheadIsPassed)
+{
+    const double start = 423610.96957169066;
+    const double now = 423611.26957169065; // as close to the first tick as numbers come
+    EXPECT_GT(nextTick(start, 0.3, now), now);
+    EXPECT_NEAR(nextTick(start, 0.3, now), start + 0.6, 1e-6);
+}
+
 TEST(TickGrid, IsAlwaysAheadByAtMostOneIntervalAndOnTheGrid)
 {
     std::mt19937_64 engine(1);

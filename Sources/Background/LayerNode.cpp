@@ -357,10 +357,10 @@ private:
     class Shader final : public QSGMaterialShader
     {
     public:
-        explicit Shader(Kind kind)
+        explicit Shader(Kind painted)
         {
             const QString file = QStringLiteral(":/qt-project.org/imports/TQFoundation/Shaders/")
-                + (kind == Kind::band ? QStringLiteral("band") : QStringLiteral("square"));
+                + (painted == Kind::band ? QStringLiteral("band") : QStringLiteral("square"));
             setShaderFileName(VertexStage, file + QStringLiteral(".vert.qsb"));
             setShaderFileName(FragmentStage, file + QStringLiteral(".frag.qsb"));
         }

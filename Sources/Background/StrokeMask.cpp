@@ -142,7 +142,7 @@ public:
                     covered &= table.within(distances[k] + table.x() * static_cast<float>(column));
                 }
                 if (covered)
-                    blockOf()[static_cast<std::size_t>(row * side + column)] |= covered;
+                    blockOf()[static_cast<std::size_t>(row) * side + static_cast<std::size_t>(column)] |= covered;
             }
             for (std::size_t k = 0; k < m_count; ++k)
                 distances[k] += m_edges[k].table.y();
@@ -243,7 +243,7 @@ StrokeMask::Tile &StrokeMask::tileAt(int x, int y)
         tile.height = firstPixel(y + 1) - tile.top;
         const int columns = (tile.width + side - 1) / side;
         const int rows = (tile.height + side - 1) / side;
-        tile.blocks.assign(static_cast<std::size_t>(columns * rows), -1);
+        tile.blocks.assign(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows), -1);
     }
     return tile;
 }
@@ -251,7 +251,8 @@ StrokeMask::Tile &StrokeMask::tileAt(int x, int y)
 StrokeMask::Block &StrokeMask::blockAt(Tile &tile, int column, int row)
 {
     const int columns = (tile.width + side - 1) / side;
-    std::int32_t &index = tile.blocks[static_cast<std::size_t>(row * columns + column)];
+    std::int32_t &index = tile.blocks[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns)
+                                      + static_cast<std::size_t>(column)];
     if (index < 0) {
         index = static_cast<std::int32_t>(m_blocks.size());
         m_blocks.emplace_back();

@@ -63,7 +63,7 @@ public:
 
 private:
     static constexpr int side = 8; // pixels of a block
-    using Block = std::array<std::uint64_t, side * side>;
+    using Block = std::array<std::uint64_t, std::size_t{side} * side>;
     class Shape;
 
     void add(const StrokePart &part, double to);

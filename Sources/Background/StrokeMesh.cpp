@@ -203,7 +203,7 @@ private:
         std::uint32_t tile;
         std::uint32_t part;
 
-        friend auto operator<=>(const Entry &, const Entry &) = default;
+        friend auto operator<=>(const Entry &, const Entry &) = default; // NOLINT(modernize-use-nullptr)
     };
 
     static Box boxOf(std::uint32_t tile)
@@ -388,7 +388,8 @@ private:
         std::uint64_t places = 0;
         const double step = (box.size + 2 * m_reach) / 7;
         for (int k = 0; k < 64; ++k) {
-            const Point place{box.left - m_reach + step * (k % 8), box.top - m_reach + step * (k / 8)};
+            const int row = k / 8;
+            const Point place{box.left - m_reach + step * (k % 8), box.top - m_reach + step * row};
             places |= std::uint64_t{m_placed[part].contains(place)} << k;
         }
         return places;

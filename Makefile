@@ -40,9 +40,6 @@ test:
 	cmake --build --preset release
 	cmake --build --preset release --target all_qmllint
 	ctest --preset release $(CTEST)
-	cmake --preset fuzz -DTQFOUNDATION_SMOKE_SECONDS=5
-	cmake --build --preset fuzz
-	ctest --preset fuzz
 
 sanitize:
 	tools/install-packages build run test

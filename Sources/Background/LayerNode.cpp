@@ -357,10 +357,10 @@ private:
     class Shader final : public QSGMaterialShader
     {
     public:
-        explicit Shader(Kind painted)
+        explicit Shader(Kind kind)
         {
             const QString file = QStringLiteral(":/qt-project.org/imports/TQFoundation/Shaders/")
-                + (painted == Kind::band ? QStringLiteral("band") : QStringLiteral("square"));
+                + (kind == Kind::band ? QStringLiteral("band") : QStringLiteral("square"));
             setShaderFileName(VertexStage, file + QStringLiteral(".vert.qsb"));
             setShaderFileName(FragmentStage, file + QStringLiteral(".frag.qsb"));
         }
@@ -368,11 +368,11 @@ private:
         bool updateUniformData(RenderState &state, QSGMaterial *newMaterial, QSGMaterial *) override
         {
             const auto &material = *static_cast<StrokeMaterial *>(newMaterial);
-            const QVector4D color = material.color * state.opacity();
+            const QVector4D seen = material.color * state.opacity();
             char *data = state.uniformData()->data();
             if (state.isMatrixDirty())
                 std::memcpy(data, state.combinedMatrix().constData(), 64);
-            std::memcpy(data + 64, &color, 16);
+            std::memcpy(data + 64, &seen, 16);
             std::memcpy(data + 80, &material.end, 4);
             return true;
         }

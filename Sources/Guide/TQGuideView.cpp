@@ -219,18 +219,24 @@ void TQGuideView::removeFromHost()
     setParentItem(nullptr);
 }
 
-// After its window was destroyed, an overlay and what lies in it go on as if they had the focus. In the next window it
-// would not take the focus, and that would come to point at it after it has left. Only a window that it leaves in its
-// life takes the focus from it.
+// After its window was destroyed, an overlay goes on as if it had the focus. The next window, where that is not the
+// active one, would come to point at it after it has left. Only a window to which it is the item with the focus takes
+// that from it, once another item gets it; and it becomes this item when one that it holds gives up the focus.
 void TQGuideView::forgetFocus()
 {
     if (window() || !hasActiveFocus())
         return;
+    QQuickItem *const within = scopedFocusItem();
     setFocus(false);
     QQuickWindow taker;
     setParentItem(taker.contentItem());
-    forceActiveFocus();
+    m_shield->setFocus(true);
+    m_shield->setFocus(false);
+    QFocusEvent activation(QEvent::FocusIn);
+    QCoreApplication::sendEvent(&taker, &activation);
     setParentItem(nullptr);
+    if (within)
+        within->setFocus(true);
 }
 
 // What an animation calls at its end. It keeps the overlay alive until then; one that no shared pointer holds may go

@@ -6,6 +6,7 @@ PREFIX ?= /usr/local
 ARGS ?=
 CTEST ?=
 SECONDS ?= 60
+FUZZ ?= --verbose
 release := build/release
 sources = $(shell find Sources Example Tests Fuzzers Benchmarks -name '*.cpp' -o -name '*.h')
 # clang-tidy reads one compiler's command line and generated headers, so it comes after a build.
@@ -13,7 +14,7 @@ units = $(shell find Sources Example -name '*.cpp')
 
 help:
 	@echo "make run        build and start the example (ARGS=\"--app birch --dark\"); pictures where there is no display"
-	@echo "make test       check the formatting and the QML files, build, run all tests"
+	@echo "make test       check the formatting and the QML files, build, run all tests and each fuzzer for 20 s"
 	@echo "make sanitize   run the tests under the address and undefined behaviour sanitizers"
 	@echo "make fuzz       feed every door with whatever comes, SECONDS=$(SECONDS) for each"
 	@echo "make storm      a million random calls and events"
@@ -40,6 +41,7 @@ test:
 	cmake --build --preset release
 	cmake --build --preset release --target all_qmllint
 	ctest --preset release $(CTEST)
+	$(MAKE) --no-print-directory fuzz SECONDS=20 FUZZ=
 
 sanitize:
 	tools/install-packages build run test
@@ -51,7 +53,7 @@ fuzz:
 	tools/install-packages build test
 	cmake --preset fuzz -DTQFOUNDATION_SMOKE_SECONDS=$(SECONDS)
 	cmake --build --preset fuzz
-	ctest --preset fuzz --verbose
+	ctest --preset fuzz $(FUZZ)
 
 storm:
 	tools/install-packages build run test

@@ -44,15 +44,15 @@ std::vector<char32_t> codePoints(std::string_view text)
 {
     std::vector<char32_t> points;
     for (std::size_t at = 0; at < text.size();) {
-        const auto byte = [&](std::size_t offset) {
-            return at + offset < text.size() ? static_cast<std::uint8_t>(text[at + offset]) : 0;
+        const auto byte = [&](std::size_t offset) -> std::uint32_t {
+            return at + offset < text.size() ? static_cast<std::uint8_t>(text[at + offset]) : 0U;
         };
         const std::size_t length = byte(0) < 0x80 ? 1
             : byte(0) >> 5 == 6                   ? 2
             : byte(0) >> 4 == 14                  ? 3
             : byte(0) >> 3 == 30                  ? 4
                                                   : 0;
-        char32_t point = length == 1 ? byte(0) : byte(0) & (0x7FU >> length);
+        char32_t point = byte(0) & (length == 1 ? 0x7FU : 0x7FU >> length);
         bool isWhole = length > 0;
         for (std::size_t offset = 1; offset < length; ++offset) {
             isWhole = isWhole && byte(offset) >> 6 == 2;
@@ -66,10 +66,15 @@ std::vector<char32_t> codePoints(std::string_view text)
     return points;
 }
 
+// Whether it is UTF-8: as long as its code points are, of which U+FFFD alone takes another number of bytes than what it
+// stands for.
 bool isValid(std::string_view text)
 {
-    return std::string_view(text).find("\xEF\xBF\xBD") != std::string_view::npos
-        || std::ranges::count(codePoints(text), U'\uFFFD') == 0;
+    std::size_t size = 0;
+    const std::vector<char32_t> points = codePoints(text);
+    for (const char32_t point : points)
+        size += point < 0x80 ? 1 : point < 0x800 ? 2 : point < 0x10000 ? 3 : 4;
+    return size == text.size();
 }
 
 // What a header's text is to arrive as.

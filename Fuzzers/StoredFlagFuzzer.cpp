@@ -6,6 +6,7 @@
 #include <TQFoundation/TQGuideView.h>
 
 #include <QtCore/qdatetime.h>
+#include <QtGui/qguiapplication.h>
 
 #include <cstdint>
 #include <fuzzer/FuzzedDataProvider.h>
@@ -81,6 +82,11 @@ Stored stored(FuzzedDataProvider &data)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size)
 {
+    // Some of the types, such as pictures, are only there in an app.
+    static int count = 1;
+    static char name[] = "Fuzzer";
+    static char *arguments[] = {name, nullptr};
+    static const QGuiApplication application(count, arguments);
     static TQFoundation::Testing::InstalledRecordingPlatform platform;
     FuzzedDataProvider data(bytes, size);
     const Stored flag = stored(data);

@@ -48,9 +48,9 @@ void checkGeometry(const StrokeGeometry &stroke)
     }
 }
 
-void checkMesh(const StrokeGeometry &stroke)
+void checkMesh(const StrokeGeometry &stroke, double scale)
 {
-    const StrokeMesh mesh = strokeMesh(stroke);
+    const StrokeMesh mesh = strokeMesh(stroke, scale);
     require(mesh.bandIndices.size() % 3 == 0 && mesh.squareIndices.size() % 3 == 0);
     require(std::ranges::all_of(mesh.bandIndices, [&](std::uint32_t index) { return index < mesh.band.size(); }));
     require(std::ranges::all_of(mesh.squareIndices, [&](std::uint32_t index) { return index < mesh.squares.size(); }));
@@ -58,7 +58,8 @@ void checkMesh(const StrokeGeometry &stroke)
         require(std::isfinite(vertex.x) && std::isfinite(vertex.y) && std::isfinite(vertex.left)
                 && std::isfinite(vertex.right) && std::isfinite(vertex.length));
     for (const StrokeMesh::SquareVertex &vertex : mesh.squares)
-        require(std::isfinite(vertex.x) && std::isfinite(vertex.y));
+        require(std::isfinite(vertex.x) && std::isfinite(vertex.y)
+                && std::ranges::all_of(vertex.length, [](float length) { return std::isfinite(length); }));
 }
 
 // The numbers of covered samples of each tile's pixels.
@@ -93,7 +94,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t siz
 
     const StrokeGeometry stroke = strokeGeometry(path, width);
     checkGeometry(stroke);
-    checkMesh(stroke);
+    checkMesh(stroke, scale);
     Path scaledPath = path;
     const auto toPixels = [scale](Point &place) { place = {place.x * scale, place.y * scale}; };
     toPixels(scaledPath.start);

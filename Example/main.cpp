@@ -323,7 +323,7 @@ int main(int argc, char *argv[])
         // Sheets are shown on the window that has the keyboard.
         window->setProperty("screenName", QStringLiteral("more"));
         QObject::connect(
-            window, &QWindow::activeChanged, window, [&options] { showSheet(options); },
+            window, &QWindow::activeChanged, window, [options] { showSheet(options); },
             static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
         window->requestActivate();
     }

@@ -310,8 +310,8 @@ private:
         painter->setWorldTransform({});
         m_picture.assign(static_cast<std::size_t>(tile.width) * static_cast<std::size_t>(tile.height), 0);
         m_mask.paint(tile, m_colors, m_picture.data(), tile.width);
-        QImage image(reinterpret_cast<const uchar *>(m_picture.data()), tile.width, tile.height, 4 * tile.width,
-                     QImage::Format_ARGB32_Premultiplied);
+        QImage image(reinterpret_cast<const uchar *>(m_picture.data()), tile.width, tile.height,
+                     qsizetype{4} * tile.width, QImage::Format_ARGB32_Premultiplied);
         image.setDevicePixelRatio(m_mask.scale());
         painter->setClipRegion(*state.clipRegion(), Qt::ReplaceClip);
         painter->setOpacity(opacity);

@@ -13,24 +13,12 @@
 namespace TQFoundation {
 namespace {
 
-QtMessageHandler formerHandler = nullptr;
-
-// The web engine tells of its own start and of its own types; all else is the library's.
-void passOverTheEngine(QtMsgType type, const QMessageLogContext &context, const QString &message)
-{
-    const bool isTheEngines = QByteArrayView(context.category).startsWith("qt.webengine")
-        || message.startsWith(u"QWebEngine") || message.startsWith(u"Sandboxing disabled")
-        || message.startsWith(u"No suitable graphics backend");
-    if (!isTheEngines)
-        formerHandler(type, context, message);
-}
-
 class BrowserSheet : public Testing::SheetHost
 {
 protected:
     BrowserSheet()
     {
-        formerHandler = qInstallMessageHandler(passOverTheEngine);
+        qInstallMessageHandler(passOverTheEngine);
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
         server.start(QStringLiteral(SYSTEM_PYTHON), {QStringLiteral(SUPPORT_FOLDER "/web_server.py"), programs.path()});
         EXPECT_TRUE(comes([this] { return server.canReadLine(); }));

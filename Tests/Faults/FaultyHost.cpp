@@ -1,9 +1,11 @@
 #include <TQFoundation/AnimationView.h>
+#include <TQFoundation/DesktopPlatform.h>
 #include <TQFoundation/Environment.h>
 #include <TQFoundation/Platform.h>
 #include <TQFoundation/TQApp.h>
 #include <TQFoundation/TQGuideView.h>
 #include <TQFoundation/TQMore.h>
+#include <TQFoundation/ViewController.h>
 
 #include <QtCore/qdir.h>
 #include <QtCore/qtimer.h>
@@ -12,6 +14,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <memory>
 
 using namespace TQFoundation;
 
@@ -50,6 +53,39 @@ int writing(int argc, char *argv[])
     return 0;
 }
 
+class PrintingPlatform final : public DesktopPlatform
+{
+public:
+    void openUrl(const QUrl &url) override
+    {
+        std::printf("system %s\n", url.toEncoded().constData());
+        std::fflush(stdout);
+    }
+};
+
+// Opens the filing site and says who shows it.
+int browsing(int argc, char *argv[])
+{
+    QGuiApplication application(argc, argv);
+    installPlatform(std::make_unique<PrintingPlatform>());
+    QQuickWindow window;
+    window.resize(200, 300);
+    const auto root = std::make_shared<ViewController>(window.contentItem());
+    ViewController::setRoot(&window, root);
+    QObject::connect(
+        &window, &QWindow::activeChanged, &application,
+        [&] {
+            TQMore::openUrl(QStringLiteral("https://beian.miit.gov.cn"), TQApp::hazel.tintColor());
+            std::puts(TQMore::topViewController() == root ? "no sheet" : "sheet");
+            QCoreApplication::quit();
+        },
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    window.show();
+    window.requestActivate();
+    QTimer::singleShot(20'000, &application, [] { QCoreApplication::exit(4); });
+    return application.exec();
+}
+
 } // namespace
 
 // A host that goes through its guide before a background and ends, whatever is wrong with the system. What it is told
@@ -61,6 +97,8 @@ int main(int argc, char *argv[])
         return withoutDisplay(argc, argv);
     if (isTold("writing"))
         return writing(argc, argv);
+    if (isTold("browsing"))
+        return browsing(argc, argv);
 
     QGuiApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Faults"));

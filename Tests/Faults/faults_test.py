@@ -1,17 +1,18 @@
 """A host in systems where something is missing, broken or in the way: it goes through its guide and ends by itself.
 
-faults_test.py HOST FAULT
+faults_test.py HOST FAULT [QT_PREFIX MODULES PLUGINS PROGRAMS DATA]
 """
 
 import os
 import pathlib
 import resource
+import shutil
 import signal
 import subprocess
 import sys
 import tempfile
 
-host, fault = sys.argv[1:3]
+host, fault, *folders = sys.argv[1:]
 
 
 def expect(holds, failure):
@@ -67,6 +68,31 @@ with tempfile.TemporaryDirectory() as name:
         expect(lines == {"[General]", "KeyOfDidShowGuide=true"} | {f"{letter}{number}={number}" for letter in "ab"
                                                                    for number in range(40)},
                f"the settings hold {sorted(lines)}")
+        sys.exit(0)
+    elif fault in ("NoWebEngine", "BrokenWebEngine", "WebEngine"):
+        # The toolkit as it is but for its web engine, in the same place for all three.
+        prefix, qml, plugins, programs, data = folders
+        modules = pathlib.Path(name) / "modules"
+        modules.mkdir()
+        for module in pathlib.Path(prefix, qml).iterdir():
+            if module.name != "QtWebEngine" or fault == "WebEngine":
+                (modules / module.name).symlink_to(module)
+        if fault == "BrokenWebEngine":
+            (modules / "QtWebEngine").mkdir()
+            (modules / "QtWebEngine/qmldir").write_text("module QtWebEngine\nplugin torn\n", encoding="utf-8")
+            (modules / "QtWebEngine/libtorn.so").write_bytes(b"\x7fELF\x02\x01\x01")
+        shutil.copy(host, name)
+        (pathlib.Path(name) / "qt.conf").write_text(
+            f"[Paths]\nPrefix={prefix}\nQmlImports={modules}\nPlugins={plugins}\nLibraryExecutables={programs}\n"
+            f"Data={data}\n", encoding="utf-8")
+        host = str(pathlib.Path(name) / pathlib.Path(host).name)
+        environment.update({key: os.environ[key] for key in ("DISPLAY", "XAUTHORITY")}, QT_QPA_PLATFORM="xcb",
+                           LIBGL_ALWAYS_SOFTWARE="1", QTWEBENGINE_DISABLE_SANDBOX="1")
+        del environment["QT_QUICK_BACKEND"]
+        result = run("browsing")
+        shown = "sheet" if fault == "WebEngine" else "system https://beian.miit.gov.cn\nno sheet"
+        expect(result.returncode == 0 and result.stdout.strip() == shown,
+               f"{result.returncode} {result.stdout} {result.stderr}")
         sys.exit(0)
     else:
         sys.exit(f"unknown: {fault}")

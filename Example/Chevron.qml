@@ -13,23 +13,27 @@ Item {
     rotation: LayoutMirroring.enabled !== back ? 180 : 0
 
     Stroke {
-        rotation: 45
+        turn: 45
     }
 
     Stroke {
-        rotation: -45
+        turn: -45
     }
 
     component Stroke: Rectangle {
+        id: stroke
+
+        property real turn
         readonly property Chevron arrow: parent as Chevron
 
-        x: arrow.width - width + height * 0.15
+        x: arrow.width - width
         y: arrow.height / 2 - height / 2
         width: arrow.size * 0.72
         height: Math.max(2, arrow.size / 6)
         radius: height / 2
         color: arrow.color
         antialiasing: true
-        transformOrigin: Item.Right
+        // About the tip, which both strokes share.
+        transform: Rotation { origin { x: stroke.width - stroke.radius; y: stroke.radius } angle: stroke.turn }
     }
 }

@@ -23,82 +23,110 @@ FocusScope {
         }
     }
 
-    Column {
-        anchors { horizontalCenter: parent.horizontalCenter; verticalCenter: parent.verticalCenter; verticalCenterOffset: -24 }
-        width: Math.min(parent.width - 2 * Theme.margin, Theme.widest)
-        spacing: 8
+    // Scrolls where a large text or a low window leaves too little room.
+    Flickable {
+        id: page
 
-        Image {
+        readonly property real room: 3 * Theme.margin
+
+        anchors.fill: parent
+        contentHeight: Math.max(height, room + identity.height + room + more.height + room)
+        boundsBehavior: Flickable.StopAtBounds
+        interactive: contentHeight > height
+        ScrollIndicator.vertical: ScrollIndicator {}
+
+        Column {
+            id: identity
+
             anchors.horizontalCenter: parent.horizontalCenter
-            width: 108
-            height: 108
-            source: root.iconSource
-            mipmap: true
-            Accessible.ignored: true
-        }
+            y: Math.min((page.contentHeight - height) / 2 - 24, more.y - page.room - height)
+            width: Math.min(parent.width - 2 * Theme.margin, Theme.widest)
+            spacing: 8
 
-        Item { width: 1; height: 8 }
+            Image {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: 108
+                height: 108
+                source: root.iconSource
+                mipmap: true
+                Accessible.ignored: true
+            }
 
-        Text {
-            width: parent.width
-            horizontalAlignment: Text.AlignHCenter
-            text: TQApp.name
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
-            maximumLineCount: 2
-            wrapMode: Text.Wrap
-            font { pixelSize: 34; weight: Font.DemiBold }
-            color: Theme.text
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
-        }
+            Item { width: 1; height: 8 }
 
-        Text {
-            width: parent.width
-            horizontalAlignment: Text.AlignHCenter
-            text: TQMore.versionText
-            textFormat: Text.PlainText
-            wrapMode: Text.Wrap
-            font.pixelSize: 15
-            color: Theme.secondaryText
-        }
-    }
+            Text {
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                text: TQApp.name
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                maximumLineCount: 2
+                wrapMode: Text.Wrap
+                font { pixelSize: 2 * Theme.textSize; weight: Font.DemiBold }
+                color: Theme.text
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
 
-    AbstractButton {
-        id: more
-
-        anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: 48 }
-        width: Math.min(parent.width - 4 * Theme.margin, 320)
-        height: 52
-        focus: true
-        focusPolicy: Qt.StrongFocus
-        text: qsTr("More")
-        Accessible.name: text
-        Keys.onReturnPressed: more.clicked()
-        Keys.onEnterPressed: more.clicked()
-        onClicked: root.moreRequested()
-
-        background: Rectangle {
-            radius: height / 2
-            color: root.tint
-            opacity: more.down ? 0.75 : 1
-
-            Rectangle {
-                visible: more.visualFocus
-                anchors { fill: parent; margins: -4 }
-                radius: height / 2
-                color: "transparent"
-                border { width: 2; color: root.tint }
+            Text {
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                text: TQMore.versionText
+                textFormat: Text.PlainText
+                wrapMode: Text.Wrap
+                font.pixelSize: Math.round(0.88 * Theme.textSize)
+                color: Theme.secondaryText
             }
         }
 
-        contentItem: Text {
-            text: more.text
-            textFormat: Text.PlainText
-            horizontalAlignment: Text.AlignHCenter
-            verticalAlignment: Text.AlignVCenter
-            font { pixelSize: 17; weight: Font.DemiBold }
-            color: root.app.tintColor.textColor(Theme.dark)
+        AbstractButton {
+            id: more
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: page.contentHeight - page.room - height
+            width: Math.min(parent.width - 4 * Theme.margin, 320)
+            height: Math.max(52, implicitContentHeight + 2 * Theme.margin)
+            focus: true
+            focusPolicy: Qt.StrongFocus
+            text: qsTr("More")
+            Accessible.name: text
+            // The only control has the focus already, so that the key cannot bring it.
+            Keys.onTabPressed: more.focusReason = Qt.TabFocusReason
+            Keys.onBacktabPressed: more.focusReason = Qt.BacktabFocusReason
+            Keys.onReturnPressed: press()
+            Keys.onEnterPressed: press()
+            onVisualFocusChanged: if (visualFocus) page.contentY = page.contentHeight - page.height
+            onClicked: root.moreRequested()
+
+            function press() {
+                focusReason = Qt.TabFocusReason;
+                clicked();
+            }
+
+            background: Rectangle {
+                radius: height / 2
+                color: root.tint
+                opacity: more.down ? 0.75 : 1
+
+                Rectangle {
+                    visible: more.visualFocus
+                    anchors { fill: parent; margins: -4 }
+                    radius: height / 2
+                    color: "transparent"
+                    border { width: 2; color: root.app.tintColor.legibleOn(Theme.ground, Theme.dark) }
+                }
+            }
+
+            contentItem: Text {
+                text: more.text
+                textFormat: Text.PlainText
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 11
+                font { pixelSize: Theme.textSize; weight: Font.DemiBold }
+                color: root.app.tintColor.textColor(Theme.dark)
+            }
         }
     }
 }

@@ -53,7 +53,11 @@ ApplicationWindow {
         visible: !root.backgroundOnly
         focus: true
         initialItem: homeScreen
-        onCurrentItemChanged: if (currentItem) currentItem.forceActiveFocus()
+        // Marked where the keyboard led to it.
+        onCurrentItemChanged: {
+            const button = root.activeFocusControl as AbstractButton;
+            currentItem?.forceActiveFocus(button?.visualFocus ? Qt.TabFocusReason : Qt.OtherFocusReason);
+        }
     }
 
     HomeScreen {

@@ -5,6 +5,7 @@ import QtQuick.Controls.Basic
 AbstractButton {
     id: root
 
+    required property color tint
     property bool last: false
 
     horizontalPadding: Theme.margin
@@ -23,7 +24,8 @@ AbstractButton {
         Rectangle {
             anchors { fill: parent; margins: 4 }
             radius: Theme.corner - 4
-            color: root.down || root.visualFocus ? Theme.pressed : "transparent"
+            color: root.down ? Theme.pressed : "transparent"
+            border { width: root.visualFocus ? 2 : 0; color: root.tint }
         }
 
         Rectangle {
@@ -35,19 +37,21 @@ AbstractButton {
     }
 
     contentItem: Text {
-        // Room for the chevron.
-        leftPadding: root.mirrored ? 24 : 0
-        rightPadding: root.mirrored ? 0 : 24
+        leftPadding: root.mirrored ? chevron.width + Theme.margin : 0
+        rightPadding: root.mirrored ? 0 : chevron.width + Theme.margin
         text: root.text
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
-        font.pixelSize: 17
+        font.pixelSize: Theme.textSize
         color: Theme.text
     }
 
     Chevron {
+        id: chevron
+
+        size: Theme.textSize * 0.7
         anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
     }
 }

@@ -8,7 +8,7 @@ FocusScope {
 
     required property tqApp app
 
-    readonly property color tint: app.tintColor.resolved(Theme.dark)
+    readonly property color tint: app.tintColor.legibleOn(Theme.ground, Theme.dark)
 
     signal backRequested
 
@@ -19,7 +19,7 @@ FocusScope {
         id: bar
 
         width: parent.width
-        height: 56
+        height: Math.max(56, title.height + Theme.margin)
         z: 1
 
         AbstractButton {
@@ -36,7 +36,8 @@ FocusScope {
 
             background: Rectangle {
                 radius: Theme.corner
-                color: back.down || back.visualFocus ? Theme.pressed : "transparent"
+                color: back.down ? Theme.pressed : "transparent"
+                border { width: back.visualFocus ? 2 : 0; color: root.tint }
             }
 
             contentItem: Item {
@@ -50,13 +51,26 @@ FocusScope {
         }
 
         Text {
+            id: title
+
             anchors.centerIn: parent
+            width: parent.width - 2 * (back.width + 8)
             text: qsTr("More")
             textFormat: Text.PlainText
-            font { pixelSize: 17; weight: Font.DemiBold }
+            horizontalAlignment: Text.AlignHCenter
+            elide: Text.ElideRight
+            font { pixelSize: Theme.textSize; weight: Font.DemiBold }
             color: Theme.text
             Accessible.role: Accessible.Heading
             Accessible.name: text
+        }
+
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: 1
+            visible: !page.atYBeginning
+            color: Theme.separator
         }
     }
 
@@ -94,6 +108,7 @@ FocusScope {
                 }
                 Entry {
                     text: TQMore.feedbackText
+                    tint: root.app.tintColor.legibleOn(Theme.card, Theme.dark)
                     onClicked: TQMore.sendFeedbackEmail(root.app.tintColor, "")
                 }
                 LinkRow {
@@ -133,12 +148,6 @@ FocusScope {
                     width: parent.width
                     height: apps.height + 2 * Theme.margin
 
-                    Rectangle {
-                        anchors { fill: parent; margins: 4 }
-                        radius: Theme.corner - 4
-                        color: apps.activeFocus ? Theme.pressed : "transparent"
-                    }
-
                     TQAppView {
                         id: apps
 
@@ -146,6 +155,13 @@ FocusScope {
                         width: parent.width
                         app: root.app
                         onActiveFocusChanged: if (activeFocus) page.reveal(apps)
+                    }
+
+                    Rectangle {
+                        anchors { fill: parent; margins: 4 }
+                        radius: Theme.corner - 4
+                        color: "transparent"
+                        border { width: apps.activeFocus ? 2 : 0; color: root.tint }
                     }
                 }
             }
@@ -156,7 +172,7 @@ FocusScope {
                 text: TQMore.versionText
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
-                font.pixelSize: 13
+                font.pixelSize: Math.round(0.76 * Theme.textSize)
                 color: Theme.secondaryText
             }
         }
@@ -171,6 +187,7 @@ FocusScope {
         required property string link
         required property tqColor tintColor
 
+        tint: tintColor.legibleOn(Theme.card, Theme.dark)
         onClicked: TQMore.openUrl(link, tintColor)
     }
 }

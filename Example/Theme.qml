@@ -14,9 +14,12 @@ QtObject {
     readonly property color separator: dark ? "#38383a" : "#d8d8dc"
     readonly property color chevron: dark ? "#5a5a5f" : "#c4c4c7"
 
+    // Grows with the text size that the user has chosen in the system.
+    readonly property real textSize: Math.max(17, Math.round(systemText.fontInfo.pixelSize * 1.3))
     readonly property real margin: 16
     readonly property real corner: 12
     readonly property real widest: 620 // of a column of text in a wide window
 
     readonly property SystemPalette system: SystemPalette {}
+    readonly property Text systemText: Text {}
 }

@@ -15,6 +15,8 @@
 #include <QtCore/qtextstream.h>
 #include <QtCore/qtimer.h>
 #include <QtCore/qtranslator.h>
+#include <QtGui/qfont.h>
+#include <QtGui/qfontinfo.h>
 #include <QtGui/qguiapplication.h>
 #include <QtGui/qpalette.h>
 #include <QtQml/qqmlapplicationengine.h>
@@ -37,6 +39,7 @@ struct Options
     QString language;
     bool dark = false;
     QSize size{390, 844};
+    int textSize = 100; // in percent of the system's
     bool resetGuide = false;
     bool backgroundOnly = false;
     bool compose = false;
@@ -106,6 +109,9 @@ Options parseOptions(const QStringList &arguments)
     const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Dark appearance."));
     const QCommandLineOption size(QStringLiteral("size"), QStringLiteral("The window's size in points."),
                                   QStringLiteral("widthxheight"), QStringLiteral("390x844"));
+    const QCommandLineOption textSize(QStringLiteral("text-size"),
+                                      QStringLiteral("The text's size in percent of the system's."),
+                                      QStringLiteral("percent"), QStringLiteral("100"));
     const QCommandLineOption resetGuide(QStringLiteral("reset-guide"),
                                         QStringLiteral("Show the app's guide again, as on the first launch."));
     const QCommandLineOption backgroundOnly(QStringLiteral("background-only"),
@@ -117,7 +123,8 @@ Options parseOptions(const QStringList &arguments)
                                    QStringLiteral("Walk through the screens off-screen and write pictures."),
                                    QStringLiteral("folder"));
     QCommandLineParser parser;
-    parser.addOptions({app, storefront, language, dark, size, resetGuide, backgroundOnly, compose, openBrowser, shots});
+    parser.addOptions(
+        {app, storefront, language, dark, size, textSize, resetGuide, backgroundOnly, compose, openBrowser, shots});
     const QCommandLineOption help = parser.addHelpOption();
     if (!parser.parse(arguments))
         refuse(parser.errorText());
@@ -135,6 +142,9 @@ Options parseOptions(const QStringList &arguments)
     if (!windowSize)
         refuse(QStringLiteral("'%1' is no window size").arg(parser.value(size)));
     options.size = *windowSize;
+    options.textSize = parser.value(textSize).toInt();
+    if (options.textSize < 50 || options.textSize > 400)
+        refuse(QStringLiteral("'%1' is no text size from 50 to 400").arg(parser.value(textSize)));
     if (parser.value(storefront) != u"none")
         options.storefront = parser.value(storefront);
     options.language = parser.value(language);
@@ -286,6 +296,11 @@ int main(int argc, char *argv[])
     if (options.resetGuide)
         platform().setUserDefault(QStringLiteral("KeyOfDidShowGuide"), false);
 
+    if (options.textSize != 100) {
+        QFont font = QGuiApplication::font();
+        font.setPointSizeF(QFontInfo(font).pointSizeF() * options.textSize / 100);
+        QGuiApplication::setFont(font);
+    }
     if (options.dark)
         QGuiApplication::setPalette(darkPalette());
     QGuiApplication::setLayoutDirection(QLocale().textDirection());

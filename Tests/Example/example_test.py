@@ -67,7 +67,7 @@ with tempfile.TemporaryDirectory() as name:
     if more_picture("alder", "CHN") != more_picture("alder", "USA"):
         failures.append("an app without a filing differs by storefront")
 
-    for options in (["--app", "oak"], ["--size", "10x10"], ["--size", "huge"], ["--nonsense"], ["--shots", ""], ["--open-browser", ""], ["--open-browser", "http://[1"]):
+    for options in (["--app", "oak"], ["--size", "10x10"], ["--size", "huge"], ["--text-size", "10"], ["--text-size", "large"], ["--nonsense"], ["--shots", ""], ["--open-browser", ""], ["--open-browser", "http://[1"]):
         result = run(*options, folder=folder)
         if result.returncode != 2 or not result.stderr.startswith("Grove: "):
             failures.append(f"{options}: {result.returncode} {result.stderr}")

@@ -96,7 +96,7 @@ TQGuideView {
         // That there is more to read.
         Rectangle {
             anchors { left: scroller.left; right: scroller.right; bottom: scroller.bottom }
-            height: root.margin
+            height: Math.max(root.margin, 1.2 * root.textSize)
             visible: root.ground.a === 1 && scroller.interactive && !scroller.atYEnd
             gradient: Gradient {
                 GradientStop { position: 0; color: Qt.rgba(root.ground.r, root.ground.g, root.ground.b, 0) }
@@ -189,12 +189,12 @@ TQGuideView {
             color: arrow.color
 
             Barb {
-                rotation: 45
+                turn: 45
                 color: arrow.color
             }
 
             Barb {
-                rotation: -45
+                turn: -45
                 color: arrow.color
             }
         }
@@ -202,11 +202,15 @@ TQGuideView {
 
     // Half of the head, turned about the tip.
     component Barb: Rectangle {
+        id: barb
+
+        property real turn
+
         anchors { right: parent.right; verticalCenter: parent.verticalCenter }
         width: 13
         height: 3
         radius: 1.5
         antialiasing: true
-        transformOrigin: Item.Right
+        transform: Rotation { origin { x: barb.width - barb.radius; y: barb.radius } angle: barb.turn }
     }
 }

@@ -92,14 +92,14 @@ Sheet {
                         color: root.tint
                         anchors.centerIn: parent
                         length: 20
-                        rotation: 45
+                        turn: 45
                     }
 
                     Stroke {
                         color: root.tint
                         anchors.centerIn: parent
                         length: 20
-                        rotation: -45
+                        turn: -45
                     }
                 }
             }
@@ -122,20 +122,20 @@ Sheet {
 
                     Stroke {
                         color: root.tint
-                        x: 16
+                        x: 15
                         y: 21
-                        length: 13
-                        transformOrigin: Item.Left
-                        rotation: 45
+                        length: 14
+                        pivot: 1
+                        turn: 45
                     }
 
                     Stroke {
                         color: root.tint
-                        x: 16
+                        x: 15
                         y: 21
-                        length: 13
-                        transformOrigin: Item.Left
-                        rotation: -45
+                        length: 14
+                        pivot: 1
+                        turn: -45
                     }
                 }
             }
@@ -147,6 +147,9 @@ Sheet {
                 text: root.page.siteOf(web.url)
                 textFormat: Text.PlainText
                 horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: Math.round(0.7 * root.textSize)
                 // The end of a host's name says whose it is.
                 elide: Text.ElideLeft
                 font { pixelSize: root.textSize; weight: Font.DemiBold }
@@ -191,8 +194,8 @@ Sheet {
                         x: 19
                         y: 13
                         length: 7
-                        transformOrigin: Item.Right
-                        rotation: 45
+                        pivot: 6
+                        turn: 45
                     }
 
                     Stroke {
@@ -200,8 +203,8 @@ Sheet {
                         x: 19
                         y: 13
                         length: 7
-                        transformOrigin: Item.Right
-                        rotation: -45
+                        pivot: 6
+                        turn: -45
                     }
                 }
             }
@@ -309,9 +312,14 @@ Sheet {
                 readonly property bool covers: root.page.problem !== BrowserPage.NoProblem && !(root.page.problem === BrowserPage.Slow && root.hasContent)
 
                 anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-                height: covers ? parent.height : words.height + 2 * root.gap
+                height: covers ? parent.height : Math.min(parent.height, words.height + 2 * root.gap)
                 visible: root.page.problem !== BrowserPage.NoProblem
                 color: covers || !root.dark ? root.ground : "#2c2c2e"
+                // Where the page was, the keys are for its replacement.
+                onVisibleChanged: {
+                    if (visible && covers && !close.activeFocus && !reload.activeFocus)
+                        again.forceActiveFocus();
+                }
                 Accessible.role: Accessible.AlertMessage
                 Accessible.name: root.page.problemText
 
@@ -322,32 +330,45 @@ Sheet {
                     color: root.line
                 }
 
-                Column {
-                    id: words
+                Flickable {
+                    id: scroller
 
-                    anchors.centerIn: parent
-                    width: Math.min(parent.width - 2 * root.gap, 26 * root.textSize)
-                    spacing: notice.covers ? 12 : 0
+                    anchors.fill: parent
+                    contentHeight: Math.max(height, words.height + 2 * root.gap)
+                    boundsBehavior: Flickable.StopAtBounds
+                    interactive: contentHeight > height
+                    clip: interactive
 
-                    Text {
-                        width: parent.width
-                        text: root.page.problemText
-                        textFormat: Text.PlainText
-                        wrapMode: Text.Wrap
-                        horizontalAlignment: Text.AlignHCenter
-                        font.pixelSize: root.textSize
-                        color: root.ink
-                    }
+                    Column {
+                        id: words
 
-                    SheetButton {
-                        anchors.horizontalCenter: parent.horizontalCenter
-                        width: Math.min(implicitWidth, parent.width)
-                        text: root.page.againText
-                        textSize: root.textSize
-                        strong: true
-                        tint: root.page.tint.legibleOn(notice.color, root.dark)
-                        pressedGround: root.pressed
-                        onClicked: root.load()
+                        anchors.centerIn: parent
+                        width: Math.min(parent.width - 2 * root.gap, 26 * root.textSize)
+                        spacing: notice.covers ? 12 : 0
+
+                        Text {
+                            width: parent.width
+                            text: root.page.problemText
+                            textFormat: Text.PlainText
+                            wrapMode: Text.Wrap
+                            horizontalAlignment: Text.AlignHCenter
+                            font.pixelSize: root.textSize
+                            color: root.ink
+                        }
+
+                        SheetButton {
+                            id: again
+
+                            anchors.horizontalCenter: parent.horizontalCenter
+                            width: Math.min(implicitWidth, parent.width)
+                            text: root.page.againText
+                            textSize: root.textSize
+                            strong: true
+                            tint: root.page.tint.legibleOn(notice.color, root.dark)
+                            pressedGround: root.pressed
+                            onActiveFocusChanged: if (activeFocus) scroller.contentY = scroller.contentHeight - scroller.height
+                            onClicked: root.load()
+                        }
                     }
                 }
             }
@@ -360,11 +381,16 @@ Sheet {
     }
 
     component Stroke: Rectangle {
+        id: stroke
+
         property real length
+        property real turn
+        property real pivot: length / 2 // what it is turned about: the middle, or the centre of a round end
 
         width: length
         height: 2
         radius: 1
         antialiasing: true
+        transform: Rotation { origin { x: stroke.pivot; y: 1 } angle: stroke.turn }
     }
 }

@@ -10,7 +10,6 @@ Sheet {
     required property MailDraft page
 
     readonly property color tint: page.tint.legibleOn(ground, dark)
-    readonly property color danger: dark ? "#ff8a80" : "#b3261e"
 
     onOpened: message.forceActiveFocus()
 
@@ -18,6 +17,7 @@ Sheet {
         target: root.page
 
         function onDiscardQuestioned() {
+            question.askedByKeys = !cancel.activeFocus || cancel.visualFocus;
             question.open();
         }
 
@@ -40,7 +40,8 @@ Sheet {
         Item {
             id: bar
 
-            readonly property real roomForButton: (width - root.gap) / 2
+            // Of the buttons, where their texts are too long to stand beside each other.
+            readonly property real shrinkage: Math.min(1, (width - root.gap) / (cancel.implicitWidth + send.implicitWidth))
 
             width: parent.width
             height: Math.max(56, cancel.height + 12)
@@ -49,7 +50,7 @@ Sheet {
                 id: cancel
 
                 anchors { left: parent.left; leftMargin: root.gap - leftPadding; verticalCenter: parent.verticalCenter }
-                width: Math.min(implicitWidth, bar.roomForButton)
+                width: implicitWidth * bar.shrinkage
                 text: root.page.cancelText
                 textSize: root.textSize
                 tint: root.tint
@@ -58,13 +59,25 @@ Sheet {
                 onClicked: root.page.cancel()
             }
 
+            // In the middle of the bar, or of what the buttons leave of it; not where it would hardly be seen.
             Text {
-                anchors.centerIn: parent
-                width: bar.width - 2 * Math.max(cancel.width, send.width) - 2 * root.gap
-                visible: width > 3 * root.textSize
+                id: title
+
+                readonly property bool fits: implicitWidth <= bar.width - 2 * Math.max(cancel.width, send.width)
+
+                anchors {
+                    left: cancel.right
+                    leftMargin: fits ? Math.max(0, send.width - cancel.width) : 0
+                    right: send.left
+                    rightMargin: fits ? Math.max(0, cancel.width - send.width) : 0
+                    verticalCenter: parent.verticalCenter
+                }
+                visible: implicitWidth < 1.25 * width
                 text: root.page.isSending ? root.page.sendingText : root.page.titleText
                 textFormat: Text.PlainText
                 horizontalAlignment: Text.AlignHCenter
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 11
                 elide: Text.ElideRight
                 font { pixelSize: root.textSize; weight: Font.DemiBold }
                 color: root.ink
@@ -76,7 +89,7 @@ Sheet {
                 id: send
 
                 anchors { right: parent.right; rightMargin: root.gap - rightPadding; verticalCenter: parent.verticalCenter }
-                width: Math.min(implicitWidth, bar.roomForButton)
+                width: implicitWidth * bar.shrinkage
                 text: root.page.sendText
                 textSize: root.textSize
                 strong: true
@@ -236,6 +249,8 @@ Sheet {
                         selectByMouse: true
                         readOnly: root.page.isSending
                         onTextEdited: root.page.subject = text
+                        // A long one shows its beginning unless it is being written.
+                        autoScroll: activeFocus
                         onActiveFocusChanged: if (activeFocus) scroller.reveal(subject, Qt.rect(0, 0, width, height))
                         Accessible.name: root.page.subjectText
                     }
@@ -256,6 +271,8 @@ Sheet {
                         bottomPadding: root.gap + (more.visible ? more.height + root.gap : 0)
                         textFormat: TextEdit.RichText
                         wrapMode: TextEdit.Wrap
+                        // Every paragraph lies as it is read; while there is none, the cursor stands where the language begins.
+                        horizontalAlignment: length === 0 ? TextEdit.AlignLeft : undefined
                         font.pixelSize: root.textSize
                         color: root.page.hasColors ? "#000000" : root.ink
                         selectionColor: root.tint
@@ -316,15 +333,17 @@ Sheet {
         T.Popup {
             id: question
 
-            width: Math.min(parent.width - 2 * root.gap, 22 * root.textSize)
-            height: keep.y + keep.height + 2 * padding
+            property bool askedByKeys: false
+
+            width: Math.min(parent.width - 2 * root.gap, 26 * root.textSize)
+            height: Math.min(parent.height - 2 * root.gap, keep.y + keep.height + 2 * padding)
             x: Math.round((parent.width - width) / 2)
             y: Math.round((parent.height - height) / 2)
             padding: root.gap
             modal: true
             focus: true
             closePolicy: T.Popup.CloseOnEscape
-            onOpened: keep.forceActiveFocus()
+            onOpened: keep.forceActiveFocus(askedByKeys ? Qt.TabFocusReason : Qt.OtherFocusReason)
             onClosed: message.forceActiveFocus()
 
             T.Overlay.modal: Rectangle {
@@ -336,8 +355,14 @@ Sheet {
                 color: root.dark ? "#2c2c2e" : "#ffffff"
             }
 
-            Item {
+            Flickable {
+                id: answers
+
                 anchors.fill: parent
+                contentHeight: keep.y + keep.height
+                boundsBehavior: Flickable.StopAtBounds
+                interactive: contentHeight > height
+                clip: interactive
                 LayoutMirroring.enabled: root.rightToLeft
                 LayoutMirroring.childrenInherit: true
                 Accessible.role: Accessible.AlertMessage
@@ -346,7 +371,7 @@ Sheet {
                 Text {
                     id: asked
 
-                    width: parent.width
+                    width: question.availableWidth
                     text: root.page.discardQuestion
                     textFormat: Text.PlainText
                     wrapMode: Text.Wrap
@@ -362,8 +387,9 @@ Sheet {
                     width: parent.width
                     text: root.page.discardText
                     textSize: root.textSize
-                    tint: root.danger
+                    tint: root.alert
                     pressedGround: root.pressed
+                    onActiveFocusChanged: if (activeFocus) answers.contentY = Math.min(y, answers.contentHeight - answers.height)
                     onClicked: root.page.discard()
                 }
 
@@ -377,6 +403,7 @@ Sheet {
                     strong: true
                     tint: root.page.tint.legibleOn(root.dark ? "#2c2c2e" : "#ffffff", root.dark)
                     pressedGround: root.pressed
+                    onActiveFocusChanged: if (activeFocus) answers.contentY = answers.contentHeight - answers.height
                     onClicked: question.close()
                 }
             }

@@ -237,6 +237,7 @@ Sheet {
 
                 anchors.fill: parent
                 visible: !notice.covers
+                Accessible.ignored: notice.covers
                 profile: root.forgetful
                 // As a page that says nothing of its colours expects it.
                 backgroundColor: "#ffffff"
@@ -315,9 +316,10 @@ Sheet {
                 height: covers ? parent.height : Math.min(parent.height, words.height + 2 * root.gap)
                 visible: root.page.problem !== BrowserPage.NoProblem
                 color: covers || !root.dark ? root.ground : "#2c2c2e"
-                // Where the page was, the keys are for its replacement.
-                onVisibleChanged: {
-                    if (visible && covers && !close.activeFocus && !reload.activeFocus)
+                // The keys that the page had are for what stands in its place.
+                readonly property bool replaces: visible && covers
+                onReplacesChanged: {
+                    if (replaces && !close.activeFocus && !reload.activeFocus)
                         again.forceActiveFocus();
                 }
                 Accessible.role: Accessible.AlertMessage
@@ -366,6 +368,7 @@ Sheet {
                             strong: true
                             tint: root.page.tint.legibleOn(notice.color, root.dark)
                             pressedGround: root.pressed
+                            Accessible.description: root.page.problemText
                             onActiveFocusChanged: if (activeFocus) scroller.contentY = scroller.contentHeight - scroller.height
                             onClicked: root.load()
                         }

@@ -20,16 +20,12 @@ Sheet {
             question.askedByKeys = !cancel.activeFocus || cancel.visualFocus;
             question.open();
         }
-
-        function onStateChanged() {
-            if (root.page.problem)
-                scroller.contentY = 0;
-        }
     }
 
     FocusScope {
         anchors.fill: parent
         focus: true
+        enabled: !question.visible
         LayoutMirroring.enabled: root.rightToLeft
         LayoutMirroring.childrenInherit: true
         Accessible.role: Accessible.Dialog
@@ -156,12 +152,22 @@ Sheet {
 
                 // Why the mail was not sent.
                 Rectangle {
+                    id: failure
+
                     width: parent.width
                     height: reasons.height + 2 * root.gap
-                    visible: root.page.problem !== ""
+                    visible: root.page.problem !== "" && !root.page.isSending
+                    // Seen, and read out as what the focus is on.
+                    onVisibleChanged: {
+                        if (!visible)
+                            return;
+                        scroller.contentY = 0;
+                        again.forceActiveFocus(send.visualFocus || again.visualFocus ? Qt.TabFocusReason : Qt.OtherFocusReason);
+                    }
                     color: root.dark ? "#3b2426" : "#fdeceb"
                     Accessible.role: Accessible.AlertMessage
                     Accessible.name: root.page.problem
+                    Accessible.description: root.page.problemDetail
 
                     Column {
                         id: reasons
@@ -195,6 +201,8 @@ Sheet {
                         }
 
                         SheetButton {
+                            id: again
+
                             anchors.left: parent.left
                             anchors.leftMargin: -leftPadding
                             width: Math.min(implicitWidth, parent.width)
@@ -203,6 +211,7 @@ Sheet {
                             strong: true
                             tint: root.page.tint.legibleOn(root.dark ? "#3b2426" : "#fdeceb", root.dark)
                             pressedGround: root.pressed
+                            Accessible.description: root.page.problem
                             onClicked: root.page.send()
                         }
                     }
@@ -224,7 +233,7 @@ Sheet {
                         font.pixelSize: root.textSize
                         color: root.ink
                         Accessible.role: Accessible.StaticText
-                        Accessible.name: text
+                        Accessible.name: root.page.toText + " " + text
                     }
                 }
 
@@ -307,6 +316,8 @@ Sheet {
                             horizontalAlignment: Text.AlignLeft
                             font.pixelSize: Math.round(root.textSize * 0.85)
                             color: root.quietInk
+                            Accessible.role: Accessible.StaticText
+                            Accessible.name: text
                         }
 
                         // Would paste what the user has selected elsewhere, with its images and styles.
@@ -403,6 +414,7 @@ Sheet {
                     strong: true
                     tint: root.page.tint.legibleOn(root.dark ? "#2c2c2e" : "#ffffff", root.dark)
                     pressedGround: root.pressed
+                    Accessible.description: root.page.discardQuestion
                     onActiveFocusChanged: if (activeFocus) answers.contentY = answers.contentHeight - answers.height
                     onClicked: question.close()
                 }

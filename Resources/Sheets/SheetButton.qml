@@ -16,6 +16,10 @@ T.AbstractButton {
     verticalPadding: 6
     focusPolicy: Qt.StrongFocus
     Accessible.name: text
+    Accessible.onPressAction: {
+        if (enabled)
+            clicked();
+    }
     Keys.onReturnPressed: event => press(event)
     Keys.onEnterPressed: event => press(event)
 

@@ -1,5 +1,6 @@
 #include "GuideHost.h"
 #include "Languages.h"
+#include "Layout.h"
 #include "ScreenReader.h"
 
 #include <TQFoundation/TQApp.h>
@@ -191,6 +192,28 @@ TEST_F(GuideNib, TwiceTheTextSizeIsShownTwiceAsLargeAndStillFits)
     EXPECT_TRUE(QRectF(0, 0, 320, 568).contains(sceneRect(large->nextButton())));
 }
 
+TEST_F(GuideNib, IsWholeInWindowsThatAreResizedAtEveryTextSize)
+{
+    const QSize sizes[] = {{320, 568}, {1280, 800}, {390, 844}, {240, 240}, {820, 1180}};
+    for (const double points : {9.0, 18.0}) {
+        QFont font = QGuiApplication::font();
+        font.setPointSizeF(points);
+        QGuiApplication::setFont(font);
+        for (const QString &paragraph : TQApp(TQApp::hazel).guideText()) {
+            platform->bounds = {1600, 1600};
+            const auto guide = shown({paragraph});
+            clock.pass(600);
+            for (const QSize size : sizes) {
+                window.resize(size);
+                QCoreApplication::processEvents();
+                window.grabWindow();
+                EXPECT_EQ(Testing::Layout::flawsOf(guide.get()), QStringList()) << size.width();
+            }
+            guide->setParentItem(nullptr);
+        }
+    }
+}
+
 TEST_F(GuideNib, LinesStayReadableInAWideWindow)
 {
     const auto guide = shownIn({2560, 1440}, longText());
@@ -349,6 +372,15 @@ TEST_F(GuideNib, HasNamesAndRolesForAssistiveTechnology)
     EXPECT_EQ(button->text(QAccessible::Name), QStringLiteral("Next"));
     EXPECT_EQ(button->text(QAccessible::Description), QStringLiteral("Paragraph 0"));
     EXPECT_TRUE(button->state().focused);
+}
+
+TEST_F(GuideNib, AssistiveTechnologyFindsTheParagraphAndTheButton)
+{
+    const ScreenReader reader;
+    const auto guide = shown(paragraphs(2));
+    clock.pass(600);
+    EXPECT_EQ(reader.tree(guide.get()),
+              "Dialog '' focused\n StaticText 'Paragraph 0' focusable read only\n Button 'Next' focusable focused");
 }
 
 TEST_F(GuideNib, AssistiveTechnologyCanPressTheButton)

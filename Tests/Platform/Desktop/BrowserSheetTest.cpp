@@ -1,3 +1,6 @@
+#include "Languages.h"
+#include "Layout.h"
+#include "ScreenReader.h"
 #include "SheetHost.h"
 
 #include <QtCore/qdir.h>
@@ -12,6 +15,9 @@
 
 namespace TQFoundation {
 namespace {
+
+using Testing::Layout;
+using Testing::ScreenReader;
 
 class BrowserSheet : public Testing::SheetHost
 {
@@ -198,6 +204,7 @@ TEST_F(BrowserSheet, TryAgainLoadsThePageOnceMore)
     EXPECT_TRUE(isTitled("there"));
     EXPECT_FALSE(isProblemShown());
     EXPECT_TRUE(web()->isVisible());
+    EXPECT_TRUE(web()->hasActiveFocus()) << "and has the keys";
 }
 
 TEST_F(BrowserSheet, ACertificateThatNobodySignedIsNotAccepted)
@@ -426,6 +433,83 @@ TEST_F(BrowserSheet, WhereTheSheetCannotBeMadeThePageIsHandedToTheSystem)
     EXPECT_FALSE(isShown());
     EXPECT_TRUE(platform->calls.contains(QString(u"openUrl(" + plain + u')')));
 }
+
+TEST_F(BrowserSheet, WithoutAPageTheKeysAreForTryingAgain)
+{
+    load(secure);
+    EXPECT_TRUE(button("Try Again")->hasActiveFocus());
+    QStringList stops;
+    for (int press = 0; press < 3; ++press) {
+        QTest::keyClick(static_cast<QWindow *>(window.get()), Qt::Key_Tab);
+        EXPECT_TRUE(window->activeFocusItem()->property("visualFocus").toBool());
+        stops += window->activeFocusItem()->property("text").toString();
+    }
+    EXPECT_EQ(stops.join(u' '), QStringLiteral("Close Reload Try Again"));
+    QTest::keyClick(static_cast<QWindow *>(window.get()), Qt::Key_Backtab);
+    EXPECT_TRUE(button("Reload")->hasActiveFocus());
+    QTest::keyClick(static_cast<QWindow *>(window.get()), Qt::Key_Space);
+    EXPECT_FALSE(button("Reload")->hasActiveFocus());
+    EXPECT_TRUE(comes([this] { return isProblemShown() && button("Try Again")->hasActiveFocus(); })) << "once more";
+}
+
+TEST_F(BrowserSheet, AssistiveTechnologyFindsEveryPartByItsRoleAndName)
+{
+    const ScreenReader reader;
+    load(secure);
+    const std::string site = secure.mid(8).toStdString();
+    EXPECT_EQ(reader.tree(Layout::popupOf(button("Close"))),
+              "Dialog '' focused\n Dialog '" + site + R"(' focused
+  Button 'Close' focusable
+  Button 'Back' focusable
+  Heading ')" + site
+                  + R"('
+  Button 'Reload' focusable
+  AlertMessage 'The connection to this site is not secure, so the page was not opened.'
+   Button 'Try Again' focusable focused)");
+    EXPECT_EQ(reader.describes(button("Try Again"))->text(QAccessible::Description),
+              QStringLiteral("The connection to this site is not secure, so the page was not opened."));
+    reader.press(button("Back"));
+    EXPECT_TRUE(isProblemShown()) << "is off";
+    reader.press(button("Close"));
+    EXPECT_FALSE(isShown());
+}
+
+// In languages with long words, with dense writing and from the right.
+class BrowserSheetIn : public BrowserSheet, public testing::WithParamInterface<const char *>
+{
+protected:
+    BrowserSheetIn() { Testing::useLanguage(GetParam()); }
+};
+
+TEST_P(BrowserSheetIn, IsWholeInWindowsThatAreResizedAtEveryTextSize)
+{
+    const QSize sizes[] = {{320, 568}, {1280, 800}, {390, 844}, {240, 240}, {820, 1180}};
+    for (const double points : {9.0, 18.0}) {
+        QFont font = QGuiApplication::font();
+        font.setPointSizeF(points);
+        QGuiApplication::setFont(font);
+        browse(secure);
+        const QQuickItem *const page = web();
+        ASSERT_TRUE(comes([page] { return !page->isVisible(); }));
+        settle();
+        const QQuickItem *const sheet = Layout::popupOf(window->activeFocusItem());
+        for (const QSize size : sizes) {
+            window->resize(size);
+            settle();
+            window->grabWindow();
+            // Of a long address the beginning goes.
+            QStringList flaws = Layout::flawsOf(sheet);
+            flaws.removeIf(
+                [this](const QString &flaw) { return flaw.contains(secure.mid(8)) && flaw.endsWith(u"cut"); });
+            EXPECT_EQ(flaws, QStringList()) << size.width();
+        }
+        root->dismiss();
+        slide();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, BrowserSheetIn, testing::Values("en", "de", "zh-Hans", "ar"),
+                         [](const auto &language) { return std::string(language.param).substr(0, 2); });
 
 TEST_F(BrowserSheet, TheFilingSiteTakesAllTheStepsInTheirOrder)
 {

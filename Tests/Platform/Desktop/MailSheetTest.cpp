@@ -1,4 +1,6 @@
 #include "Languages.h"
+#include "Layout.h"
+#include "ScreenReader.h"
 #include "SheetHost.h"
 
 #include <QtCore/qjsonarray.h>
@@ -20,6 +22,8 @@ namespace TQFoundation {
 namespace {
 
 using Result = ViewController::MailComposeResult;
+using Testing::Layout;
+using Testing::ScreenReader;
 
 class MailSheet : public Testing::SheetHost
 {
@@ -78,6 +82,26 @@ protected:
         for (const char *letter = text; *letter; ++letter)
             QTest::keyClick(static_cast<QWindow *>(window.get()), *letter);
         settle();
+    }
+
+    void press(Qt::Key key)
+    {
+        QTest::keyClick(static_cast<QWindow *>(window.get()), key);
+        settle();
+    }
+
+    // What has the focus after each press of a key, until it comes round. Buttons have to show it.
+    std::string tabStops(Qt::Key key)
+    {
+        QStringList stops;
+        const QQuickItem *const start = window->activeFocusItem();
+        do {
+            press(key);
+            const QQuickItem *const item = window->activeFocusItem();
+            EXPECT_TRUE(!item->inherits("QQuickAbstractButton") || item->property("visualFocus").toBool());
+            stops += item == message() ? QStringLiteral("text") : item->property("text").toString();
+        } while (window->activeFocusItem() != start && stops.size() < 20);
+        return stops.join(QStringLiteral(", ")).toStdString();
     }
 
     bool sendAndWait()
@@ -279,6 +303,7 @@ TEST_F(MailSheet, SaysInWordsWhyTheProgramFailed)
         ASSERT_TRUE(comes([this] { return isProblemShown() && !text("Sending…"); }));
         EXPECT_TRUE(text(words)) << code;
         EXPECT_TRUE(text("the  reason")) << "what the program said last, without control characters";
+        window->grabWindow(); // lays it out
     }
 }
 
@@ -546,15 +571,148 @@ TEST_F(MailSheet, IsMirroredForLanguagesThatAreReadFromTheRight)
     EXPECT_LT(field->mapToScene({field->width(), 0}).x(), 380 - 30) << "its label is on the right";
 }
 
-TEST_F(MailSheet, AssistiveTechnologyHasANameForEverything)
+TEST_F(MailSheet, TheTabKeyLeadsThroughItInTheOrderOfReadingAndMarksWhereItIs)
 {
+    makeProgram("exit 75");
     compose();
-    for (QQuickItem *item : {button("Cancel"), button("Send"), subject(), message()}) {
-        const QAccessibleInterface *const interface = QAccessible::queryAccessibleInterface(item);
-        ASSERT_TRUE(interface);
-        EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty());
+    EXPECT_EQ(tabStops(Qt::Key_Tab), "Cancel, Send, Contact: Hazel Grid 2.3.1(57), text");
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_EQ(tabStops(Qt::Key_Tab), "Contact: Hazel Grid 2.3.1(57), text, Cancel, Send, Try Again");
+    EXPECT_EQ(tabStops(Qt::Key_Backtab), "Send, Cancel, text, Contact: Hazel Grid 2.3.1(57), Try Again");
+    type(message(), "x");
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(button("Keep Writing")->property("visualFocus").toBool()) << "asked by a key, answered by a key";
+    EXPECT_EQ(tabStops(Qt::Key_Tab), "Discard, Keep Writing");
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(message()->hasActiveFocus());
+    click(button("Cancel"));
+    EXPECT_FALSE(button("Keep Writing")->property("visualFocus").toBool());
+    press(Qt::Key_Backtab);
+    press(Qt::Key_Space);
+    EXPECT_FALSE(isShown());
+}
+
+TEST_F(MailSheet, AFailureTakesTheFocusSoThatItIsReadOut)
+{
+    const ScreenReader reader;
+    makeProgram("exit 75");
+    compose();
+    ASSERT_TRUE(sendAndWait());
+    QQuickItem *const again = button("Try Again");
+    EXPECT_TRUE(again->hasActiveFocus());
+    EXPECT_EQ(reader.describes(again)->text(QAccessible::Description),
+              QStringLiteral("The mail server cannot be reached. Check your connection and try again."));
+}
+
+TEST_F(MailSheet, AssistiveTechnologyFindsEveryPartByItsRoleAndName)
+{
+    const ScreenReader reader;
+    compose();
+    EXPECT_EQ(reader.tree(Layout::popupOf(button("Send"))), R"(Dialog '' focused
+ Dialog 'New Message' focused
+  Button 'Cancel' focusable
+  Heading 'New Message'
+  Button 'Send' focusable
+  StaticText 'To: support@tqstudio.example' focusable read only
+  EditableText 'Subject:' focusable
+  EditableText 'Message' focusable focused)");
+}
+
+TEST_F(MailSheet, AssistiveTechnologyFindsWhatBecomesOfTheMail)
+{
+    const ScreenReader reader;
+    makeProgram("cat > /dev/null; exit 75");
+    compose();
+    QQuickItem *const sheet = Layout::popupOf(button("Send"));
+    reader.press(button("Send"));
+    EXPECT_EQ(reader.tree(sheet), R"(Dialog '' focused
+ Dialog 'New Message' focused
+  Button 'Cancel' focusable
+  Heading 'Sending…'
+  Button 'Send' focusable
+  ProgressBar 'Sending…'
+  StaticText 'To: support@tqstudio.example' focusable read only
+  EditableText 'Subject:' focusable read only
+  EditableText 'Message' focusable focused read only)");
+    ASSERT_TRUE(comes([this] { return isProblemShown(); }));
+    EXPECT_EQ(reader.tree(sheet), R"(Dialog '' focused
+ Dialog 'New Message' focused
+  Button 'Cancel' focusable
+  Heading 'New Message'
+  Button 'Send' focusable
+  AlertMessage 'The mail server cannot be reached. Check your connection and try again.'
+   Button 'Try Again' focusable focused
+  StaticText 'To: support@tqstudio.example' focusable read only
+  EditableText 'Subject:' focusable
+  EditableText 'Message' focusable)");
+}
+
+TEST_F(MailSheet, AssistiveTechnologyAnswersTheQuestionAndPressesNothingBeneathIt)
+{
+    const ScreenReader reader;
+    makeKeepingProgram();
+    compose();
+    type(message(), "x");
+    reader.press(button("Cancel"));
+    EXPECT_EQ(reader.tree(Layout::popupOf(button("Discard"))), R"(Dialog '' focused
+ AlertMessage 'Discard this message? What you have written will be lost.'
+  Button 'Discard' focusable
+  Button 'Keep Writing' focusable focused)");
+    reader.press(button("Send"));
+    EXPECT_FALSE(text("Sending…"));
+    reader.press(button("Keep Writing"));
+    EXPECT_TRUE(message()->hasActiveFocus());
+    reader.press(button("Send"));
+    EXPECT_TRUE(text("Sending…"));
+}
+
+// In languages with long words, with dense writing and from the right.
+class MailSheetIn : public MailSheet, public testing::WithParamInterface<const char *>
+{
+protected:
+    MailSheetIn() { Testing::useLanguage(GetParam()); }
+
+    // The sheet or the question, whichever has the focus.
+    void expectNoFlawsInAnyWindow()
+    {
+        const QSize sizes[] = {{320, 568}, {1280, 800}, {390, 844}, {240, 240}, {820, 1180}};
+        for (const QSize size : sizes) {
+            window->resize(size);
+            settle();
+            window->grabWindow();
+            EXPECT_EQ(Layout::flawsOf(Layout::popupOf(window->activeFocusItem())), QStringList()) << size.width();
+        }
+    }
+};
+
+TEST_P(MailSheetIn, IsWholeInWindowsThatAreResizedAtEveryTextSize)
+{
+    makeProgram("echo 'The server said why, at some length.' >&2; exit 75");
+    for (const double points : {9.0, 18.0}) {
+        QFont font = QGuiApplication::font();
+        font.setPointSizeF(points);
+        QGuiApplication::setFont(font);
+        compose(QStringLiteral("text ").repeated(200));
+        ASSERT_TRUE(message()->hasActiveFocus());
+        expectNoFlawsInAnyWindow();
+        press(Qt::Key_Backtab);
+        press(Qt::Key_Backtab);
+        press(Qt::Key_Return);
+        ASSERT_TRUE(comes([this] { return !message()->property("readOnly").toBool(); }));
+        ASSERT_TRUE(window->activeFocusItem()->inherits("QQuickAbstractButton"));
+        expectNoFlawsInAnyWindow();
+        type(message(), "x");
+        press(Qt::Key_Escape);
+        expectNoFlawsInAnyWindow();
+        press(Qt::Key_Backtab);
+        press(Qt::Key_Return);
+        ASSERT_FALSE(isShown());
+        slide();
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Languages, MailSheetIn, testing::Values("en", "de", "zh-Hans", "ar"),
+                         [](const auto &language) { return std::string(language.param).substr(0, 2); });
 
 // Through a mail program and a mail server that are not ours.
 class MailDelivery : public MailSheet

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <optional>
 #include <span>
 
 namespace TQFoundation {
@@ -32,10 +33,10 @@ constexpr auto sampleOffsets = [] {
 class EdgeTable
 {
 public:
-    EdgeTable() = default;
-
-    explicit EdgeTable(const HalfPlane &edge) : m_x(static_cast<float>(edge.x)), m_y(static_cast<float>(edge.y))
+    void setEdge(const HalfPlane &edge)
     {
+        m_x = static_cast<float>(edge.x);
+        m_y = static_cast<float>(edge.y);
         m_within.fill(0);
         for (std::size_t k = 0; k < sampleOffsets.size(); ++k) {
             const float inner = m_x * sampleOffsets[k].x + m_y * sampleOffsets[k].y;
@@ -84,7 +85,7 @@ public:
             addEdge(planes[k], part.seams[k] ? overlap : 0);
         if (!part.isJoin()) {
             const HalfPlane along = lengthAlong(part);
-            const double slope = std::hypot(along.x, along.y);
+            const double slope = std::sqrt(along.x * along.x + along.y * along.y);
             if (to < part.to)
                 addEdge({-along.x / slope, -along.y / slope, (to - along.offset) / slope}, 0);
             if (from > part.from)
@@ -112,15 +113,17 @@ public:
         });
     }
 
-    // Adds the shape to a block whose first pixel is given.
-    template <typename BlockOf>
-    void fill(int left, int top, BlockOf blockOf) const
+    // Calls \a cover with each pixel that it touches of the block whose first pixel is given, and the samples within.
+    template <typename Cover>
+    void fill(int left, int top, Cover cover) const
     {
+        const int firstRow = std::max(0, static_cast<int>(std::floor(m_top)) - top);
+        const int lastRow = std::min(side - 1, static_cast<int>(std::floor(m_bottom)) - top);
         std::array<float, mostEdges> distances;
-        const Point first{left + 0.5, top + 0.5};
+        const Point first{left + 0.5, top + firstRow + 0.5};
         for (std::size_t k = 0; k < m_count; ++k)
             distances[k] = static_cast<float>(m_edges[k].plane.at(first));
-        for (int row = 0; row < side; ++row) {
+        for (int row = firstRow; row <= lastRow; ++row) {
             // Where the row of pixels meets the shape at all.
             float firstColumn = 0;
             float lastColumn = side - 1;
@@ -142,7 +145,7 @@ public:
                     covered &= table.within(distances[k] + table.x() * static_cast<float>(column));
                 }
                 if (covered)
-                    blockOf()[static_cast<std::size_t>(row) * side + static_cast<std::size_t>(column)] |= covered;
+                    cover(static_cast<std::size_t>(row) * side + static_cast<std::size_t>(column), covered);
             }
             for (std::size_t k = 0; k < m_count; ++k)
                 distances[k] += m_edges[k].table.y();
@@ -163,7 +166,9 @@ private:
         if (plane.x == 0 && plane.y == 0)
             return;
         plane.offset += wider;
-        m_edges[m_count++] = {plane, EdgeTable(plane)};
+        Edge &edge = m_edges[m_count++];
+        edge.plane = plane;
+        edge.table.setEdge(plane);
     }
 
     std::array<Edge, mostEdges> m_edges;
@@ -215,13 +220,15 @@ void StrokeMask::add(const StrokePart &part, double to)
                     const int blockTop = top + row * side;
                     if (!shape.mayTouch(blockLeft, blockTop, side, side))
                         continue;
-                    Block *block = nullptr;
-                    shape.fill(blockLeft, blockTop, [&]() -> Block & {
+                    std::optional<std::size_t> block;
+                    shape.fill(blockLeft, blockTop, [&](std::size_t at, std::uint64_t covered) {
                         if (!tile)
                             tile = &tileAt(tileX, tileY);
                         if (!block)
-                            block = &blockAt(*tile, column, row);
-                        return *block;
+                            block = blockAt(*tile, column, row);
+                        std::uint64_t &all = m_samples[*block][at];
+                        all |= covered;
+                        m_counts[*block][at] = static_cast<std::uint8_t>(std::popcount(all));
                     });
                 }
             }
@@ -248,16 +255,17 @@ StrokeMask::Tile &StrokeMask::tileAt(int x, int y)
     return tile;
 }
 
-StrokeMask::Block &StrokeMask::blockAt(Tile &tile, int column, int row)
+std::size_t StrokeMask::blockAt(Tile &tile, int column, int row)
 {
     const int columns = (tile.width + side - 1) / side;
     std::int32_t &index = tile.blocks[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns)
                                       + static_cast<std::size_t>(column)];
     if (index < 0) {
-        index = static_cast<std::int32_t>(m_blocks.size());
-        m_blocks.emplace_back();
+        index = static_cast<std::int32_t>(m_samples.size());
+        m_samples.emplace_back();
+        m_counts.emplace_back();
     }
-    return m_blocks[static_cast<std::size_t>(index)];
+    return static_cast<std::size_t>(index);
 }
 
 int StrokeMask::firstPixel(int tile) const
@@ -272,13 +280,20 @@ void StrokeMask::paint(const Tile &tile, const Colors &colors, std::uint32_t *pi
         for (int left = 0; left < tile.width; left += side, ++index) {
             if (*index < 0)
                 continue;
-            const std::uint64_t *covered = m_blocks[static_cast<std::size_t>(*index)].data();
+            const std::uint8_t *counts = m_counts[static_cast<std::size_t>(*index)].data();
             const int width = std::min(side, tile.width - left);
             const int height = std::min(side, tile.height - top);
-            for (int y = 0; y < height; ++y) {
+            for (int y = 0; y < height; ++y, counts += side) {
                 std::uint32_t *row = pixels + (top + y) * stride + left;
-                for (int x = 0; x < width; ++x)
-                    row[x] = colors[static_cast<std::size_t>(std::popcount(covered[y * side + x]))];
+                const auto paintRow = [&](int end) {
+                    for (int x = 0; x < end; ++x)
+                        row[x] = colors[counts[x]];
+                };
+                // Nearly all are, and compilers unroll what has a constant end.
+                if (width == side)
+                    paintRow(side);
+                else
+                    paintRow(width);
             }
         }
     }

@@ -63,12 +63,12 @@ public:
 
 private:
     static constexpr int side = 8; // pixels of a block
-    using Block = std::array<std::uint64_t, std::size_t{side} * side>;
+    static constexpr std::size_t blockPixels = std::size_t{side} * side;
     class Shape;
 
     void add(const StrokePart &part, double to);
     Tile &tileAt(int x, int y);
-    Block &blockAt(Tile &tile, int column, int row);
+    std::size_t blockAt(Tile &tile, int column, int row);
     int firstPixel(int tile) const;
 
     StrokeGeometry m_stroke;
@@ -76,7 +76,9 @@ private:
     std::size_t m_next = 0; // the first part that is not wholly drawn
     double m_drawn = 0;
     std::unordered_map<std::uint64_t, Tile> m_tiles;
-    std::vector<Block> m_blocks;
+    std::vector<std::array<std::uint64_t, blockPixels>> m_samples; // of each block; a bit for each that is covered
+    std::vector<std::array<std::uint8_t, blockPixels>>
+        m_counts; // how many of them are, which is all that painting needs
 };
 
 } // namespace TQFoundation

@@ -764,6 +764,7 @@ TEST_F(LayerInItsOwnThread, SurvivesHidingMovingAndTheLossOfItsSceneGraph)
         EXPECT_TRUE(window->rests());
         item->setParentItem(window->contentItem());
     }
+    EXPECT_TRUE(other.rests());
 }
 
 } // namespace

@@ -21,6 +21,7 @@
 #include <QtQuick/qsgrendernode.h>
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <cmath>
 #include <cstring>
@@ -34,6 +35,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 using Seconds = std::chrono::duration<double>;
+
+// How long the toolkit itself puts off an update that the main thread asks for.
+constexpr Seconds updateDelay = std::chrono::milliseconds(5);
 
 /// Where a node lies.
 struct Placement
@@ -82,6 +86,7 @@ public:
 
     ~LayerNode() override
     {
+        *m_rests = false;
         QObject::disconnect(m_rendered);
         QObject::disconnect(m_swapped);
     }
@@ -93,6 +98,12 @@ public:
         if (!m_layer || m_layer->path != layer.path || m_layer->lineWidth != layer.lineWidth)
             m_stroke.reset();
         m_layer = layer;
+        // The main thread is awake now. To set a timer when the layer comes to rest, it would have to be woken.
+        const double now = platform().mediaTime();
+        for (const BasicAnimation &animation : layer.animations()) {
+            if (*animation.beginTime > now)
+                wakeIn(*animation.beginTime - now);
+        }
     }
 
     void preprocess() override
@@ -134,18 +145,21 @@ private:
     void askForFrame()
     {
         const std::optional<double> wait = std::exchange(m_wait, std::nullopt);
+        *m_rests = wait.value_or(0) > 0;
         if (!wait)
             return;
-        if (*wait > 0) {
+        if (*m_rests) {
             wakeIn(*wait);
             return;
         }
         markDirty(DirtyUsePreprocess); // the only kind that makes no renderer paint everything anew
         const Seconds passed = Clock::now() - m_frameStart;
-        if (isInMainThread() && isEarly(passed))
-            wakeIn(Seconds(m_interval - passed).count());
-        else
+        if (isInMainThread() && isEarly(passed)) {
+            *m_rests = true;
+            wakeIn(std::max(Seconds(m_interval - updateDelay - passed).count(), 0.0));
+        } else {
             m_window->update();
+        }
     }
 
     // Where a display does not hold up those who draw faster than it shows, nobody else does. The main thread never
@@ -166,7 +180,8 @@ private:
 
     static bool isInMainThread() { return QThread::currentThread() == QCoreApplication::instance()->thread(); }
 
-    // The scene graph's thread has no timers while it rests. The main thread's makes it go on without taking part.
+    // The scene graph's thread has no timers while it rests. The main thread's makes it go on without taking part, if
+    // it rests by then. It begins to rest before it looks for a timer, so that it sees in time if one has just run out.
     void wakeIn(double seconds)
     {
         const auto wakesAt = Clock::now() + std::chrono::duration_cast<Clock::duration>(Seconds(seconds));
@@ -175,7 +190,9 @@ private:
         m_wakesAt = wakesAt;
         const auto milliseconds = static_cast<int>(std::ceil(std::min(seconds, 1e6) * 1000));
         const bool isThreaded = !isInMainThread();
-        const auto wake = [window = m_window, isThreaded] {
+        const auto wake = [window = m_window, rests = m_rests, isThreaded] {
+            if (!rests->exchange(false))
+                return;
             const auto update = [window] { window->update(); };
             if (isThreaded && window->isExposed())
                 window->scheduleRenderJob(QRunnable::create(update), QQuickWindow::NoStage);
@@ -196,6 +213,7 @@ private:
     Seconds m_interval{1.0 / 60};
     Clock::time_point m_frameStart;
     std::optional<double> m_wait; // seconds from the frame that is being drawn until it changes
+    const std::shared_ptr<std::atomic<bool>> m_rests = std::make_shared<std::atomic<bool>>(false); // until it is woken
     Clock::time_point m_wakesAt;
     int m_earlyFrames = 0;
     QMetaObject::Connection m_rendered;
@@ -404,7 +422,7 @@ public:
         markDirty(DirtyGeometry);
     }
 
-    bool isEmpty() const { return m_geometry.vertexCount() == 0; }
+    bool isEmpty() const { return m_geometry.indexCount() == 0; }
 
     StrokeMaterial material;
 
@@ -432,7 +450,31 @@ const QSGGeometry::AttributeSet &squareAttributes()
     return set;
 }
 
-/// Draws with a graphics processor: the triangles of the whole line once, and two numbers in each frame.
+float startOf(const StrokeMesh::BandVertex &vertex)
+{
+    return vertex.length;
+}
+
+float startOf(const StrokeMesh::SquareVertex &vertex)
+{
+    return std::ranges::min(vertex.length);
+}
+
+// The triangles of which some lies before that length of the line.
+template <typename Vertex>
+std::vector<std::uint32_t> reached(const std::vector<Vertex> &vertices, const std::vector<std::uint32_t> &indices,
+                                   double length)
+{
+    std::vector<std::uint32_t> kept;
+    for (auto corner = indices.begin(); corner != indices.end(); corner += 3) {
+        if (std::any_of(corner, corner + 3, [&](std::uint32_t index) { return startOf(vertices[index]) < length; }))
+            kept.insert(kept.end(), corner, corner + 3);
+    }
+    return kept;
+}
+
+/// Draws with a graphics processor: two numbers in each frame, and the next stretch of the line every now and then.
+/// What is not drawn yet would cost as much as what is.
 class MeshLayerNode final : public LayerNode
 {
 public:
@@ -442,14 +484,9 @@ public:
 protected:
     void strokeChanged() override
     {
-        const StrokeMesh mesh = strokeMesh(stroke(), scale());
+        m_mesh = strokeMesh(stroke(), scale());
+        m_sent = 0;
         removeAllChildNodes();
-        m_band.setTriangles(mesh.band, mesh.bandIndices);
-        m_squares.setTriangles(mesh.squares, mesh.squareIndices);
-        for (TrianglesNode *node : {&m_band, &m_squares}) {
-            if (!node->isEmpty())
-                appendChildNode(node);
-        }
     }
 
     void present(const Presentation &presentation, const QMatrix4x4 &) override
@@ -459,6 +496,8 @@ protected:
         // Beyond the end, so that nothing of the last pixels is lost to rounding.
         const double length = stroke().length;
         const double end = presentation.strokeEnd >= 1 ? 2 * length + 1 : presentation.strokeEnd * length;
+        if (end + 1 > m_sent)
+            send(end + 1 + length / 16);
         for (TrianglesNode *node : {&m_band, &m_squares}) {
             node->material.color = QVector4D(color.red * alpha, color.green * alpha, color.blue * alpha, alpha);
             node->material.end = static_cast<float>(end);
@@ -466,6 +505,19 @@ protected:
     }
 
 private:
+    void send(double length)
+    {
+        m_sent = length;
+        m_band.setTriangles(m_mesh.band, reached(m_mesh.band, m_mesh.bandIndices, length));
+        m_squares.setTriangles(m_mesh.squares, reached(m_mesh.squares, m_mesh.squareIndices, length));
+        for (TrianglesNode *node : {&m_band, &m_squares}) {
+            if (!node->isEmpty() && !node->parent())
+                appendChildNode(node);
+        }
+    }
+
+    StrokeMesh m_mesh;
+    double m_sent = 0; // the length of the line whose triangles are there
     TrianglesNode m_band{StrokeMaterial::Kind::band, bandAttributes()};
     TrianglesNode m_squares{StrokeMaterial::Kind::square, squareAttributes()};
 };

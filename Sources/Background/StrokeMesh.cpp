@@ -16,6 +16,7 @@ constexpr double smallestSquare = 0.5;
 constexpr double bendLength = 4; // points of the line within which parts count as drawn at once
 constexpr int farthest = 4096; // tiles from the origin
 constexpr double farAway = 256; // points, beyond which distances make no difference
+constexpr double never = 1e9; // points, a length that no line has
 
 struct Box
 {
@@ -432,6 +433,7 @@ private:
         for (const Point corner : {Point{box.left, box.top}, Point{box.right(), box.top},
                                    Point{box.right(), box.bottom()}, Point{box.left, box.bottom()}}) {
             StrokeMesh::SquareVertex vertex{static_cast<float>(corner.x), static_cast<float>(corner.y), {}, {}};
+            vertex.length.fill(static_cast<float>(never));
             for (auto &within : vertex.within)
                 within.fill(static_cast<float>(-farAway));
             for (std::size_t k = 0; k < std::min(parts.size(), StrokeMesh::mostParts); ++k) {

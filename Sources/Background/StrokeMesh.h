@@ -40,7 +40,7 @@ struct StrokeMesh
     {
         float x;
         float y;
-        std::array<float, mostParts> length; ///< The length of the line within each part.
+        std::array<float, mostParts> length; ///< The length of the line within each part; far too much for no part.
         std::array<std::array<float, 4>, mostParts> within; ///< The distances to the edges of each part, or a disc.
     };
 

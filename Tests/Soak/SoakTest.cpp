@@ -214,15 +214,16 @@ TEST_F(Soak, DISABLED_AMonthLeavesNothingBehind)
                     days * (sample + 1.0) / samples, now.megabytes, now.handles, now.threads, now.timers);
         std::fflush(stdout);
     }
-    // The second quarter beside the last one.
-    const auto largest = [&held](std::size_t quarter, auto member) {
+    // The second quarter beside the last one. What leaks is never given back, so that the least grows too; the web
+    // engine has threads and files for a while.
+    const auto least = [&held](std::size_t quarter, auto member) {
         const auto from = held.begin() + static_cast<std::ptrdiff_t>(quarter * samples / 4);
-        return (*std::ranges::max_element(from, from + samples / 4, {}, member)).*member;
+        return (*std::ranges::min_element(from, from + samples / 4, {}, member)).*member;
     };
-    EXPECT_LE(largest(3, &Holdings::handles), largest(1, &Holdings::handles));
-    EXPECT_LE(largest(3, &Holdings::threads), largest(1, &Holdings::threads));
-    EXPECT_EQ(largest(3, &Holdings::timers), backgroundCount);
-    EXPECT_LT(largest(3, &Holdings::megabytes), largest(1, &Holdings::megabytes) + 4);
+    EXPECT_LE(least(3, &Holdings::handles), least(1, &Holdings::handles));
+    EXPECT_LE(least(3, &Holdings::threads), least(1, &Holdings::threads));
+    EXPECT_EQ(least(3, &Holdings::timers), backgroundCount);
+    EXPECT_LT(least(3, &Holdings::megabytes), least(1, &Holdings::megabytes) + 2);
 }
 
 } // namespace

@@ -33,7 +33,7 @@ FocusScope {
         contentHeight: Math.max(height, room + identity.height + room + more.height + room)
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
-        ScrollIndicator.vertical: ScrollIndicator {}
+        ScrollIndicator.vertical: ScrollIndicator { Accessible.ignored: true }
 
         Column {
             id: identity
@@ -76,6 +76,8 @@ FocusScope {
                 wrapMode: Text.Wrap
                 font.pixelSize: Math.round(0.88 * Theme.textSize)
                 color: Theme.secondaryText
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
         }
 
@@ -90,6 +92,7 @@ FocusScope {
             focusPolicy: Qt.StrongFocus
             text: qsTr("More")
             Accessible.name: text
+            Accessible.onPressAction: more.clicked()
             // The only control has the focus already, so that the key cannot bring it.
             Keys.onTabPressed: more.focusReason = Qt.TabFocusReason
             Keys.onBacktabPressed: more.focusReason = Qt.BacktabFocusReason

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 import TQFoundation
 
 ApplicationWindow {
@@ -34,11 +35,16 @@ ApplicationWindow {
     }
 
     onScreenNameChanged: {
+        const isByKeys = (activeFocusControl as T.Control)?.visualFocus;
         const operation = animated ? StackView.Transition : StackView.Immediate;
         if (screenName === "more" && stack.depth === 1)
             stack.push(moreScreen, {}, operation);
         else if (screenName === "home" && stack.depth > 1)
             stack.pop(null, operation);
+        // Marked where the keyboard led to it.
+        const control = activeFocusControl as T.Control;
+        if (control && isByKeys)
+            control.focusReason = Qt.TabFocusReason;
     }
 
     TQRandomBackgroundView {
@@ -53,11 +59,7 @@ ApplicationWindow {
         visible: !root.backgroundOnly
         focus: true
         initialItem: homeScreen
-        // Marked where the keyboard led to it.
-        onCurrentItemChanged: {
-            const button = root.activeFocusControl as AbstractButton;
-            currentItem?.forceActiveFocus(button?.visualFocus ? Qt.TabFocusReason : Qt.OtherFocusReason);
-        }
+        onCurrentItemChanged: if (currentItem) currentItem.forceActiveFocus()
     }
 
     HomeScreen {

@@ -14,8 +14,8 @@ AbstractButton {
     implicitHeight: Math.max(48, topPadding + implicitContentHeight + bottomPadding)
     focusPolicy: Qt.StrongFocus
 
-    Accessible.role: Accessible.Link
     Accessible.name: text
+    Accessible.onPressAction: root.clicked()
     Keys.onReturnPressed: root.clicked()
     Keys.onEnterPressed: root.clicked()
 

@@ -30,6 +30,7 @@ FocusScope {
             height: 44
             focusPolicy: Qt.StrongFocus
             Accessible.name: qsTr("Back")
+            Accessible.onPressAction: back.clicked()
             Keys.onReturnPressed: back.clicked()
             Keys.onEnterPressed: back.clicked()
             onClicked: root.backRequested()
@@ -81,7 +82,7 @@ FocusScope {
         contentHeight: column.height + 2 * Theme.margin
         boundsBehavior: Flickable.StopAtBounds
         clip: true
-        ScrollIndicator.vertical: ScrollIndicator {}
+        ScrollIndicator.vertical: ScrollIndicator { Accessible.ignored: true }
 
         // Keeps what has the keyboard focus in sight.
         function reveal(item: Item) {
@@ -174,6 +175,8 @@ FocusScope {
                 wrapMode: Text.Wrap
                 font.pixelSize: Math.round(0.76 * Theme.textSize)
                 color: Theme.secondaryText
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
         }
     }

@@ -238,12 +238,17 @@ bool takePictures(QQuickWindow *window, const Options &options)
                 QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         } else if (screen == u"sheet") {
             // Until it has slid in and what it shows is there.
+            const auto below = TQMore::topViewController();
             showSheet(options);
             QEventLoop shown;
             QTimer enough;
             QObject::connect(&enough, &QTimer::timeout, &shown, &QEventLoop::quit);
             enough.start(options.compose ? 500 : 3000);
             shown.exec();
+            if (TQMore::topViewController() == below) {
+                QTextStream(stderr) << "Grove: the sheet cannot be shown\n";
+                return false;
+            }
         } else {
             if (guide)
                 guide->setParentItem(nullptr);

@@ -100,7 +100,7 @@ packages:
 	lintian --fail-on error build/packages/packages/*.deb
 
 pictures:
-	tools/install-packages build run
+	tools/install-packages build run pictures
 	cmake --preset release -DTQFOUNDATION_TESTS=OFF
 	cmake --build --preset release
 	tools/take-pictures $(release)/Example/Grove docs/pictures

@@ -100,7 +100,7 @@ TQGuideView {
             visible: root.ground.a === 1 && scroller.interactive && !scroller.atYEnd
             gradient: Gradient {
                 GradientStop { position: 0; color: Qt.rgba(root.ground.r, root.ground.g, root.ground.b, 0) }
-                GradientStop { position: 1; color: root.ground }
+                GradientStop { position: 0.7; color: root.ground }
             }
         }
 

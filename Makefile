@@ -21,7 +21,7 @@ help:
 	@echo "make coverage   which lines and branches of Sources the tests reach"
 	@echo "make lint       clang-tidy and clazy"
 	@echo "make docs       write the API reference to build/docs/html"
-	@echo "make bench      measure; prints tables"
+	@echo "make bench      measure; prints tables and writes docs/cost.md anew"
 	@echo "make install    install to PREFIX ($(PREFIX))"
 	@echo "make packages   build Debian packages into build/packages/packages"
 	@echo "make pictures   write the pictures of the documentation anew"
@@ -84,7 +84,7 @@ bench:
 	cmake --preset bench
 	cmake --build --preset bench
 	Benchmarks/run build/bench
-	Benchmarks/background build/bench --output build/bench
+	Benchmarks/background build/bench --docs docs
 
 install:
 	tools/install-packages build

@@ -23,10 +23,14 @@
 #include <QtQuick/qquickwindow.h>
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <cstdlib>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <span>
+#include <utility>
 
 using namespace TQFoundation;
 
@@ -42,6 +46,7 @@ struct Options
     int textSize = 100; // in percent of the system's
     bool resetGuide = false;
     bool backgroundOnly = false;
+    int frames = 0; // of the background's cycle; none for a few moments of it
     bool compose = false;
     QString openBrowser; // the address of a page; empty for none
     QString shots; // the folder for pictures; empty for a window
@@ -61,6 +66,23 @@ private:
     std::optional<QString> m_storefront;
 };
 
+/// A timer that only runs when it is told to.
+class StillTimer final : public RepeatingTimer
+{
+public:
+    explicit StillTimer(std::function<void()> tick) : m_tick(std::move(tick)) {}
+
+    void fire() override { m_tick(); }
+    void schedule() override {}
+    void invalidate() override
+    {
+        m_tick = [] {};
+    }
+
+private:
+    std::function<void()> m_tick;
+};
+
 /// For pictures: every time is the first launch, nothing is stored, no other program is started, and the background
 /// stands still.
 class PicturePlatform final : public GrovePlatform
@@ -73,6 +95,10 @@ public:
     void openUrl(const QUrl &) override {}
     bool canSendMail() const override { return true; }
     double mediaTime() const override { return now; }
+    std::shared_ptr<RepeatingTimer> makeTimer(double, std::function<void()> tick) override
+    {
+        return std::make_shared<StillTimer>(std::move(tick));
+    }
 
     std::atomic<double> now = 0;
 };
@@ -116,6 +142,9 @@ Options parseOptions(const QStringList &arguments)
                                         QStringLiteral("Show the app's guide again, as on the first launch."));
     const QCommandLineOption backgroundOnly(QStringLiteral("background-only"),
                                             QStringLiteral("Show the animated background and nothing else."));
+    const QCommandLineOption frames(QStringLiteral("frames"),
+                                    QStringLiteral("Take so many pictures of the background's cycle."),
+                                    QStringLiteral("count"));
     const QCommandLineOption compose(QStringLiteral("compose"), QStringLiteral("Begin a mail to the developer."));
     const QCommandLineOption openBrowser(QStringLiteral("open-browser"),
                                          QStringLiteral("Show a page in the in-app browser."), QStringLiteral("URL"));
@@ -123,8 +152,8 @@ Options parseOptions(const QStringList &arguments)
                                    QStringLiteral("Walk through the screens off-screen and write pictures."),
                                    QStringLiteral("folder"));
     QCommandLineParser parser;
-    parser.addOptions(
-        {app, storefront, language, dark, size, textSize, resetGuide, backgroundOnly, compose, openBrowser, shots});
+    parser.addOptions({app, storefront, language, dark, size, textSize, resetGuide, backgroundOnly, frames, compose,
+                       openBrowser, shots});
     const QCommandLineOption help = parser.addHelpOption();
     if (!parser.parse(arguments))
         refuse(parser.errorText());
@@ -151,6 +180,9 @@ Options parseOptions(const QStringList &arguments)
     options.dark = parser.isSet(dark);
     options.resetGuide = parser.isSet(resetGuide);
     options.backgroundOnly = parser.isSet(backgroundOnly);
+    options.frames = parser.value(frames).toInt();
+    if (parser.isSet(frames) && (options.frames < 1 || options.frames > 1000))
+        refuse(QStringLiteral("--frames takes a number from 1 to 1000"));
     options.compose = parser.isSet(compose);
     options.openBrowser = parser.value(openBrowser);
     if (parser.isSet(openBrowser) && !QUrl(options.openBrowser, QUrl::StrictMode).isValid())
@@ -260,16 +292,21 @@ bool takePictures(QQuickWindow *window, const Options &options)
     return true;
 }
 
-// The background alone as it fades in, half drawn, complete, and fading out.
+// The background alone: as it fades in, half drawn, complete, and fading out; or a whole cycle in even steps.
 bool takeBackgroundPictures(QQuickWindow *window, const Options &options)
 {
-    for (const double seconds : {0.5, 4.5, 9.1, 9.9}) {
+    const auto take = [&](double seconds, const QString &name) {
         static_cast<PicturePlatform &>(platform()).now = seconds;
         window->update();
-        if (!writePicture(window, options.shots, QStringLiteral("background-%1").arg(seconds)))
+        return writePicture(window, options.shots, u"background-" + name);
+    };
+    for (int frame = 0; frame < options.frames; ++frame) {
+        if (!take(10.0 * frame / options.frames, QStringLiteral("%1").arg(frame, 3, 10, QLatin1Char('0'))))
             return false;
     }
-    return true;
+    return options.frames > 0 || std::ranges::all_of(std::array{0.5, 4.5, 9.1, 9.9}, [&](double seconds) {
+               return take(seconds, QString::number(seconds));
+           });
 }
 
 } // namespace

@@ -2,7 +2,8 @@
 // measures for so many real seconds, and prints what that cost as one line of JSON.
 //
 // LINE is a file with the path data of the line. `ours` writes it and the others read it, so that all draw the same
-// one. LOTTIE is the same as an animation for a Lottie player.
+// one. LOTTIE is the same as an animation for a Lottie player. `ours-20` shows twenty backgrounds, and `ticks` prints
+// what it costs to replace one line by the next.
 
 #include "Layer.h"
 #include "Line.h"
@@ -21,10 +22,14 @@
 
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <ctime>
+#include <mutex>
 #include <thread>
+#include <utility>
+#include <vector>
 
 using namespace TQFoundation;
 
@@ -116,14 +121,14 @@ struct Usage
     int frames;
 };
 
-// Memory of the process that no file backs, in KiB.
-qint64 anonymousMemory()
+// The process's share of the memory, in KiB: pages that others use too count in parts.
+qint64 memory()
 {
-    QFile status(QStringLiteral("/proc/self/status"));
+    QFile status(QStringLiteral("/proc/self/smaps_rollup"));
     if (!status.open(QIODevice::ReadOnly))
         return 0;
     for (const QByteArray &row : status.readAll().split('\n')) {
-        if (row.startsWith("RssAnon:"))
+        if (row.startsWith("Pss:"))
             return row.simplified().split(' ').value(1).toLongLong();
     }
     return 0;
@@ -157,14 +162,74 @@ void measure(const QString &alternative, int seconds, const std::atomic<int> &fr
             const Usage after(frames.load());
             QTextStream(stdout) << "{\"alternative\": \"" << alternative
                                 << "\", \"frames\": " << after.frames - before.frames
-                                << ", \"process\": " << after.process - before.process
-                                << ", \"main\": " << after.main - before.main
-                                << ", \"wakeUps\": " << after.wakeUps - before.wakeUps
-                                << ", \"memory\": " << anonymousMemory() << "}\n";
+                                << ", \"process\": " << after.process - before.process << ", \"main\": "
+                                << after.main - before.main
+                                // Without the one that ends the measurement.
+                                << ", \"wakeUps\": " << after.wakeUps - before.wakeUps - 1
+                                << ", \"memory\": " << memory() << "}\n";
             std::_Exit(0);
         });
     });
 }
+
+double median(std::vector<double> numbers)
+{
+    const auto middle = numbers.begin() + numbers.size() / 2;
+    std::ranges::nth_element(numbers, middle);
+    return *middle;
+}
+
+/// Draws a new line every tenth of a second and counts the CPU time of both threads: what the tick itself takes, and by
+/// how much the frame that first shows a line costs the scene graph's thread more than the frames that follow.
+class TickMeter
+{
+public:
+    TickMeter(QQuickWindow &window, QObject &view)
+    {
+        QObject::connect(
+            &window, &QQuickWindow::beforeSynchronizing, &window, [this] { m_isFirst = true; }, Qt::DirectConnection);
+        QObject::connect(
+            &window, &QQuickWindow::frameSwapped, &window, [this] { noteFrame(); }, Qt::DirectConnection);
+        QObject::connect(&m_timer, &QTimer::timeout, &window, [this, &view] { tick(view); });
+        m_timer.start(100);
+    }
+
+private:
+    void tick(QObject &view)
+    {
+        if (m_ticks.size() == 100)
+            finish();
+        const double before = cpuTime(CLOCK_THREAD_CPUTIME_ID);
+        QMetaObject::invokeMethod(&view, "updateTimer");
+        m_ticks.push_back(cpuTime(CLOCK_THREAD_CPUTIME_ID) - before);
+    }
+
+    // On the scene graph's thread, which takes over what is new only where a tick asks for it.
+    void noteFrame()
+    {
+        const double now = cpuTime(CLOCK_THREAD_CPUTIME_ID);
+        const double used = now - std::exchange(m_before, now);
+        const std::scoped_lock lock(m_mutex);
+        (std::exchange(m_isFirst, false) ? m_firstFrames : m_otherFrames).push_back(used);
+    }
+
+    void finish()
+    {
+        const std::scoped_lock lock(m_mutex);
+        const double tick = median(m_ticks) + median(m_firstFrames) - median(m_otherFrames);
+        QTextStream(stdout) << "{\"alternative\": \"ticks\", \"tick\": " << 1000 * tick
+                            << ", \"main\": " << 1000 * median(m_ticks) << "}\n";
+        std::_Exit(0);
+    }
+
+    QTimer m_timer;
+    std::vector<double> m_ticks; // milliseconds each, as are the next
+    std::mutex m_mutex;
+    std::vector<double> m_firstFrames;
+    std::vector<double> m_otherFrames;
+    bool m_isFirst = false;
+    double m_before = 0;
+};
 
 } // namespace
 
@@ -182,7 +247,8 @@ int main(int argc, char *argv[])
     installPlatform(std::make_unique<Phone>());
     static std::atomic<int> frames = 0;
 
-    const bool isOurs = alternative.startsWith(u"ours");
+    const bool isTicks = alternative == u"ticks";
+    const bool isOurs = alternative.startsWith(u"ours") || isTicks;
     const bool drawsLine = !isOurs && alternative != u"idle" && alternative != u"empty";
     const std::optional<Line> line = drawsLine ? std::optional<Line>(file) : std::nullopt;
     if (alternative == u"raster") {
@@ -197,6 +263,8 @@ int main(int argc, char *argv[])
     QQuickView view;
     view.resize(phone);
     view.setResizeMode(QQuickView::SizeRootObjectToView);
+    if (const int count = alternative.section(u'-', 1).toInt(); count > 0)
+        view.setInitialProperties({{QStringLiteral("count"), count}});
     if (line) {
         PaintedLine::line = &*line;
         if (alternative == u"shapes") {
@@ -225,10 +293,17 @@ int main(int argc, char *argv[])
         qFatal("cannot load the alternative");
     view.show();
     if (isOurs) {
-        auto *background = view.rootObject()->findChild<QQuickItem *>(QStringLiteral("background"));
-        writeLine(*qobject_cast<AnimationView *>(background->childItems().value(0)), file);
+        const QList<QQuickItem *> items = view.rootObject()->childItems();
+        QQuickItem *background = *std::ranges::find(items, QStringLiteral("background"), &QObject::objectName);
+        auto *animation = qobject_cast<AnimationView *>(background->childItems().value(0));
+        if (alternative == u"ours")
+            writeLine(*animation, file);
         if (alternative == u"ours-hidden")
             background->setVisible(false);
+        if (isTicks) {
+            const TickMeter meter(view, *animation);
+            return QGuiApplication::exec();
+        }
     }
     measure(alternative, seconds, frames);
     return QGuiApplication::exec();

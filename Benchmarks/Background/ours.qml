@@ -2,9 +2,17 @@ import QtQuick
 import TQFoundation
 
 Item {
-    TQRandomBackgroundView {
-        objectName: "background"
-        anchors.fill: parent
-        color: TQApp.hazel.tintColor
+    id: root
+
+    property int count: 1
+
+    Repeater {
+        model: root.count
+
+        TQRandomBackgroundView {
+            objectName: "background"
+            anchors.fill: parent
+            color: TQApp.hazel.tintColor
+        }
     }
 }

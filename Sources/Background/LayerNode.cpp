@@ -27,6 +27,7 @@
 #include <cstring>
 #include <memory>
 #include <optional>
+#include <span>
 #include <unordered_map>
 #include <utility>
 
@@ -399,6 +400,45 @@ private:
     Kind m_kind;
 };
 
+float startOf(const StrokeMesh::BandVertex &vertex)
+{
+    return vertex.length;
+}
+
+float startOf(const StrokeMesh::SquareVertex &vertex)
+{
+    return std::ranges::min(vertex.length);
+}
+
+template <typename Vertex>
+struct Triangles
+{
+    std::vector<Vertex> vertices;
+    std::vector<std::uint32_t> indices;
+};
+
+// The triangles of which some lies before that length of the line.
+template <typename Vertex>
+Triangles<Vertex> reached(const std::vector<Vertex> &vertices, const std::vector<std::uint32_t> &indices, double length)
+{
+    Triangles<Vertex> kept;
+    constexpr auto none = std::uint32_t(-1);
+    std::vector<std::uint32_t> places(vertices.size(), none);
+    for (std::size_t first = 0; first < indices.size(); first += 3) {
+        const auto corners = std::span(indices).subspan(first, 3);
+        if (std::ranges::none_of(corners, [&](std::uint32_t index) { return startOf(vertices[index]) < length; }))
+            continue;
+        for (const std::uint32_t index : corners) {
+            if (places[index] == none) {
+                places[index] = static_cast<std::uint32_t>(kept.vertices.size());
+                kept.vertices.push_back(vertices[index]);
+            }
+            kept.indices.push_back(places[index]);
+        }
+    }
+    return kept;
+}
+
 /// Triangles of a stroke that are painted alike.
 class TrianglesNode final : public QSGGeometryNode
 {
@@ -414,11 +454,11 @@ public:
     }
 
     template <typename Vertex>
-    void setTriangles(const std::vector<Vertex> &vertices, const std::vector<std::uint32_t> &indices)
+    void setTriangles(const Triangles<Vertex> &triangles)
     {
-        m_geometry.allocate(static_cast<int>(vertices.size()), static_cast<int>(indices.size()));
-        std::ranges::copy(vertices, static_cast<Vertex *>(m_geometry.vertexData()));
-        std::ranges::copy(indices, m_geometry.indexDataAsUInt());
+        m_geometry.allocate(static_cast<int>(triangles.vertices.size()), static_cast<int>(triangles.indices.size()));
+        std::ranges::copy(triangles.vertices, static_cast<Vertex *>(m_geometry.vertexData()));
+        std::ranges::copy(triangles.indices, m_geometry.indexDataAsUInt());
         markDirty(DirtyGeometry);
     }
 
@@ -450,29 +490,6 @@ const QSGGeometry::AttributeSet &squareAttributes()
     return set;
 }
 
-float startOf(const StrokeMesh::BandVertex &vertex)
-{
-    return vertex.length;
-}
-
-float startOf(const StrokeMesh::SquareVertex &vertex)
-{
-    return std::ranges::min(vertex.length);
-}
-
-// The triangles of which some lies before that length of the line.
-template <typename Vertex>
-std::vector<std::uint32_t> reached(const std::vector<Vertex> &vertices, const std::vector<std::uint32_t> &indices,
-                                   double length)
-{
-    std::vector<std::uint32_t> kept;
-    for (auto corner = indices.begin(); corner != indices.end(); corner += 3) {
-        if (std::any_of(corner, corner + 3, [&](std::uint32_t index) { return startOf(vertices[index]) < length; }))
-            kept.insert(kept.end(), corner, corner + 3);
-    }
-    return kept;
-}
-
 /// Draws with a graphics processor: two numbers in each frame, and the next stretch of the line every now and then.
 /// What is not drawn yet would cost as much as what is.
 class MeshLayerNode final : public LayerNode
@@ -486,7 +503,6 @@ protected:
     {
         m_mesh = strokeMesh(stroke(), scale());
         m_sent = 0;
-        removeAllChildNodes();
     }
 
     void present(const Presentation &presentation, const QMatrix4x4 &) override
@@ -508,10 +524,12 @@ private:
     void send(double length)
     {
         m_sent = length;
-        m_band.setTriangles(m_mesh.band, reached(m_mesh.band, m_mesh.bandIndices, length));
-        m_squares.setTriangles(m_mesh.squares, reached(m_mesh.squares, m_mesh.squareIndices, length));
+        m_band.setTriangles(reached(m_mesh.band, m_mesh.bandIndices, length));
+        m_squares.setTriangles(reached(m_mesh.squares, m_mesh.squareIndices, length));
         for (TrianglesNode *node : {&m_band, &m_squares}) {
-            if (!node->isEmpty() && !node->parent())
+            if (node->isEmpty() && node->parent())
+                removeChildNode(node);
+            else if (!node->isEmpty() && !node->parent())
                 appendChildNode(node);
         }
     }

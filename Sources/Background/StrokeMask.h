@@ -77,8 +77,7 @@ private:
     double m_drawn = 0;
     std::unordered_map<std::uint64_t, Tile> m_tiles;
     std::vector<std::array<std::uint64_t, blockPixels>> m_samples; // of each block; a bit for each that is covered
-    std::vector<std::array<std::uint8_t, blockPixels>>
-        m_counts; // how many of them are, which is all that painting needs
+    std::vector<std::array<std::uint8_t, blockPixels>> m_counts; // how many of them are, which is what is painted
 };
 
 } // namespace TQFoundation

@@ -176,6 +176,9 @@ public:
 
     StrokeMesh mesh()
     {
+        // About what a line takes that crosses itself a few times.
+        m_mesh.band.reserve(6 * m_parts.size());
+        m_mesh.bandIndices.reserve(6 * m_parts.size());
         fillTiles();
         const auto tiles = groups();
         for (const Tile &tile : tiles) {

@@ -347,6 +347,31 @@ TEST(DriftPath, GoesThroughThePointsAndBackWithControlPointsOfEachEnd)
                     true}));
 }
 
+TEST(DriftPath, TheSourcesOnTheXAxisGoOnFromPointsToControlPointsAndFromLineToLine)
+{
+    std::int64_t right = 200;
+    std::int64_t left = 50;
+    const auto constant = [](std::int64_t number) { return [number] { return number; }; };
+    const RandomSource source{
+        [] { return 0U; },      [&] { return right++; },
+        [&] { return left++; }, constant(100),
+        constant(700),          [&](std::int64_t lowest, std::int64_t) { return constant(lowest); }};
+    for (std::int64_t line = 0; line < 3; ++line) {
+        const std::vector<Point> points = getTransitPoints(phone, source);
+        const Path path = driftPath(points, phone, source);
+        const double firstRight = 200 + 4 * static_cast<double>(line);
+        const double firstLeft = 50 + 4 * static_cast<double>(line);
+        EXPECT_EQ(points[0].x, firstRight);
+        EXPECT_EQ(points[1].x, firstRight + 1);
+        EXPECT_EQ(path.curves[0].control1.x, firstRight + 2);
+        EXPECT_EQ(path.curves[0].control2.x, firstRight + 3);
+        EXPECT_EQ(points[2].x, firstLeft);
+        EXPECT_EQ(points[3].x, firstLeft + 1);
+        EXPECT_EQ(path.curves[2].control1.x, firstLeft + 2);
+        EXPECT_EQ(path.curves[2].control2.x, firstLeft + 3);
+    }
+}
+
 TEST(DriftPathDeathTest, FewerThanFourPointsStopTheProcess)
 {
     EXPECT_EXIT(driftPath({{300, 195}, {250, 541}, {100, 638}}, phone, Script({}).source),

@@ -234,6 +234,42 @@ TEST(LayerPixels, AnItemThatIsMovedTurnedOrScaledIsDrawnAsSharply)
     check(QTransform::fromTranslate(100, 0));
 }
 
+// Runs where CTest gives it two screens, of one and of two pixels a point.
+TEST(LayerBetweenScreens, IsDrawnForTheScaleOfTheOneThatItsWindowMovesTo)
+{
+    const InstalledRecordingPlatform platform;
+    platform->records = false;
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    ASSERT_EQ(screens.size(), 2);
+    CountedWindow window;
+    LayerItem item(window.contentItem());
+    std::mt19937_64 random(12);
+    ShapeLayer layer;
+    layer.path = Testing::randomPath(random);
+    layer.lineWidth = 2;
+    layer.strokeColor = {0, 0, 0, 0.2F};
+    layer.addAnimation({BasicAnimation::KeyPath::strokeEnd, 0, 1, 8, {}, {}}, platform->mediaTime());
+    item.setLayer(layer);
+    for (int move = 0; move < 4; ++move) {
+        window.hide();
+        window.setScreen(screens[move % 2]);
+        window.setPosition(screens[move % 2]->geometry().topLeft());
+        window.show();
+        const double scale = screens[move % 2]->devicePixelRatio();
+        EXPECT_EQ(scale, move % 2 + 1);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return window.effectiveDevicePixelRatio() == scale; }));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        platform->stall(1.5);
+        EXPECT_TRUE(window.moves());
+        const QImage shown = window.grabWindow();
+        ASSERT_EQ(shown.size(), window.size() * scale);
+        EXPECT_EQ(Testing::differences(layer.path, (move + 1) * 1.5 / 8, scale, shown.width(), shown.height(),
+                                       [&](int x, int y) { return darkness(shown, x, y); }),
+                  "")
+            << "move " << move;
+    }
+}
+
 TEST_F(LayerInAWindow, FollowsTheTimeline)
 {
     CountedWindow window({100, 40});

@@ -249,7 +249,8 @@ int main(int argc, char *argv[])
 
     const bool isTicks = alternative == u"ticks";
     const bool isOurs = alternative.startsWith(u"ours") || isTicks;
-    const bool drawsLine = !isOurs && alternative != u"idle" && alternative != u"empty";
+    const bool isStill = alternative == u"idle" || alternative == u"empty" || alternative == u"rectangle";
+    const bool drawsLine = !isOurs && !isStill;
     const std::optional<Line> line = drawsLine ? std::optional<Line>(file) : std::nullopt;
     if (alternative == u"raster") {
         RasterLine window(*line);
@@ -276,12 +277,12 @@ int main(int argc, char *argv[])
     // Where nothing paces the frames, all alternatives are held to the same rate. On the thread that renders.
     QObject::connect(
         &view, &QQuickWindow::frameSwapped, &view,
-        [&view, isEmpty = alternative == u"empty"] {
+        [&view, swapsAnyway = isStill && alternative != u"idle"] {
             static auto next = std::chrono::steady_clock::now();
             ++frames;
             next = std::max(next + frameTime, std::chrono::steady_clock::now());
             std::this_thread::sleep_until(next);
-            if (isEmpty)
+            if (swapsAnyway)
                 view.update();
         },
         Qt::DirectConnection);

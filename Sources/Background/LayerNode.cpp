@@ -25,6 +25,7 @@
 #include <chrono>
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <span>
@@ -422,7 +423,7 @@ template <typename Vertex>
 Triangles<Vertex> reached(const std::vector<Vertex> &vertices, const std::vector<std::uint32_t> &indices, double length)
 {
     Triangles<Vertex> kept;
-    constexpr auto none = std::uint32_t(-1);
+    constexpr auto none = std::numeric_limits<std::uint32_t>::max();
     std::vector<std::uint32_t> places(vertices.size(), none);
     for (std::size_t first = 0; first < indices.size(); first += 3) {
         const auto corners = std::span(indices).subspan(first, 3);

@@ -408,6 +408,22 @@ TEST_F(LayerInAWindow, RestsWhileTheLineStandsStillAndWakesUpForTheNextChange)
     EXPECT_TRUE(window.moves());
 }
 
+TEST_F(LayerInAWindow, AnItemThatIsHiddenWhileItRestsTakesNoFrameWhenTheRestIsOver)
+{
+    CountedWindow window;
+    LayerItem item(window.contentItem());
+    ShapeLayer layer;
+    layer.path = Testing::randomPath(random);
+    layer.addAnimation({BasicAnimation::KeyPath::opacity, 1, 0, 1, 0.5, {}}, 0);
+    item.setLayer(layer);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.frames > 0; }));
+    item.setVisible(false);
+    EXPECT_TRUE(window.rests());
+    const int before = window.frames;
+    QTest::qWait(700);
+    EXPECT_EQ(window.frames, before);
+}
+
 TEST_F(LayerInAWindow, AHiddenItemTakesNoFrameAndGoesOnAtTheRightPlace)
 {
     CountedWindow window({100, 40});
@@ -765,7 +781,7 @@ TEST_F(LayerInItsOwnThread, FramesComeNoFasterThanTheScreenShowsThem)
     EXPECT_LE(window->frames - before, 1.1 * window->screen()->refreshRate() + 3);
 }
 
-TEST_F(LayerInItsOwnThread, RestsWhereNothingChangesAndWakesTheMainThreadTwiceForIt)
+TEST_F(LayerInItsOwnThread, RestsWhereNothingChangesAndWakesTheMainThreadOnceForIt)
 {
     ShapeLayer still = layer(0.3);
     const double now = platform().mediaTime();

@@ -195,20 +195,25 @@ int main(int argc, char *argv[])
     Pixels pixels(static_cast<std::size_t>(width) * height);
     double ink = 0;
     std::vector<double> cycles;
-    for (int cycle = 0; cycle < 6; ++cycle) {
+    // The first cycle does not count: it clears the picture and fills the caches.
+    const auto runCycle = [&](bool counts) {
         const double before = cpuTime();
         for (int frame = 0; frame < frameCount; ++frame) {
             kernel(frame, pixels);
-            if (cycle == 0 && frame == frameCount / 2) {
+            if (!counts && frame == frameCount / 2) {
                 for (const std::uint32_t pixel : pixels)
                     ink += (pixel >> 24) / 255.0;
             }
         }
-        cycles.push_back(cpuTime() - before);
-    }
-    // The first one does not count: it clears the picture and fills the caches.
-    const auto middle = cycles.begin() + 3;
-    std::nth_element(cycles.begin() + 1, middle, cycles.end());
+        if (counts)
+            cycles.push_back(cpuTime() - before);
+    };
+    runCycle(false);
+    const double start = cpuTime();
+    while (cycles.size() < 5 || cpuTime() - start < 500)
+        runCycle(true);
+    const auto middle = cycles.begin() + static_cast<std::ptrdiff_t>(cycles.size() / 2);
+    std::ranges::nth_element(cycles, middle);
     QTextStream(stdout) << "{\"kernel\": \"" << name << "\", \"process\": " << *middle << ", \"ink\": " << ink << "}\n";
     return 0;
 }

@@ -186,11 +186,12 @@ private:
     // it rests by then. It begins to rest before it looks for a timer, so that it sees in time if one has just run out.
     void wakeIn(double seconds)
     {
+        seconds = std::min(seconds, 1e6);
         const auto wakesAt = Clock::now() + std::chrono::duration_cast<Clock::duration>(Seconds(seconds));
         if (m_wakesAt > Clock::now() && m_wakesAt <= wakesAt + std::chrono::milliseconds(1))
             return;
         m_wakesAt = wakesAt;
-        const auto milliseconds = static_cast<int>(std::ceil(std::min(seconds, 1e6) * 1000));
+        const auto milliseconds = static_cast<int>(std::ceil(1000 * seconds));
         const bool isThreaded = !isInMainThread();
         const auto wake = [window = m_window, rests = m_rests, isThreaded] {
             if (!rests->exchange(false))

@@ -53,6 +53,20 @@ TEST(StrokeGeometry, ARightAngleGetsItsMitre)
     EXPECT_FALSE(covers(stroke, {21.01, -0.99}));
 }
 
+TEST(StrokeGeometry, AHairpinIsRoundAllTheWayAround)
+{
+    const StrokeGeometry stroke = strokeGeometry({{0, 0}, {{{100, 0}, {100, 0.4}, {0, 0.4}}}, false}, 20);
+    constexpr Point tip{75, 0.2};
+    for (int degrees = -88; degrees <= 88; degrees += 2) {
+        const double angle = degrees * std::numbers::pi / 180;
+        const auto rim = [&](double radius) {
+            return Point{tip.x + radius * std::cos(angle), tip.y + radius * std::sin(angle)};
+        };
+        EXPECT_TRUE(covers(stroke, rim(9.8))) << degrees;
+        EXPECT_FALSE(covers(stroke, rim(10.2))) << degrees;
+    }
+}
+
 TEST(StrokeGeometry, MitresEndWhereTheyWouldBeLongerThanTenWidths)
 {
     // A mitre is as long as the width divided by the sine of half the angle between the lines.

@@ -125,6 +125,10 @@ for case, message in zip(cases, messages):
 if messages[0] is None or b"Subject: Contact: Hazel Grid 2.3.1(57)\n" not in messages[0]:
     failures.append("what needs no encoding stays readable")
 
+fitting, longer = compose([mail("s" * (76 - len("Subject: "))), mail("s" * (77 - len("Subject: ")))])
+if b"Subject: " + b"s" * 67 + b"\n" not in fitting or b"ssss" in longer:
+    failures.append("a subject is left as it is up to the longest line and no further")
+
 # Addresses.
 good = ["a@b", "a.b+c_d-e'f@x-1.example", "A" * 64 + "@b", "a@" + "b" * 63 + ".c", "1@2"]
 bad = ["", "@", "a", "a@", "@b", "a@b@c", "a@b,c@d", "a@b c@d", "a b@c", "<a@b>", "Eve <a@b>", '"a"@b', "a@b\n", "a@b\0",

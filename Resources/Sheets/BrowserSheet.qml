@@ -335,8 +335,14 @@ Sheet {
                 Flickable {
                     id: scroller
 
+                    function showEnd() {
+                        contentY = contentHeight - height;
+                    }
+
                     anchors.fill: parent
                     contentHeight: Math.max(height, words.height + 2 * root.gap)
+                    onHeightChanged: if (again.activeFocus) showEnd()
+                    onContentHeightChanged: if (again.activeFocus) showEnd()
                     boundsBehavior: Flickable.StopAtBounds
                     interactive: contentHeight > height
                     clip: interactive
@@ -369,7 +375,7 @@ Sheet {
                             tint: root.page.tint.legibleOn(notice.color, root.dark)
                             pressedGround: root.pressed
                             Accessible.description: root.page.problemText
-                            onActiveFocusChanged: if (activeFocus) scroller.contentY = scroller.contentHeight - scroller.height
+                            onActiveFocusChanged: if (activeFocus) scroller.showEnd()
                             onClicked: root.load()
                         }
                     }

@@ -139,8 +139,20 @@ Sheet {
                     contentY = top + area.height + root.gap - height;
             }
 
+            // What has the focus stays in sight when the window changes.
+            function revealFocus() {
+                if (message.activeFocus)
+                    reveal(message, message.cursorRectangle);
+                else if (subject.activeFocus)
+                    reveal(subject, Qt.rect(0, 0, subject.width, subject.height));
+                else if (again.activeFocus)
+                    reveal(again, Qt.rect(0, 0, again.width, again.height));
+            }
+
             anchors { top: bar.bottom; left: parent.left; right: parent.right; bottom: parent.bottom; bottomMargin: root.narrow ? 0 : root.corner }
             contentHeight: lines.height
+            onHeightChanged: revealFocus()
+            onContentHeightChanged: revealFocus()
             boundsBehavior: Flickable.StopAtBounds
             interactive: contentHeight > height
             clip: true
@@ -212,6 +224,7 @@ Sheet {
                             tint: root.page.tint.legibleOn(root.dark ? "#3b2426" : "#fdeceb", root.dark)
                             pressedGround: root.pressed
                             Accessible.description: root.page.problem
+                            onActiveFocusChanged: scroller.revealFocus()
                             onClicked: root.page.send()
                         }
                     }
@@ -260,7 +273,7 @@ Sheet {
                         onTextEdited: root.page.subject = text
                         // A long one shows its beginning unless it is being written.
                         autoScroll: activeFocus
-                        onActiveFocusChanged: if (activeFocus) scroller.reveal(subject, Qt.rect(0, 0, width, height))
+                        onActiveFocusChanged: scroller.revealFocus()
                         Accessible.name: root.page.subjectText
                     }
                 }
@@ -296,7 +309,7 @@ Sheet {
                             if (event.accepted && !readOnly)
                                 root.page.paste(selectionStart, selectionEnd);
                         }
-                        onCursorRectangleChanged: if (activeFocus) scroller.reveal(message, cursorRectangle)
+                        onCursorRectangleChanged: scroller.revealFocus()
                         Component.onCompleted: {
                             root.page.fill(textDocument);
                             cursorPosition = 0;
@@ -369,8 +382,14 @@ Sheet {
             Flickable {
                 id: answers
 
+                function showEnd() {
+                    contentY = contentHeight - height;
+                }
+
                 anchors.fill: parent
                 contentHeight: keep.y + keep.height
+                onHeightChanged: if (keep.activeFocus) showEnd()
+                onContentHeightChanged: if (keep.activeFocus) showEnd()
                 boundsBehavior: Flickable.StopAtBounds
                 interactive: contentHeight > height
                 clip: interactive
@@ -415,7 +434,7 @@ Sheet {
                     tint: root.page.tint.legibleOn(root.dark ? "#2c2c2e" : "#ffffff", root.dark)
                     pressedGround: root.pressed
                     Accessible.description: root.page.discardQuestion
-                    onActiveFocusChanged: if (activeFocus) answers.contentY = answers.contentHeight - answers.height
+                    onActiveFocusChanged: if (activeFocus) answers.showEnd()
                     onClicked: question.close()
                 }
             }

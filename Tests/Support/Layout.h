@@ -20,6 +20,17 @@ public:
         return layout.m_flaws;
     }
 
+    /// Whether all of \a item can be seen in its window, and in each page that scrolls around it.
+    static bool isInSight(const QQuickItem *item)
+    {
+        for (const QQuickItem *outer = item->parentItem(); outer; outer = outer->parentItem()) {
+            if ((outer->inherits("QQuickFlickable") || !outer->parentItem())
+                && !contains(whole(outer), item->mapRectToItem(outer, whole(item))))
+                return false;
+        }
+        return true;
+    }
+
     /// The popup that \a part is in.
     static QQuickItem *popupOf(QQuickItem *part)
     {

@@ -502,6 +502,7 @@ TEST_P(BrowserSheetIn, IsWholeInWindowsThatAreResizedAtEveryTextSize)
             flaws.removeIf(
                 [this](const QString &flaw) { return flaw.contains(secure.mid(8)) && flaw.endsWith(u"cut"); });
             EXPECT_EQ(flaws, QStringList()) << size.width();
+            EXPECT_TRUE(Layout::isInSight(window->activeFocusItem())) << size.width();
         }
         root->dismiss();
         slide();

@@ -23,8 +23,15 @@ ApplicationWindow {
 
     // On the first launch only. No window is key yet, so that the guide goes into this one.
     Component.onCompleted: {
-        if (!backgroundOnly && app.guideText.length > 0 && guide.shouldShowGuide())
-            guide.showGuide(root);
+        if (backgroundOnly || app.guideText.length === 0 || !guide.shouldShowGuide())
+            return;
+        guide.showGuide(root);
+        // The guide is as large as the screen, which is what this window stands for. One that pictures are taken of
+        // keeps its size anyway.
+        if (animated) {
+            maximumWidth = width;
+            maximumHeight = height;
+        }
     }
 
     TQGuide {
@@ -32,6 +39,7 @@ ApplicationWindow {
 
         tintColor: root.app.tintColor
         descriptions: root.app.guideText
+        onCompleted: root.maximumWidth = root.maximumHeight = 16777215
     }
 
     onScreenNameChanged: {

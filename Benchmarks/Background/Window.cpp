@@ -121,14 +121,14 @@ struct Usage
     int frames;
 };
 
-// The process's share of the memory, in KiB: pages that others use too count in parts.
+// The memory that belongs to the process alone, in KiB. What files hold is shared with whoever else uses them.
 qint64 memory()
 {
     QFile status(QStringLiteral("/proc/self/smaps_rollup"));
     if (!status.open(QIODevice::ReadOnly))
         return 0;
     for (const QByteArray &row : status.readAll().split('\n')) {
-        if (row.startsWith("Pss:"))
+        if (row.startsWith("Anonymous:"))
             return row.simplified().split(' ').value(1).toLongLong();
     }
     return 0;

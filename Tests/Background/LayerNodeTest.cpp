@@ -788,7 +788,7 @@ TEST_F(LayerInItsOwnThread, RestsWhereNothingChangesAndWakesTheMainThreadOnceFor
     still.addAnimation({BasicAnimation::KeyPath::opacity, 1, 0, 0.3, now + 0.8, {}}, now);
     item->setLayer(still);
     QTest::qWait(100);
-    EXPECT_LE(wakeUpsWithin(1400), 4);
+    EXPECT_LE(wakeUpsWithin(1400), 2);
     EXPECT_TRUE(window->rests());
     EXPECT_LE(window->frames, 60) << "about twenty for each of the two animations";
     EXPECT_GE(window->frames, 15);

@@ -1,6 +1,6 @@
 # The front door. Everything below is CMake with the presets of CMakePresets.json.
 .DEFAULT_GOAL := help
-.PHONY: help run test sanitize fuzz storm coverage lint docs bench install packages pictures format clean
+.PHONY: help run test sanitize fuzz storm soak coverage lint docs bench install packages pictures format clean
 
 PREFIX ?= /usr/local
 ARGS ?=
@@ -12,12 +12,17 @@ sources = $(shell find Sources Example Tests Fuzzers Benchmarks -name '*.cpp' -o
 # clang-tidy reads one compiler's command line and generated headers, so it comes after a build.
 units = $(shell find Sources Example -name '*.cpp')
 
+# The tests of what needs no toolkit.
+plain = DriftPath.*:DriftRanges.*:TransitPoints.*:ControlPoint.*:ShuffledDistribution.*:SplitMix64.*:Layer.*:TickGrid.*:$\
+	StrokeGeometry.*:StrokeMask.*
+
 help:
 	@echo "make run        build and start the example (ARGS=\"--app birch --dark\"); pictures where there is no display"
 	@echo "make test       check the formatting and the QML files, build, run all tests and each fuzzer for 20 s"
-	@echo "make sanitize   run the tests under the address and undefined behaviour sanitizers"
+	@echo "make sanitize   run the tests under the sanitizers for addresses, behaviour and threads, and Valgrind"
 	@echo "make fuzz       feed every door with whatever comes, SECONDS=$(SECONDS) for each"
 	@echo "make storm      a million random calls and events"
+	@echo "make soak       a month of an app's life, in half an hour; draws what it held"
 	@echo "make coverage   which lines and branches of Sources the tests reach"
 	@echo "make lint       clang-tidy and clazy"
 	@echo "make docs       write the API reference to build/docs/html"
@@ -44,10 +49,17 @@ test:
 	$(MAKE) --no-print-directory fuzz SECONDS=20 FUZZ=
 
 sanitize:
-	tools/install-packages build run test
+	tools/install-packages build run test sanitize
 	cmake --preset sanitize
 	cmake --build --preset sanitize --target Tests
 	ctest --preset sanitize
+	cmake --preset threads
+	cmake --build --preset threads --target Tests
+	ctest --preset threads
+	cmake --preset release -DTQFOUNDATION_TESTS=ON
+	cmake --build --preset release --target Tests
+	QT_QPA_PLATFORM=offscreen valgrind -q --error-exitcode=1 --leak-check=full --errors-for-leak-kinds=definite \
+		$(release)/Tests/Tests --gtest_brief=1 --gtest_filter='$(plain)'
 
 fuzz:
 	tools/install-packages build test
@@ -59,6 +71,12 @@ storm:
 	tools/install-packages build run test
 	cmake --preset release -DTQFOUNDATION_TESTS=ON
 	cmake --build --preset release --target storm
+
+soak:
+	tools/install-packages build run test bench
+	cmake --preset release -DTQFOUNDATION_TESTS=ON
+	cmake --build --preset release --target Tests
+	cmake --build --preset release --target soak
 
 coverage:
 	tools/install-packages build run test coverage

@@ -1,6 +1,8 @@
 #include <TQFoundation/Color.h>
 #include <TQFoundation/TQApp.h>
 
+#include <QtGui/qrgb.h>
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -40,6 +42,27 @@ TEST(Color, LabelIsBlackOnLightAndWhiteOnDark)
 {
     EXPECT_EQ(Color::label().resolved(Appearance::light), (Rgba{0, 0, 0}));
     EXPECT_EQ(Color::label().resolved(Appearance::dark), (Rgba{1, 1, 1}));
+}
+
+TEST(Color, TheSystemsColorsAreTheUsualOnes)
+{
+    struct Usual
+    {
+        Color color;
+        QRgb light;
+        QRgb dark;
+    };
+    for (const auto &[color, light, dark] : {Usual{Color::systemBlue(), qRgb(0, 122, 255), qRgb(10, 132, 255)},
+                                             Usual{Color::systemGray(), qRgb(142, 142, 147), qRgb(142, 142, 147)},
+                                             Usual{Color::systemRed(), qRgb(255, 59, 48), qRgb(255, 69, 58)}}) {
+        for (const auto &[appearance, usual] : {std::pair(Appearance::light, light), {Appearance::dark, dark}}) {
+            const Rgba rgba = color.resolved(appearance);
+            EXPECT_FLOAT_EQ(rgba.red * 255, static_cast<float>(qRed(usual)));
+            EXPECT_FLOAT_EQ(rgba.green * 255, static_cast<float>(qGreen(usual)));
+            EXPECT_FLOAT_EQ(rgba.blue * 255, static_cast<float>(qBlue(usual)));
+            EXPECT_EQ(rgba.alpha, 1);
+        }
+    }
 }
 
 TEST(Color, EveryTintOfTheCatalogueCanBeReadOnLightAndDarkGround)

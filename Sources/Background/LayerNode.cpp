@@ -263,7 +263,6 @@ private:
         }
 
         RenderingFlags flags() const override { return BoundedRectRendering; }
-        StateFlags changedStates() const override { return {}; }
 
         // A little smaller, so that what the renderer rounds up does not reach into the next one.
         QRectF rect() const override

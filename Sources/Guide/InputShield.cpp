@@ -5,6 +5,7 @@
 #include <QtGui/qpointingdevice.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace TQFoundation {
 namespace {
@@ -165,11 +166,18 @@ bool InputShield::eventFilter(QObject *watched, QEvent *event)
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
-    case QEvent::TouchCancel:
         if (!takes(static_cast<QTouchEvent &>(*event)))
             return false;
         takeTouch(static_cast<QTouchEvent &>(*event));
         return true;
+    case QEvent::TouchCancel:
+        // It means every finger in the window and names none. Ours is no click when it is let go outside everything.
+        if (std::exchange(m_finger, std::nullopt)) {
+            constexpr QPointF outside(-1e6, -1e6);
+            send(QEvent::MouseMove, outside, outside, static_cast<QTouchEvent &>(*event));
+            send(QEvent::MouseButtonRelease, outside, outside, static_cast<QTouchEvent &>(*event));
+        }
+        return false;
     case QEvent::TabletPress:
     case QEvent::TabletMove:
     case QEvent::TabletRelease:
@@ -227,31 +235,32 @@ void InputShield::takeTouch(QTouchEvent &event)
         event.setExclusiveGrabber(point, nullptr);
         event.clearPassiveGrabbers(point);
     }
-    const auto send = [&](QEvent::Type type, const QEventPoint &point, QPointF position) {
-        const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-        const Qt::MouseButtons buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-        QMouseEvent shielded(type, position, position, point.globalPosition(), button, buttons, event.modifiers(),
-                             deviceForItems());
-        shielded.setTimestamp(event.timestamp());
-        if (m_window)
-            QCoreApplication::sendEvent(m_window, &shielded);
+    const auto sendAt = [&](QEvent::Type type, const QEventPoint &point) {
+        send(type, point.scenePosition(), point.globalPosition(), event);
     };
     for (const QEventPoint &point : points) {
         const bool isFinger = m_finger == point.id();
-        if (isFinger && event.type() == QEvent::TouchCancel) {
-            // Let go outside everything, it is no click.
-            m_finger.reset();
-            send(QEvent::MouseButtonRelease, point, {-1e6, -1e6});
-        } else if (!m_finger && event.type() == QEvent::TouchBegin) {
+        if (!m_finger && event.type() == QEvent::TouchBegin) {
             m_finger = point.id();
-            send(QEvent::MouseButtonPress, point, point.scenePosition());
+            sendAt(QEvent::MouseButtonPress, point);
         } else if (isFinger && point.state() == QEventPoint::Released) {
             m_finger.reset();
-            send(QEvent::MouseButtonRelease, point, point.scenePosition());
+            sendAt(QEvent::MouseButtonRelease, point);
         } else if (isFinger && point.state() == QEventPoint::Updated) {
-            send(QEvent::MouseMove, point, point.scenePosition());
+            sendAt(QEvent::MouseMove, point);
         }
     }
+}
+
+void InputShield::send(QEvent::Type type, QPointF position, QPointF globalPosition, const QTouchEvent &touch)
+{
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    const Qt::MouseButtons buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent shielded(type, position, position, globalPosition, button, buttons, touch.modifiers(),
+                         deviceForItems());
+    shielded.setTimestamp(touch.timestamp());
+    if (m_window)
+        QCoreApplication::sendEvent(m_window, &shielded);
 }
 
 void InputShield::mousePressEvent(QMouseEvent *event)

@@ -48,6 +48,7 @@ private:
     bool takes(const QPointerEvent &event) const;
     void takeMouse(QMouseEvent &event);
     void takeTouch(QTouchEvent &event);
+    void send(QEvent::Type type, QPointF position, QPointF globalPosition, const QTouchEvent &touch);
 
     QQuickItem *const m_overlay;
     QPointer<QQuickWindow> m_window;

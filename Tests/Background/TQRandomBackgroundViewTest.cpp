@@ -162,6 +162,7 @@ TEST_F(RandomBackground, TellsOfAColourOnlyWhenItIsNew)
     EXPECT_EQ(changes, 0);
     background.setColor(green);
     EXPECT_EQ(changes, 1);
+    EXPECT_EQ(background.property("color").value<Color>(), Color(green));
 }
 
 TEST_F(RandomBackground, NothingStopsWhenItIsTakenOutOfItsWindow)

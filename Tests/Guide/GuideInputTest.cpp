@@ -3,6 +3,7 @@
 
 #include <QtCore/qmimedata.h>
 #include <QtGui/qevent.h>
+#include <QtGui/qpa/qwindowsysteminterface.h>
 #include <QtGui/qpointingdevice.h>
 #include <QtQuick/qquickitem.h>
 
@@ -56,6 +57,7 @@ Item {
         id: popup
         x: 20; y: 200; width: 100; height: 100
         onAboutToHide: root.hear("hide")
+        Overlay.onPressed: root.hear("overlay")
     }
 }
 )";
@@ -221,6 +223,9 @@ TEST_F(GuideInput, AnOverlayInAViewLeavesTheRestOfTheWindowToTheHost)
     EXPECT_EQ(heard(), QString());
     QTest::mouseClick(&host.window, Qt::LeftButton, {}, {300, 500});
     EXPECT_NE(heard(), QString());
+    QTest::touchEvent(&host.window, touchScreen).press(0, {300, 500});
+    QTest::touchEvent(&host.window, touchScreen).release(0, {300, 500});
+    EXPECT_TRUE(heard().contains(QLatin1String("touch")));
 }
 
 TEST_F(GuideInput, NoPopupClosesUnderneath)
@@ -244,6 +249,7 @@ TEST_F(GuideInput, NoPopupClosesUnderneath)
         QTest::mouseClick(&host.window, Qt::LeftButton, {}, {380, 600});
         clock.pass(500);
         EXPECT_FALSE(popup()->property("visible").toBool()) << "afterwards it closes as before";
+        EXPECT_TRUE(heard().contains(QLatin1String("overlay"))) << "and its layer sees all that happens";
     }
 }
 
@@ -324,6 +330,19 @@ TEST_F(GuideInput, AStylusIsAPointerLikeAnyOther)
     EXPECT_EQ(heard(), QString());
 }
 
+TEST_F(GuideInput, AGestureOfATouchpadDoesNotReachTheHost)
+{
+    const auto guide = shown();
+    static_cast<void>(heard());
+    const QPointingDevice touchpad(QStringLiteral("touchpad"), 8, QInputDevice::DeviceType::TouchPad,
+                                   QPointingDevice::PointerType::Finger, QInputDevice::Capability::Position, 2, 1);
+    for (const Qt::NativeGestureType type : {Qt::BeginNativeGesture, Qt::ZoomNativeGesture, Qt::EndNativeGesture}) {
+        QNativeGestureEvent event(type, &touchpad, 2, {195, 300}, {195, 300}, {195, 300}, 0.5, {});
+        QCoreApplication::sendEvent(&host.window, &event);
+    }
+    EXPECT_EQ(heard(), QString());
+}
+
 // What the guide itself listens to.
 
 TEST_F(GuideInput, TheButtonTakesAClickATouchAndItsKeys)
@@ -343,6 +362,31 @@ TEST_F(GuideInput, TheButtonTakesAClickATouchAndItsKeys)
         QTest::keyClick(&host.window, key);
         EXPECT_EQ(taps(), ++expected) << key;
     }
+}
+
+TEST_F(GuideInput, OfTwoFingersTheFirstIsThePointer)
+{
+    const auto guide = shown();
+    clock.pass(600);
+    const QPoint middle = guide->nextButton()->mapToScene({30, 30}).toPoint();
+    QTest::touchEvent(&host.window, touchScreen).press(0, middle).press(1, {20, 20});
+    QTest::touchEvent(&host.window, touchScreen).release(0, middle).release(1, {20, 20});
+    EXPECT_EQ(taps(), 1);
+}
+
+TEST_F(GuideInput, ATouchThatTheSystemTakesAwayIsNoTap)
+{
+    const auto guide = shown();
+    clock.pass(600);
+    const QPoint middle = guide->nextButton()->mapToScene({30, 30}).toPoint();
+    QTest::touchEvent(&host.window, touchScreen).press(0, middle);
+    QWindowSystemInterface::handleTouchCancelEvent<QWindowSystemInterface::SynchronousDelivery>(&host.window,
+                                                                                                touchScreen);
+    EXPECT_FALSE(guide->nextButton()->property("pressed").toBool());
+    EXPECT_EQ(taps(), 0);
+    QTest::touchEvent(&host.window, touchScreen).press(0, middle);
+    QTest::touchEvent(&host.window, touchScreen).release(0, middle);
+    EXPECT_EQ(taps(), 1) << "and the next one is";
 }
 
 TEST_F(GuideInput, AKeyThatIsHeldCountsOnce)

@@ -16,7 +16,9 @@ constexpr char host[] = R"(
 Item {
     id: root
     property int completions: 0
+    property int changes: 0
     readonly property bool asked: guide.shouldShowGuide()
+    readonly property TQGuide guide: guide
     function start() { guide.showGuide(); }
     function startHere() { guide.showGuide(null, root); }
     width: 300; height: 300
@@ -25,6 +27,8 @@ Item {
         tintColor: TQApp.birch.tintColor
         descriptions: ["One", "Two"]
         onCompleted: ++root.completions
+        onTintColorChanged: ++root.changes
+        onDescriptionsChanged: ++root.changes
     }
 }
 )";
@@ -65,6 +69,22 @@ TEST_F(GuideOfAQmlHost, AsksBuildsAndShowsIt)
     clock.pass(600);
     EXPECT_FALSE(guideIn(app->window.contentItem()));
     EXPECT_FALSE(TQGuideView::shouldShowGuide());
+}
+
+TEST_F(GuideOfAQmlHost, TellsOfAChangeOnlyWhenItIsOne)
+{
+    auto *guide = app->item->property("guide").value<QObject *>();
+    const QStringList descriptions{QStringLiteral("One"), QStringLiteral("Two")};
+    const QVariant tint = QVariant::fromValue(TQApp(TQApp::birch).tintColor());
+    EXPECT_EQ(guide->property("descriptions"), QVariant(descriptions));
+    EXPECT_EQ(guide->property("tintColor"), tint);
+    app->item->setProperty("changes", 0);
+    guide->setProperty("descriptions", descriptions);
+    guide->setProperty("tintColor", tint);
+    EXPECT_EQ(app->item->property("changes"), QVariant(0));
+    guide->setProperty("descriptions", QStringList());
+    guide->setProperty("tintColor", QVariant::fromValue(Color::label()));
+    EXPECT_EQ(app->item->property("changes"), QVariant(2));
 }
 
 TEST_F(GuideOfAQmlHost, HandsTheFallbacksOn)

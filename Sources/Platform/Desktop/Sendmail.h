@@ -18,8 +18,8 @@ QString sendmailProgram(const QStringList &folders);
 
 /// Hands one message to a sendmail program, which passes it on to whom its header names. Main thread only.
 ///
-/// Nothing waits. A program that has the whole message goes on
-/// by itself when this object or the application goes; one that has not is ended, so that no half of a mail is sent.
+/// Nothing waits. A program that has the whole message goes on by itself when this object or the application goes; one
+/// that has not is ended with the application, so that no half of a mail is sent.
 class Sendmail : public QObject
 {
     Q_OBJECT

@@ -13,8 +13,11 @@
 #include <QtCore/qsettings.h>
 #include <QtCore/qtemporarydir.h>
 #include <QtCore/qtimer.h>
+#include <QtGui/qdesktopservices.h>
 #include <QtGui/qguiapplication.h>
+#include <QtGui/qpa/qwindowsysteminterface.h>
 #include <QtGui/qscreen.h>
+#include <QtQuick/qquickrendercontrol.h>
 #include <QtQuick/qquickwindow.h>
 #include <QtTest/qtest.h>
 
@@ -77,6 +80,17 @@ protected:
 };
 
 using DesktopHostInfo = DesktopPlatformTest;
+
+/// What stands in for the system's browser.
+class System final : public QObject
+{
+    Q_OBJECT
+
+public:
+    QList<QUrl> opened;
+
+    Q_INVOKABLE void open(const QUrl &url) { opened += url; }
+};
 
 TEST_F(DesktopPlatformTest, TheScreenIsThePrimaryOne)
 {
@@ -277,6 +291,61 @@ TEST_F(DesktopPlatformTest, OneSceneHoldsTheVisibleWindowsAndTheFocusedOneIsKey)
         EXPECT_EQ(window.isKey, window.window == &shown);
 }
 
+TEST_F(DesktopPlatformTest, TheSceneIsInTheStateOfTheApplication)
+{
+    const auto stateAfter = [this](Qt::ApplicationState state) {
+        QWindowSystemInterface::handleApplicationStateChanged<QWindowSystemInterface::SynchronousDelivery>(state);
+        return platform.connectedScenes().value(0).activationState;
+    };
+    EXPECT_EQ(stateAfter(Qt::ApplicationActive), ActivationState::foregroundActive);
+    EXPECT_EQ(stateAfter(Qt::ApplicationInactive), ActivationState::foregroundInactive);
+    EXPECT_EQ(stateAfter(Qt::ApplicationHidden), ActivationState::background);
+    EXPECT_EQ(stateAfter(Qt::ApplicationSuspended), ActivationState::background);
+}
+
+TEST_F(DesktopPlatformTest, AWindowIsKeyWhereAWindowInsideItHasTheFocus)
+{
+    QQuickWindow window;
+    QWindow inside(&window);
+    window.show();
+    inside.show();
+    inside.requestActivate();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QGuiApplication::focusWindow() == &inside; }));
+    const QList<SceneWindow> windows = platform.connectedScenes().value(0).windows;
+    ASSERT_EQ(windows.size(), 1);
+    EXPECT_TRUE(windows[0].window == &window && windows[0].isKey);
+}
+
+TEST_F(DesktopPlatformTest, AWindowThatAnotherOneShowsIsKeyWithIt)
+{
+    /// As a host of widgets or of another toolkit has it.
+    class Control final : public QQuickRenderControl
+    {
+    public:
+        QWindow *outer = nullptr;
+        QWindow *renderWindow(QPoint *) override { return outer; }
+    };
+    QWindow outer;
+    Control control;
+    control.outer = &outer;
+    QQuickWindow shown(&control);
+    shown.setVisible(true);
+    outer.show();
+    outer.requestActivate();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QGuiApplication::focusWindow() == &outer; }));
+    for (const SceneWindow &window : platform.connectedScenes().value(0).windows)
+        EXPECT_TRUE(window.isKey);
+}
+
+TEST_F(DesktopPlatformTest, AnUrlIsForTheSystem)
+{
+    System system;
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), &system, "open");
+    platform.openUrl(QUrl(QStringLiteral("https://links.example/a?b#c")));
+    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+    EXPECT_EQ(system.opened, QList{QUrl(QStringLiteral("https://links.example/a?b#c"))});
+}
+
 TEST_F(DesktopPlatformTest, ATimerFiresAtOnceAndThenTicksOnItsGrid)
 {
     int ticks = 0;
@@ -381,3 +450,5 @@ TEST(InstalledPlatform, IsADesktopUntilAnotherIsInstalledAndComesBack)
 
 } // namespace
 } // namespace TQFoundation
+
+#include "DesktopPlatformTest.moc"

@@ -75,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(
                     list("<key>k</key><date>yesterday</date>"), list("<key>k</key><true>no</true>"),
                     list("<key>k</key><unknown/>"), list("<key>k</key><string>a<b/></string>"),
                     list("<key>k</key><string>&undeclared</string>"), list("<key>k</key><string>\xff\xfe</string>"),
-                    list("<key><b/></key><string>v</string>")));
+                    list("<key><b/></key><string>v</string>"), list("&elsewhere;<key>k</key><string>v</string>")));
 
 TEST(InfoPlist, OneThatDeclaresEntitiesHasNoEntries)
 {

@@ -16,6 +16,8 @@
 #include <QtNetwork/qtcpserver.h>
 #include <QtQuick/qquicktextdocument.h>
 
+#include <csignal>
+#include <cstdlib>
 #include <sys/stat.h>
 
 namespace TQFoundation {
@@ -325,9 +327,10 @@ TEST_F(MailSheet, AProgramThatReadsNothingHarmsNobody)
 
 TEST_F(MailSheet, AfterThirtySecondsWithoutAnswerSaysThatTheMailMayHaveGone)
 {
-    makeProgram("exec sleep 1000");
+    makeProgram("echo $$ > '" + path("process") + "'; exec sleep 1000");
     compose();
     click(button("Send"));
+    ASSERT_TRUE(comes([this] { return kept("process").endsWith('\n'); }));
     platform->advance(29.9);
     settle();
     EXPECT_FALSE(isProblemShown());
@@ -336,6 +339,7 @@ TEST_F(MailSheet, AfterThirtySecondsWithoutAnswerSaysThatTheMailMayHaveGone)
     EXPECT_TRUE(text("There has been no answer for 30 seconds. Your message may already have been sent; if so, trying "
                      "again sends it twice."));
     EXPECT_TRUE(isShown());
+    EXPECT_TRUE(comes([this] { return ::kill(kept("process").trimmed().toInt(), 0) != 0; })) << "it is ended";
     makeKeepingProgram();
     click(button("Try Again"));
     ASSERT_TRUE(comes([this] { return !isShown(); }));
@@ -367,6 +371,28 @@ TEST_F(MailSheet, TheDelegateIsToldOnce)
     QMetaObject::invokeMethod(cancel, "clicked");
     slide();
     EXPECT_EQ(root->results, QList{Result::sent});
+}
+
+TEST_F(MailSheet, ADelegateThatLeavesTheSheetOpenIsToldOnceToo)
+{
+    class Leaving final : public ViewController
+    {
+    public:
+        QList<MailComposeResult> results;
+        void mailComposeController(MailComposer *, MailComposeResult result, const QString &) override
+        {
+            results += result;
+        }
+    };
+    const auto leaving = std::make_shared<Leaving>();
+    const auto composer = desktop.makeMailComposer();
+    composer->setMailComposeDelegate(leaving);
+    root->present(composer);
+    slide();
+    click(button("Cancel"));
+    click(button("Cancel"));
+    EXPECT_TRUE(isShown());
+    EXPECT_EQ(leaving->results, QList{Result::cancelled});
 }
 
 TEST_F(MailSheet, WithoutADelegateTheComposerDismissesItself)
@@ -537,6 +563,35 @@ TEST_F(MailSheet, AMailThatIsOnItsWayGoesOnWhenTheWindowGoes)
     settle();
     ASSERT_TRUE(comes([this] { return !kept("mail").isEmpty(); }));
     EXPECT_EQ(sentHtml().size(), html.size());
+}
+
+// Sends a mail to a program that never ends, and lets the application end. Whether the program goes on.
+#define EXPECT_GOES_ON(letters, goesOn)                                                                                \
+    EXPECT_EXIT(                                                                                                       \
+        {                                                                                                              \
+            makeProgram("head -c 1000 > '" + path("mail") + "'; echo $$ > '" + path("process")                         \
+                        + "'; exec sleep 1000 < /dev/null");                                                           \
+            compose(QString(letters, u'x'));                                                                           \
+            click(button("Send"));                                                                                     \
+            comes([this] { return kept("process").endsWith('\n'); });                                                  \
+            root.reset();                                                                                              \
+            window.reset();                                                                                            \
+            settle();                                                                                                  \
+            QCoreApplication::instance()->~QCoreApplication();                                                         \
+            const int process = kept("process").trimmed().toInt();                                                     \
+            const bool isAlive = process > 0 && ::kill(process, SIGKILL) == 0;                                         \
+            std::_Exit(isAlive == (goesOn) ? 0 : 1);                                                                   \
+        },                                                                                                             \
+        testing::ExitedWithCode(0), "")
+
+TEST_F(MailSheet, AProgramThatHasTheWholeMailGoesOnWhenTheApplicationEnds)
+{
+    EXPECT_GOES_ON(1000, true);
+}
+
+TEST_F(MailSheet, AProgramThatHasHalfOfTheMailIsEndedWithTheApplication)
+{
+    EXPECT_GOES_ON(3000000, false);
 }
 
 TEST_F(MailSheet, FitsEveryWindowInEveryLanguage)

@@ -25,6 +25,11 @@ long joins(const StrokeGeometry &stroke)
     return std::ranges::count_if(stroke.parts, &StrokePart::isJoin);
 }
 
+long bends(const StrokeGeometry &stroke)
+{
+    return std::ranges::count_if(stroke.parts, &StrokePart::isBend);
+}
+
 bool covers(const StrokeGeometry &stroke, Point place)
 {
     return std::ranges::any_of(stroke.parts, [&](const StrokePart &part) {
@@ -49,6 +54,7 @@ TEST(StrokeGeometry, ARightAngleGetsItsMitre)
 {
     const StrokeGeometry stroke = strokeGeometry(line({{0, 0}, {20, 0}, {20, 20}}), 2);
     EXPECT_EQ(joins(stroke), 1);
+    EXPECT_EQ(bends(stroke), 0) << "it is a corner";
     EXPECT_TRUE(covers(stroke, {20.99, -0.99}));
     EXPECT_FALSE(covers(stroke, {21.01, -0.99}));
 }
@@ -56,6 +62,7 @@ TEST(StrokeGeometry, ARightAngleGetsItsMitre)
 TEST(StrokeGeometry, AHairpinIsRoundAllTheWayAround)
 {
     const StrokeGeometry stroke = strokeGeometry({{0, 0}, {{{100, 0}, {100, 0.4}, {0, 0.4}}}, false}, 20);
+    EXPECT_EQ(bends(stroke), joins(stroke));
     constexpr Point tip{75, 0.2};
     for (int degrees = -88; degrees <= 88; degrees += 2) {
         const double angle = degrees * std::numbers::pi / 180;

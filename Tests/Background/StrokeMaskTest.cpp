@@ -121,7 +121,12 @@ TEST(StrokeMask, GrowingInAnyStepsGivesTheSamePicture)
         for (double end = 0; end < length; end += std::uniform_real_distribution<double>(0.01, 30)(random))
             mask.drawUpTo(end);
         mask.drawUpTo(length);
-        EXPECT_EQ(picture(mask, 780, 1688).pixels, drawn(path, 1, 2, 780, 1688).pixels);
+        StrokeMask byParts = maskOf(path, 2);
+        for (const StrokePart &part : strokeGeometry(path, 2).parts)
+            byParts.drawUpTo(part.to);
+        const std::vector<std::uint8_t> atOnce = drawn(path, 1, 2, 780, 1688).pixels;
+        EXPECT_EQ(picture(mask, 780, 1688).pixels, atOnce);
+        EXPECT_EQ(picture(byParts, 780, 1688).pixels, atOnce);
     }
 }
 
@@ -221,8 +226,8 @@ TEST_P(AgainstCairo, NoPixelIsFarOff)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(AtScales, AgainstCairo, testing::Values(1, 1.5, 2, 3),
-                         [](const auto &scale) { return std::to_string(std::lround(10 * scale.param)) + "Tenths"; });
+INSTANTIATE_TEST_SUITE_P(AtScales, AgainstCairo, testing::Values(1, 1.25, 1.5, 2, 3),
+                         [](const auto &scale) { return std::to_string(std::lround(100 * scale.param)) + "Percent"; });
 
 } // namespace
 } // namespace TQFoundation

@@ -6,7 +6,9 @@
 #include <TQFoundation/TQApp.h>
 
 #include <QtGui/qguiapplication.h>
+#include <QtGui/qpa/qwindowsysteminterface.h>
 #include <QtGui/qpalette.h>
+#include <QtGui/qscreen.h>
 #include <QtQuick/qquickitem.h>
 
 #include <algorithm>
@@ -255,6 +257,26 @@ TEST_F(GuideNib, ContentStaysInsideAHostThatClips)
     window.grabWindow();
     EXPECT_EQ(guide->shownArea(), QRectF(100, 0, 100, 150)) << "the part that is out of the window does not count";
     guide->setParentItem(nullptr);
+}
+
+TEST_F(GuideNib, InAWindowThatHasTheWholeScreenContentStaysClearOfTheSystemsBars)
+{
+    QScreen *screen = window.screen();
+    const QRect whole = screen->geometry();
+    const auto setBars = [&](int top, int bottom) {
+        QWindowSystemInterface::handleScreenGeometryChange(screen, whole, whole.adjusted(0, top, 0, -bottom));
+        QCoreApplication::processEvents();
+    };
+    platform->bounds = whole.size();
+    window.showFullScreen();
+    setBars(30, 20);
+    const auto guide = shown({longText()});
+    clock.pass(600);
+    window.grabWindow();
+    EXPECT_EQ(guide->shownArea(), QRectF(0, 30, whole.width(), whole.height() - 50));
+    setBars(0, 0);
+    window.grabWindow();
+    EXPECT_EQ(guide->shownArea(), QRectF(QPointF(), whole.size()));
 }
 
 TEST_F(GuideNib, IsMirroredWhereTheLanguageRunsFromTheRight)

@@ -121,6 +121,23 @@ TEST(StrokeGeometry, PartsFollowOneAnotherWithoutAGap)
     }
 }
 
+TEST(StrokeGeometry, LengthRunsAlongEachStretchFromItsStartToItsEnd)
+{
+    std::mt19937_64 random(3);
+    for (const StrokePart &part : strokeGeometry(Testing::randomPath(random), 2).parts) {
+        if (part.isJoin())
+            continue;
+        const HalfPlane along = lengthAlong(part);
+        const auto middle = [](Point a, Point b) { return Point{(a.x + b.x) / 2, (a.y + b.y) / 2}; };
+        const Point start = middle(part.corners[0], part.corners[3]);
+        const Point end = middle(part.corners[1], part.corners[2]);
+        EXPECT_NEAR(along.at(start), part.from, 1e-9);
+        EXPECT_NEAR(along.at(end), part.to, 1e-9);
+        EXPECT_NEAR(along.at({start.x - (end.y - start.y), start.y + (end.x - start.x)}), part.from, 1e-9)
+            << "and not across it";
+    }
+}
+
 TEST(StrokeGeometry, TheLengthIsThatOfTheCurve)
 {
     // A quarter of a circle, as well as one curve can be one.

@@ -49,7 +49,12 @@ Item {
         onContainsMouseChanged: root.hear("contains")
         onWheel: root.hear("areaWheel")
     }
-    MultiPointTouchArea { anchors.fill: parent; mouseEnabled: false; onTouchUpdated: root.hear("touch") }
+    MultiPointTouchArea {
+        anchors.fill: parent
+        mouseEnabled: false
+        onTouchUpdated: root.hear("touch")
+        onCanceled: root.hear("cancel")
+    }
     DropArea { anchors.fill: parent; onEntered: root.hear("drag"); onDropped: root.hear("drop") }
     TextField { id: editor; onTextEdited: root.hear("edit") }
     Button { y: 100; focusPolicy: Qt.TabFocus; onClicked: root.hear("click"); onActiveFocusChanged: root.hear("focus") }
@@ -110,6 +115,13 @@ protected:
         QTest::touchEvent(&host.window, touchScreen).press(0, place);
         QTest::touchEvent(&host.window, touchScreen).move(0, place + QPoint(0, 30)).press(1, place + QPoint(9, 9));
         QTest::touchEvent(&host.window, touchScreen).release(0, place).release(1, place);
+    }
+
+    // As the system does when a gesture of its own begins.
+    void cancelTouches()
+    {
+        QWindowSystemInterface::handleTouchCancelEvent<QWindowSystemInterface::SynchronousDelivery>(&host.window,
+                                                                                                    touchScreen);
     }
 
     void type()
@@ -226,6 +238,9 @@ TEST_F(GuideInput, AnOverlayInAViewLeavesTheRestOfTheWindowToTheHost)
     QTest::touchEvent(&host.window, touchScreen).press(0, {300, 500});
     QTest::touchEvent(&host.window, touchScreen).release(0, {300, 500});
     EXPECT_TRUE(heard().contains(QLatin1String("touch")));
+    QTest::touchEvent(&host.window, touchScreen).press(0, {300, 500});
+    cancelTouches();
+    EXPECT_TRUE(heard().contains(QLatin1String("cancel")));
 }
 
 TEST_F(GuideInput, NoPopupClosesUnderneath)
@@ -380,9 +395,9 @@ TEST_F(GuideInput, ATouchThatTheSystemTakesAwayIsNoTap)
     clock.pass(600);
     const QPoint middle = guide->nextButton()->mapToScene({30, 30}).toPoint();
     QTest::touchEvent(&host.window, touchScreen).press(0, middle);
-    QWindowSystemInterface::handleTouchCancelEvent<QWindowSystemInterface::SynchronousDelivery>(&host.window,
-                                                                                                touchScreen);
+    cancelTouches();
     EXPECT_FALSE(guide->nextButton()->property("pressed").toBool());
+    EXPECT_FALSE(host.window.mouseGrabberItem());
     EXPECT_EQ(taps(), 0);
     QTest::touchEvent(&host.window, touchScreen).press(0, middle);
     QTest::touchEvent(&host.window, touchScreen).release(0, middle);

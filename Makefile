@@ -21,7 +21,7 @@ help:
 	@echo "make test       check the formatting and the QML files, build, run all tests and each fuzzer for 20 s"
 	@echo "make sanitize   run the tests under the sanitizers for addresses, behaviour and threads, and Valgrind"
 	@echo "make fuzz       feed every door with whatever comes, SECONDS=$(SECONDS) for each"
-	@echo "make storm      a million random calls and events"
+	@echo "make storm      a million random calls and events, under the sanitizers"
 	@echo "make soak       a month of an app's life, in half an hour; draws what it held"
 	@echo "make coverage   which lines and branches of Sources the tests reach"
 	@echo "make lint       clang-tidy and clazy"
@@ -68,9 +68,9 @@ fuzz:
 	ctest --preset fuzz $(FUZZ)
 
 storm:
-	tools/install-packages build run test
-	cmake --preset release -DTQFOUNDATION_TESTS=ON
-	cmake --build --preset release --target storm
+	tools/install-packages build run test sanitize
+	cmake --preset sanitize
+	cmake --build --preset sanitize --target storm
 
 soak:
 	tools/install-packages build run test bench
@@ -81,7 +81,7 @@ soak:
 coverage:
 	tools/install-packages build run test coverage
 	cmake --preset coverage
-	cmake --build --preset coverage --target Tests
+	cmake --build --preset coverage --target Tests ComposeMail
 	find build/coverage -name '*.gcda' -delete
 	ctest --preset coverage
 	gcovr --root . --filter Sources/ --exclude-throw-branches --exclude-unreachable-branches \

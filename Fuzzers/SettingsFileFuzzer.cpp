@@ -62,15 +62,14 @@ bool isList(const QVariant &value)
 }
 
 // All settings but the flag, as the texts that stand for them: a file keeps no types, and some of those that it tells
-// of have neither a text nor an equality. Broken names, such as "/name" and none at all, are ones that no app can ask
-// for: what it asks for is looked up without slashes that separate nothing.
+// of have neither a text nor an equality.
 QMap<QString, QStringList> others(const QString &path)
 {
     const QSettings settings(path, QSettings::NativeFormat);
     QMap<QString, QStringList> values;
     const QStringList keys = settings.allKeys();
     for (const QString &key : keys) {
-        if (key == flag || key.split(u'/').contains(QString()))
+        if (key == flag)
             continue;
         const QVariant value = settings.value(key);
         values.insert(key, isList(value) ? value.toStringList() : QStringList{value.toString()});

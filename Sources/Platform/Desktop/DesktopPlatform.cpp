@@ -139,8 +139,9 @@ bool isText(const QSettings &settings)
 #endif
 }
 
-// Whether all that the settings hold can be read: what cannot be would be lost when they are written anew. Asked of a
-// copy, because Qt parses a file once in a process and tells of errors only whoever came first.
+// Whether all that the settings hold can be read and asked for: what cannot be would be lost when they are written
+// anew, as would what a name with an empty part is then taken for. Asked of a copy, because Qt parses a file once in a
+// process and tells of errors only whoever came first.
 bool isWhole(const QSettings &settings)
 {
     QFile file(settings.fileName());
@@ -154,8 +155,9 @@ bool isWhole(const QSettings &settings)
     copy.write(file.readAll());
     copy.close();
     const QSettings read(copy.fileName(), settings.format());
-    static_cast<void>(read.allKeys());
-    return read.status() == QSettings::NoError;
+    const QStringList keys = read.allKeys();
+    const auto hasName = [](const QString &key) { return !key.split(u'/').contains(QString()); };
+    return read.status() == QSettings::NoError && std::ranges::all_of(keys, hasName);
 }
 
 ActivationState activationState(Qt::ApplicationState state)

@@ -167,6 +167,25 @@ TEST_P(MeshAtScales, NoPixelIsPaintedTwice)
     }
 }
 
+// All around the border of one of the mesh's squares.
+TEST_P(MeshAtScales, AnEndIsDrawnWhereverItLies)
+{
+    const double scale = GetParam();
+    const auto size = static_cast<int>(64 * scale);
+    for (const Point start : {Point{8, 37}, Point{8, 60}, Point{35, 3}, Point{60, 35}, Point{37, 60}}) {
+        for (double shift = -2; shift <= 10; shift += 0.125) {
+            for (const Point end : {Point{32 + shift, 36}, Point{36, 32 + shift}}) {
+                const Path path{start, {CubicCurve{start, end, end}}};
+                const Drawing drawing(strokeMesh(strokeGeometry(path, 2), scale), 1e9, scale, size, size);
+                EXPECT_EQ(Testing::differences(path, 1, scale, size, size,
+                                               [&](int x, int y) { return 51 * drawing.covered(x, y); }),
+                          "")
+                    << start.x << ',' << start.y << " to " << end.x << ',' << end.y;
+            }
+        }
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(StrokeMesh, MeshAtScales, testing::Values(1, 1.5, 2, 3),
                          [](const auto &scale) { return std::to_string(std::lround(10 * scale.param)) + "Tenths"; });
 

@@ -388,6 +388,17 @@ TEST_F(LayerInAWindow, IsAsTranslucentAsItsItem)
     EXPECT_NEAR(darkestOf(window.grabWindow()), darkest / 2.0, 1);
 }
 
+TEST_F(LayerInAWindow, ShrunkToNothingItIsNothingAndComesBack)
+{
+    CountedWindow window({100, 40});
+    LayerItem item(window.contentItem());
+    item.setLayer(Testing::driftingLayer(straight({5, 20}, {95, 20}), -9.1));
+    item.setScale(0);
+    EXPECT_EQ(darkestOf(window.grabWindow()), 0);
+    item.setScale(1);
+    EXPECT_NEAR(darkestOf(window.grabWindow()), darkest, 1);
+}
+
 TEST_F(LayerInAWindow, FramesKeepComingWhileItMovesAndStopWhenNothingChanges)
 {
     CountedWindow window;

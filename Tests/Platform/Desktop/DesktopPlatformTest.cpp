@@ -255,6 +255,16 @@ TEST_F(DesktopPlatformTest, ACorruptFileKeepsAllThatItHolds)
     }
 }
 
+TEST_F(DesktopPlatformTest, ASettingIsStoredAlsoWithoutAPlaceForTemporaryFiles)
+{
+    writeSettings("[General]\nname=Grove\n");
+    qputenv("TMPDIR", "/dev/null/nowhere");
+    platform.setUserDefault(QStringLiteral("Flag"), true);
+    qunsetenv("TMPDIR");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(readSettings(), "[General]\nFlag=true\nname=Grove\n");
+}
+
 TEST_F(DesktopPlatformTest, WhereTheStoreCannotBeWrittenNothingHappens)
 {
     // A folder in place of the file; permissions would not stop the superuser.

@@ -395,6 +395,18 @@ TEST_F(MailSheet, ADelegateThatLeavesTheSheetOpenIsToldOnceToo)
     EXPECT_EQ(leaving->results, QList{Result::cancelled});
 }
 
+TEST_F(MailSheet, OutsideOfAWindowItSaysThatItFailed)
+{
+    QQuickItem view;
+    const auto nowhere = std::make_shared<Delegate>(&view);
+    const auto composer = desktop.makeMailComposer();
+    composer->setMailComposeDelegate(nowhere);
+    nowhere->present(composer);
+    EXPECT_EQ(nowhere->results, QList{Result::failed});
+    EXPECT_EQ(nowhere->errors, QStringList{QStringLiteral("Your message could not be sent.")});
+    EXPECT_FALSE(nowhere->presentedViewController());
+}
+
 TEST_F(MailSheet, WithoutADelegateTheComposerDismissesItself)
 {
     const auto composer = desktop.makeMailComposer();

@@ -344,7 +344,9 @@ TEST_F(DesktopPlatformTest, AWindowThatAnotherOneShowsIsKeyWithIt)
     outer.show();
     outer.requestActivate();
     ASSERT_TRUE(QTest::qWaitFor([&] { return QGuiApplication::focusWindow() == &outer; }));
-    for (const SceneWindow &window : platform.connectedScenes().value(0).windows)
+    const QList<SceneWindow> windows = platform.connectedScenes().value(0).windows;
+    ASSERT_EQ(windows.size(), 2);
+    for (const SceneWindow &window : windows)
         EXPECT_TRUE(window.isKey);
 }
 

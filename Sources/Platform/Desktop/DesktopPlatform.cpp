@@ -141,7 +141,7 @@ bool isText(const QSettings &settings)
 
 // Whether all that the settings hold can be read and asked for: what cannot be would be lost when they are written
 // anew, as would what a name with an empty part is then taken for. Asked of a copy, because Qt parses a file once in a
-// process and tells of errors only whoever came first.
+// process and tells of errors only whoever came first. Where there is no room for a copy, nothing is known to be whole.
 bool isWhole(const QSettings &settings)
 {
     QFile file(settings.fileName());
@@ -149,15 +149,17 @@ bool isWhole(const QSettings &settings)
         return true;
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    QTemporaryFile copy;
-    if (!copy.open())
-        return true;
-    copy.write(file.readAll());
-    copy.close();
-    const QSettings read(copy.fileName(), settings.format());
-    const QStringList keys = read.allKeys();
-    const auto hasName = [](const QString &key) { return !key.split(u'/').contains(QString()); };
-    return read.status() == QSettings::NoError && std::ranges::all_of(keys, hasName);
+    const QByteArray content = file.readAll();
+    for (const QString &folder : {QDir::tempPath(), QFileInfo(file).path()}) {
+        QTemporaryFile copy(QString(folder + u"/settings.XXXXXX"));
+        if (!copy.open() || copy.write(content) != content.size() || !copy.flush())
+            continue;
+        const QSettings read(copy.fileName(), settings.format());
+        const QStringList keys = read.allKeys();
+        const auto hasName = [](const QString &key) { return !key.split(u'/').contains(QString()); };
+        return read.status() == QSettings::NoError && std::ranges::all_of(keys, hasName);
+    }
+    return false;
 }
 
 ActivationState activationState(Qt::ApplicationState state)

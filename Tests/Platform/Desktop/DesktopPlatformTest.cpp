@@ -21,6 +21,9 @@
 #include <QtQuick/qquickwindow.h>
 #include <QtTest/qtest.h>
 
+#include <csignal>
+
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace TQFoundation {
@@ -258,11 +261,40 @@ TEST_F(DesktopPlatformTest, ACorruptFileKeepsAllThatItHolds)
 TEST_F(DesktopPlatformTest, ASettingIsStoredAlsoWithoutAPlaceForTemporaryFiles)
 {
     writeSettings("[General]\nname=Grove\n");
-    qputenv("TMPDIR", "/dev/null/nowhere");
+    qputenv("TMPDIR", "/proc");
     platform.setUserDefault(QStringLiteral("Flag"), true);
     qunsetenv("TMPDIR");
     QCoreApplication::processEvents();
     EXPECT_EQ(readSettings(), "[General]\nFlag=true\nname=Grove\n");
+    EXPECT_EQ(QFileInfo(settingsPath()).dir().entryList(QDir::Files).size(), 1);
+}
+
+TEST_F(DesktopPlatformTest, ACorruptFileKeepsAllThatItHoldsAlsoWithoutAPlaceForTemporaryFiles)
+{
+    const char *corrupt = "[General]\nname=Grove\nhalf a line";
+    writeSettings(corrupt);
+    qputenv("TMPDIR", "/proc");
+    platform.setUserDefault(QStringLiteral("Flag"), true);
+    qunsetenv("TMPDIR");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(readSettings(), corrupt);
+}
+
+// The disk is full when the setting is made, and has room again when it would be written.
+TEST_F(DesktopPlatformTest, OnAFullDiskACorruptFileKeepsAllThatItHolds)
+{
+    const char *corrupt = "[General]\nname=Grove\nhalf a line";
+    writeSettings(corrupt);
+    const auto tooLarge = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit room;
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &room), 0);
+    const rlimit full{0, room.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &full), 0);
+    platform.setUserDefault(QStringLiteral("Flag"), true);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &room), 0);
+    std::signal(SIGXFSZ, tooLarge);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(readSettings(), corrupt);
 }
 
 TEST_F(DesktopPlatformTest, WhereTheStoreCannotBeWrittenNothingHappens)

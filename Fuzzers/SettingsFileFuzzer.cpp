@@ -96,6 +96,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         platform.setUserDefault(flag, true);
     }
     if (contents(path) != before) {
+        require(QString::fromUtf8(before).toUtf8() == before);
         const QMap<QString, QStringList> kept = others(copy);
         const QString again = path + u".again.conf";
         require(QFile::copy(path, again));

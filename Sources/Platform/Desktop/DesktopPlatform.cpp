@@ -140,8 +140,9 @@ bool isText(const QSettings &settings)
 }
 
 // Whether all that the settings hold can be read and asked for: what cannot be would be lost when they are written
-// anew, as would what a name with an empty part is then taken for. Asked of a copy, because Qt parses a file once in a
-// process and tells of errors only whoever came first. Where there is no room for a copy, nothing is known to be whole.
+// anew, as would what a name with an empty part is then taken for, and what is no text in UTF-8 or UTF-16. Asked of a
+// copy, because Qt parses a file once in a process and tells of errors only whoever came first. Where there is no room
+// for a copy, nothing is known to be whole.
 bool isWhole(const QSettings &settings)
 {
     QFile file(settings.fileName());
@@ -150,14 +151,19 @@ bool isWhole(const QSettings &settings)
     if (!file.open(QIODevice::ReadOnly))
         return false;
     const QByteArray content = file.readAll();
+    if (!QUtf8StringView(content).isValidUtf8())
+        return false;
     for (const QString &folder : {QDir::tempPath(), QFileInfo(file).path()}) {
         QTemporaryFile copy(QString(folder + u"/settings.XXXXXX"));
         if (!copy.open() || copy.write(content) != content.size() || !copy.flush())
             continue;
         const QSettings read(copy.fileName(), settings.format());
         const QStringList keys = read.allKeys();
-        const auto hasName = [](const QString &key) { return !key.split(u'/').contains(QString()); };
-        return read.status() == QSettings::NoError && std::ranges::all_of(keys, hasName);
+        const auto stays = [&read](const QString &key) {
+            return !key.split(u'/').contains(QString())
+                && std::ranges::all_of(read.value(key).toStringList(), &QString::isValidUtf16);
+        };
+        return read.status() == QSettings::NoError && std::ranges::all_of(keys, stays);
     }
     return false;
 }

@@ -246,9 +246,11 @@ TEST_F(DesktopPlatformTest, ASettingOfTheHostIsNotLost)
 
 TEST_F(DesktopPlatformTest, ACorruptFileKeepsAllThatItHolds)
 {
-    for (const char *corrupt : {"[General]\nname=Grove\nhalf a line", "\x7f\x45\x4c\x46\x02\x01\nname=Grove\n[Gen",
-                                "[General\nname=Grove\n", "[General]\nname=Grove\n/name=Birch\n",
-                                "[General]\nname/=Grove\n", "[General]\n=Grove\n", "[/]\nname=Grove\n"}) {
+    for (const char *corrupt :
+         {"[General]\nname=Grove\nhalf a line", "\x7f\x45\x4c\x46\x02\x01\nname=Grove\n[Gen", "[General\nname=Grove\n",
+          "[General]\nname=Grove\n/name=Birch\n", "[General]\nname/=Grove\n", "[General]\n=Grove\n",
+          "[/]\nname=Grove\n", "[General]\nname=Gr\xFCn\n", "[General]\nname=\\xdddd\n",
+          "[General]\nnames=Grove, \\xd83c\n"}) {
         writeSettings(corrupt);
         DesktopPlatform fresh;
         EXPECT_NE(fresh.userDefault(QStringLiteral("Flag")), QVariant(true));

@@ -8,6 +8,7 @@
 #include <QtCore/qdir.h>
 #include <QtCore/qfile.h>
 #include <QtCore/qsettings.h>
+#include <QtCore/qstringconverter.h>
 #include <QtCore/qtemporarydir.h>
 #include <QtGui/qguiapplication.h>
 
@@ -62,7 +63,7 @@ bool isList(const QVariant &value)
 }
 
 // All settings but the flag, as the texts that stand for them: a file keeps no types, and some of those that it tells
-// of have neither a text nor an equality.
+// of have neither a text nor an equality. An empty list is written as no value at all.
 QMap<QString, QStringList> others(const QString &path)
 {
     const QSettings settings(path, QSettings::NativeFormat);
@@ -72,7 +73,7 @@ QMap<QString, QStringList> others(const QString &path)
         if (key == flag)
             continue;
         const QVariant value = settings.value(key);
-        values.insert(key, isList(value) ? value.toStringList() : QStringList{value.toString()});
+        values.insert(key, isList(value) || !value.isValid() ? value.toStringList() : QStringList{value.toString()});
     }
     return values;
 }
@@ -96,7 +97,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         platform.setUserDefault(flag, true);
     }
     if (contents(path) != before) {
-        require(QString::fromUtf8(before).toUtf8() == before);
+        QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+        const QString text = utf8.decode(before);
+        require(!utf8.hasError());
         const QMap<QString, QStringList> kept = others(copy);
         const QString again = path + u".again.conf";
         require(QFile::copy(path, again));

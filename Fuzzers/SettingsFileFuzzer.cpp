@@ -63,15 +63,15 @@ bool isList(const QVariant &value)
 }
 
 // All settings but the flag, as the texts that stand for them: a file keeps no types, and some of those that it tells
-// of have neither a text nor an equality. An empty list is written as no value at all, a mark of byte order after
-// an escape is lost on Qt's way back, and Qt makes one group of all that are called general in any case.
+// of have neither a text nor an equality. An empty list is written as no value at all, and a mark of byte order
+// after an escape is lost on Qt's way back.
 QMap<QString, QStringList> others(const QString &path)
 {
     const QSettings settings(path, QSettings::NativeFormat);
     QMap<QString, QStringList> values;
     const QStringList keys = settings.allKeys();
     for (const QString &key : keys) {
-        if (key == flag || key.startsWith(u"general/", Qt::CaseInsensitive))
+        if (key == flag)
             continue;
         const QVariant value = settings.value(key);
         QStringList texts = isList(value) || !value.isValid() ? value.toStringList() : QStringList{value.toString()};

@@ -140,9 +140,9 @@ bool isText(const QSettings &settings)
 }
 
 // Whether all that the settings hold can be read and asked for: what cannot be would be lost when they are written
-// anew, as would what a name with an empty part is then taken for, and what is no text in UTF-8 or UTF-16. Asked of a
-// copy, because Qt parses a file once in a process and tells of errors only whoever came first. Where there is no room
-// for a copy, nothing is known to be whole.
+// anew, as would what a name with an empty part is then taken for, and what is no text in UTF-8 or UTF-16; and groups
+// called general in any case become one. Asked of a copy, because Qt parses a file once in a process and tells of
+// errors only whoever came first. Where there is no room for a copy, nothing is known to be whole.
 bool isWhole(const QSettings &settings)
 {
     QFile file(settings.fileName());
@@ -160,7 +160,8 @@ bool isWhole(const QSettings &settings)
         const QSettings read(copy.fileName(), settings.format());
         const QStringList keys = read.allKeys();
         const auto stays = [&read](const QString &key) {
-            return !key.split(u'/').contains(QString())
+            const bool isInGeneral = key.startsWith(u"general/", Qt::CaseInsensitive);
+            return !key.split(u'/').contains(QString()) && (!isInGeneral || key.startsWith(u"General/"))
                 && std::ranges::all_of(read.value(key).toStringList(), &QString::isValidUtf16);
         };
         return read.status() == QSettings::NoError && std::ranges::all_of(keys, stays);

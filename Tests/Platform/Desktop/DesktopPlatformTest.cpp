@@ -250,7 +250,7 @@ TEST_F(DesktopPlatformTest, ACorruptFileKeepsAllThatItHolds)
          {"[General]\nname=Grove\nhalf a line", "\x7f\x45\x4c\x46\x02\x01\nname=Grove\n[Gen", "[General\nname=Grove\n",
           "[General]\nname=Grove\n/name=Birch\n", "[General]\nname/=Grove\n", "[General]\n=Grove\n",
           "[/]\nname=Grove\n", "[General]\nname=Gr\xFCn\n", "[General]\nname=\\xdddd\n",
-          "[General]\nnames=Grove, \\xd83c\n"}) {
+          "[General]\nnames=Grove, \\xd83c\n", "[%General]\nname=Grove\n\n[%GENERAL]\nname=Birch\n"}) {
         writeSettings(corrupt);
         DesktopPlatform fresh;
         EXPECT_NE(fresh.userDefault(QStringLiteral("Flag")), QVariant(true));

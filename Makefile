@@ -102,7 +102,7 @@ bench:
 	cmake --preset bench
 	cmake --build --preset bench
 	Benchmarks/run build/bench
-	Benchmarks/background build/bench --docs docs
+	Benchmarks/measure-background build/bench --docs docs
 
 install:
 	tools/install-packages build

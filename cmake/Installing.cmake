@@ -14,7 +14,9 @@ install(TARGETS TQFoundation EXPORT TQFoundationTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
-install(DIRECTORY ${header_folder} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+get_target_property(public_headers TQFoundation TQ_PUBLIC_HEADERS)
+install(FILES ${public_headers} ${header_folder}/tqfoundation_export.h
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/TQFoundation COMPONENT development)
 if(TQFOUNDATION_TESTING)
     install(TARGETS TQFoundationTesting EXPORT TQFoundationTargets
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
@@ -51,4 +53,4 @@ install(TARGETS TQFoundationplugin
     RUNTIME DESTINATION ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation COMPONENT qml)
 install(DIRECTORY ${CMAKE_BINARY_DIR}/qml/TQFoundation/
     DESTINATION ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation COMPONENT qml
-    FILES_MATCHING PATTERN "Nibs" EXCLUDE PATTERN "Sheets" EXCLUDE PATTERN "qmldir" PATTERN "*.qmltypes" PATTERN "*.qml")
+    FILES_MATCHING PATTERN "Base" EXCLUDE PATTERN "Desktop" EXCLUDE PATTERN "Nibs" EXCLUDE PATTERN "qmldir" PATTERN "*.qmltypes" PATTERN "*.qml")

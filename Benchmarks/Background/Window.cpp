@@ -5,8 +5,8 @@
 // one. LOTTIE is the same as an animation for a Lottie player. `ours-20` shows twenty backgrounds, and `ticks` prints
 // what it costs to replace one line by the next.
 
-#include "Layer.h"
 #include "Line.h"
+#include "ShapeLayer.h"
 
 #include <TQFoundation/AnimationView.h>
 #include <TQFoundation/DesktopPlatform.h>

@@ -1,25 +1,24 @@
 import QtQuick
-import QtQuick.Templates as T
 import TQFoundation
+import TQFoundation.Base
 
 // What the guide looks like: the paragraph, which scrolls where it does not fit, and below it the next button. It is laid
 // out in the part of the overlay that the window shows.
 TQGuideView {
     id: root
 
-    readonly property bool dark: system.window.hslLightness < system.windowText.hslLightness
+    readonly property bool dark: system.dark
     readonly property color ground: backgroundColor.resolved(dark)
     readonly property color ink: backgroundColor.textColor(dark)
 
-    // Grows with the text size that the user has chosen in the system.
-    readonly property real textSize: Math.max(24, Math.round(systemText.fontInfo.pixelSize * 1.8))
+    readonly property real textSize: Math.max(24, Math.round(system.textSize * 1.8))
     readonly property real margin: Math.max(20, Math.min(40, page.width * 0.08))
 
     guideLabel: label
     nextButton: button
     onImpactOccurred: pulse.restart()
 
-    LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: system.rightToLeft
     LayoutMirroring.childrenInherit: true
 
     Accessible.role: Accessible.Dialog
@@ -40,14 +39,8 @@ TQGuideView {
         event.accepted = false;
     }
 
-    SystemPalette {
+    SystemStyle {
         id: system
-    }
-
-    Text {
-        id: systemText
-
-        visible: false
     }
 
     Rectangle {
@@ -115,7 +108,7 @@ TQGuideView {
             opacity: 0.4
         }
 
-        T.AbstractButton {
+        PressButton {
             id: button
 
             anchors {
@@ -127,23 +120,10 @@ TQGuideView {
             width: 60
             height: 60
             focus: true
-            focusPolicy: Qt.StrongFocus
             Accessible.name: root.nextButtonName
             // Read out with each paragraph, because the button takes the focus again.
             Accessible.description: label.text
-            Accessible.onPressAction: {
-                if (enabled)
-                    clicked();
-            }
-            Keys.onReturnPressed: event => press(event)
-            Keys.onEnterPressed: event => press(event)
             onClicked: root.nextGuide(button)
-
-            // Once for each press, however long the key is held.
-            function press(event: KeyEvent) {
-                if (!event.isAutoRepeat)
-                    clicked();
-            }
 
             background: Rectangle {
                 radius: width / 2

@@ -1,12 +1,12 @@
 #include "AnimationView.h"
 
 #include "DriftPath.h"
-#include "Environment.h"
-#include "Layer.h"
 #include "LayerNode.h"
 #include "LibraryEngine.h"
-#include "Platform.h"
+#include "ShapeLayer.h"
 #include "ShuffledDistribution.h"
+#include "TQFoundation/Environment.h"
+#include "TQFoundation/Platform.h"
 
 #include <QtCore/qpointer.h>
 #include <QtGui/qguiapplication.h>
@@ -171,7 +171,7 @@ void AnimationView::itemChange(ItemChange change, const ItemChangeData &data)
 
 QSGNode *AnimationView::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
 {
-    return updateLayerNode(node, this, shapeLayer());
+    return updateLayerNode(node, this, shapeLayer(), [] { return platform().mediaTime(); });
 }
 
 } // namespace TQFoundation

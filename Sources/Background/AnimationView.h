@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Color.h"
-#include "tqfoundation_export.h"
+#include "TQFoundation/Color.h"
+#include "TQFoundation/tqfoundation_export.h"
 
 #include <QtCore/qobject.h>
 #include <QtCore/qrect.h>

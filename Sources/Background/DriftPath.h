@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Layer.h"
+#include "Path.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,6 +1,6 @@
 #include "TQRandomBackgroundView.h"
 
-#include "AnimationView.h"
+#include "TQFoundation/AnimationView.h"
 
 namespace TQFoundation {
 

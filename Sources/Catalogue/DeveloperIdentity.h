@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Color.h"
+#include "TQFoundation/Color.h"
 
 #include <QtCore/qglobal.h>
 

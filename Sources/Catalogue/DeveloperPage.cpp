@@ -1,8 +1,8 @@
 #include "DeveloperPage.h"
 
 #include "DeveloperIdentity.h"
-#include "Environment.h"
-#include "Platform.h"
+#include "TQFoundation/Environment.h"
+#include "TQFoundation/Platform.h"
 #include "Url.h"
 
 namespace TQFoundation::DeveloperPage {

@@ -1,7 +1,7 @@
 #include "QmlApp.h"
 
-#include "Bundle.h"
 #include "DeveloperPage.h"
+#include "TQFoundation/Bundle.h"
 
 namespace TQFoundation {
 

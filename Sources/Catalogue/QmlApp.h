@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TQApp.h"
+#include "TQFoundation/TQApp.h"
 
 #include <QtCore/qlist.h>
 #include <QtCore/qobject.h>

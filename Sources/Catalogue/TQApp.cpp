@@ -1,10 +1,10 @@
 #include "TQApp.h"
 
-#include "Bundle.h"
 #include "DeveloperIdentity.h"
-#include "Environment.h"
-#include "Platform.h"
 #include "Precondition.h"
+#include "TQFoundation/Bundle.h"
+#include "TQFoundation/Environment.h"
+#include "TQFoundation/Platform.h"
 
 #include <QtCore/qdebug.h>
 #include <QtCore/qmetaobject.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TQApp.h"
+#include "TQFoundation/TQApp.h"
 
 #include <QtGui/qimage.h>
 #include <QtQuick/qquickitem.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TQGuideView.h"
+#include "TQFoundation/TQGuideView.h"
 
 #include <QtCore/qobject.h>
 #include <QtQml/qqmlregistration.h>

@@ -1,13 +1,13 @@
 #include "TQGuideView.h"
 
-#include "Bundle.h"
 #include "InputShield.h"
 #include "KeyWindow.h"
 #include "LibraryEngine.h"
 #include "OpacityAnimation.h"
-#include "Platform.h"
 #include "Precondition.h"
 #include "Topmost.h"
+#include "TQFoundation/Bundle.h"
+#include "TQFoundation/Platform.h"
 
 #include <QtGui/qaccessible.h>
 #include <QtGui/qevent.h>

@@ -1,4 +1,4 @@
-#include "MailComposer.h"
+#include "TQFoundation/MailComposer.h"
 
 namespace TQFoundation {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TQMore.h"
+#include "TQFoundation/TQMore.h"
 
 #include <QtCore/qobject.h>
 #include <QtCore/qvariant.h>

@@ -1,17 +1,17 @@
 #include "TQMore.h"
 
-#include "Bundle.h"
 #include "DeveloperIdentity.h"
 #include "DeveloperPage.h"
-#include "Environment.h"
-#include "InAppBrowser.h"
 #include "KeyWindow.h"
-#include "MailComposer.h"
 #include "MoreKeys.h"
-#include "Platform.h"
-#include "TQApp.h"
+#include "TQFoundation/Bundle.h"
+#include "TQFoundation/Environment.h"
+#include "TQFoundation/InAppBrowser.h"
+#include "TQFoundation/MailComposer.h"
+#include "TQFoundation/Platform.h"
+#include "TQFoundation/TQApp.h"
+#include "TQFoundation/ViewController.h"
 #include "Url.h"
-#include "ViewController.h"
 
 #include <QtQuick/qquickwindow.h>
 

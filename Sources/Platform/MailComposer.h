@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Color.h"
-#include "tqfoundation_export.h"
-#include "ViewController.h"
+#include "TQFoundation/Color.h"
+#include "TQFoundation/tqfoundation_export.h"
+#include "TQFoundation/ViewController.h"
 
 #include <QtCore/qstringlist.h>
 

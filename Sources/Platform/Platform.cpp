@@ -2,11 +2,32 @@
 
 #include <QtCore/qdebug.h>
 
+#include <utility>
+
 namespace TQFoundation {
+namespace {
+
+std::unique_ptr<Platform> &installed()
+{
+    static std::unique_ptr<Platform> current = makeDefaultPlatform();
+    return current;
+}
+
+} // namespace
 
 RepeatingTimer::~RepeatingTimer() = default;
 
 Platform::~Platform() = default;
+
+Platform &platform()
+{
+    return *installed();
+}
+
+std::unique_ptr<Platform> installPlatform(std::unique_ptr<Platform> next)
+{
+    return std::exchange(installed(), next ? std::move(next) : makeDefaultPlatform());
+}
 
 QDebug operator<<(QDebug debug, const SceneWindow &window)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tqfoundation_export.h"
+#include "TQFoundation/tqfoundation_export.h"
 
 #include <QtCore/qlist.h>
 #include <QtCore/qobjectdefs.h>
@@ -143,5 +143,9 @@ TQFOUNDATION_EXPORT Platform &platform();
 ///
 /// Call it on the main thread before the library is first used: values that were already read are kept.
 TQFOUNDATION_EXPORT std::unique_ptr<Platform> installPlatform(std::unique_ptr<Platform> next);
+
+/// Makes the platform that the library uses while no other one is installed. Defined in Desktop: it is one of the two
+/// functions of the library that are defined above the folder that declares them. Any thread.
+std::unique_ptr<Platform> makeDefaultPlatform();
 
 } // namespace TQFoundation

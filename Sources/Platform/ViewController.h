@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tqfoundation_export.h"
+#include "TQFoundation/tqfoundation_export.h"
 
 #include <QtCore/qobject.h>
 #include <QtCore/qpointer.h>
@@ -24,7 +24,7 @@ class MailComposer;
 class TQFOUNDATION_EXPORT ViewController : public QObject
 {
     Q_OBJECT
-    Q_MOC_INCLUDE("MailComposer.h")
+    Q_MOC_INCLUDE("TQFoundation/MailComposer.h")
 
 public:
     /// How the user was done with a mail.

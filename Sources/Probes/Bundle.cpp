@@ -1,7 +1,7 @@
 #include "Bundle.h"
 
 #include "LanguageTags.h"
-#include "Platform.h"
+#include "TQFoundation/Platform.h"
 
 #include <QtCore/qfile.h>
 #include <QtCore/qlocale.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tqfoundation_export.h"
+#include "TQFoundation/tqfoundation_export.h"
 
 #include <QtCore/qstring.h>
 #include <QtGui/qimage.h>

@@ -1,6 +1,6 @@
 #include "Environment.h"
 
-#include "Platform.h"
+#include "TQFoundation/Platform.h"
 
 namespace TQFoundation {
 

@@ -1,8 +1,8 @@
 #include "DeathTest.h"
 #include "DriftPath.h"
-#include "Layer.h"
 #include "QmlWindow.h"
 #include "RecordingPlatform.h"
+#include "ShapeLayer.h"
 
 #include <TQFoundation/AnimationView.h>
 #include <TQFoundation/Environment.h>

@@ -1,6 +1,6 @@
-#include "Layer.h"
 #include "QmlWindow.h"
 #include "RecordingPlatform.h"
+#include "ShapeLayer.h"
 
 #include <TQFoundation/AnimationView.h>
 #include <TQFoundation/TQApp.h>

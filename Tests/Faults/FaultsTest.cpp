@@ -1,7 +1,7 @@
 #include "AnimationView.h"
 #include "Environment.h"
 #include "GuideHost.h"
-#include "Layer.h"
+#include "ShapeLayer.h"
 
 #include <QtGui/qimage.h>
 #include <QtQuick/qquickitem.h>

@@ -1,0 +1,71 @@
+#include "DesktopMailComposer.h"
+
+#include "MailDraft.h"
+
+#include <utility>
+
+namespace TQFoundation {
+
+DesktopMailComposer::DesktopMailComposer(const QStringList &programFolders) : m_draft(std::make_unique<MailDraft>())
+{
+    m_draft->programFolders = programFolders;
+}
+
+DesktopMailComposer::~DesktopMailComposer() = default;
+
+void DesktopMailComposer::setMailComposeDelegate(const std::shared_ptr<ViewController> &delegate)
+{
+    m_delegate = delegate;
+}
+
+void DesktopMailComposer::setNavigationBarTintColor(const Color &color)
+{
+    if (m_draft)
+        m_draft->tint = color;
+}
+
+void DesktopMailComposer::setToRecipients(const QStringList &addresses)
+{
+    if (m_draft)
+        m_draft->recipients = addresses;
+}
+
+void DesktopMailComposer::setSubject(const QString &subject)
+{
+    if (m_draft)
+        m_draft->begin(subject);
+}
+
+void DesktopMailComposer::setMessageBody(const QString &body, bool isHtml)
+{
+    if (m_draft)
+        m_draft->html =
+            isHtml ? body : QString(u"<div style=\"white-space: pre-wrap\">" + body.toHtmlEscaped() + u"</div>");
+}
+
+void DesktopMailComposer::appear(QQuickWindow *window)
+{
+    if (m_draft) {
+        connect(m_draft.get(), &MailDraft::finished, this, &DesktopMailComposer::tellDelegate);
+        if (m_sheet.open(QStringLiteral("MailSheet"), std::move(m_draft), window))
+            return;
+    }
+    tellDelegate(MailComposeResult::failed, MailDraft::problemOf(Sendmail::Outcome::failed));
+}
+
+void DesktopMailComposer::disappear()
+{
+    m_sheet.close();
+}
+
+void DesktopMailComposer::tellDelegate(MailComposeResult result, const QString &error)
+{
+    // Dismissing lets go of the composer.
+    const auto alive = weak_from_this().lock();
+    if (const auto delegate = m_delegate.lock())
+        delegate->mailComposeController(this, result, error);
+    else
+        dismiss();
+}
+
+} // namespace TQFoundation

@@ -1,0 +1,121 @@
+#include "Sendmail.h"
+
+#include "LibraryEngine.h"
+#include "TQFoundation/Platform.h"
+
+#include <QtCore/qfileinfo.h>
+#include <QtCore/qprocess.h>
+
+#include <utility>
+
+namespace TQFoundation {
+namespace {
+
+/// Does not end the program when it goes itself, unless that still waits for a part of the message.
+class Program final : public QProcess
+{
+public:
+    using QProcess::QProcess;
+
+    ~Program() override
+    {
+        if (state() == NotRunning)
+            return;
+        if (bytesToWrite() > 0) {
+            kill();
+            waitForFinished(1000);
+        }
+        setProcessState(NotRunning);
+    }
+};
+
+// The exit codes of sysexits.h, which all sendmail programs share.
+Sendmail::Outcome outcomeOf(int exitCode)
+{
+    switch (exitCode) {
+    case 0:
+        return Sendmail::Outcome::sent;
+    case 64: // EX_USAGE
+    case 78: // EX_CONFIG
+        return Sendmail::Outcome::notSetUp;
+    case 68: // EX_NOHOST
+    case 75: // EX_TEMPFAIL
+    case 76: // EX_PROTOCOL
+        return Sendmail::Outcome::unreachable;
+    case 65: // EX_DATAERR
+    case 67: // EX_NOUSER
+    case 69: // EX_UNAVAILABLE
+    case 77: // EX_NOPERM
+        return Sendmail::Outcome::rejected;
+    default:
+        return Sendmail::Outcome::failed;
+    }
+}
+
+} // namespace
+
+QString sendmailProgram(const QStringList &folders)
+{
+    for (const QString &folder : folders) {
+        const QFileInfo program(folder + u"/sendmail");
+        if (!folder.isEmpty() && program.isFile() && program.isExecutable())
+            return program.absoluteFilePath();
+    }
+    return {};
+}
+
+Sendmail::~Sendmail()
+{
+    if (m_bound)
+        m_bound->invalidate();
+}
+
+void Sendmail::start(const QString &program, const QByteArray &message)
+{
+    auto *process = new Program(untilApplicationEnds());
+    m_process = process;
+    process->setStandardOutputFile(QProcess::nullDevice());
+    connect(process, &QProcess::readyReadStandardError, this, [this, process] {
+        constexpr qsizetype longest = 4096;
+        m_said += process->readAllStandardError();
+        m_said = m_said.right(longest);
+    });
+    connect(process, &QProcess::finished, this, [this](int exitCode, QProcess::ExitStatus status) {
+        finish(status == QProcess::NormalExit ? outcomeOf(exitCode) : Outcome::crashed);
+    });
+    connect(process, &QProcess::errorOccurred, this, [this, process](QProcess::ProcessError error) {
+        if (error != QProcess::FailedToStart)
+            return;
+        process->deleteLater();
+        finish(Outcome::noProgram);
+    });
+    connect(process, &QProcess::finished, process, &QObject::deleteLater);
+    m_bound = platform().makeTimer(patience, [this] {
+        if (m_process)
+            m_process->kill();
+        finish(Outcome::unanswered);
+    });
+    m_bound->schedule();
+    process->start(program, {QStringLiteral("-t"), QStringLiteral("-i")});
+    if (process->isOpen()) {
+        process->write(message);
+        process->closeWriteChannel();
+    }
+}
+
+void Sendmail::finish(Outcome outcome)
+{
+    if (std::exchange(m_finished, true))
+        return;
+    m_bound->invalidate();
+    QString line = QString::fromLocal8Bit(m_said.trimmed());
+    line = line.mid(line.lastIndexOf(u'\n') + 1).left(300);
+    // What a terminal would obey.
+    for (QChar &character : line) {
+        if (character.category() == QChar::Other_Control)
+            character = u' ';
+    }
+    Q_EMIT finished(outcome, line.trimmed());
+}
+
+} // namespace TQFoundation

@@ -1,0 +1,69 @@
+import QtQuick
+import QtQuick.Templates as T
+import TQFoundation.Base
+
+// The frame of the library's own screens: a page that slides up from the bottom of the window. It fills a phone's window
+// but for a strip at the top, and lies in the middle of a wide one.
+T.Popup {
+    id: root
+
+    property real widest: 640
+    property real tallest: 760
+
+    readonly property bool dark: system.dark
+    readonly property color ground: dark ? "#1c1c1e" : "#ffffff"
+    readonly property color ink: dark ? "#ffffff" : "#000000"
+    readonly property color quietInk: dark ? "#a1a1a8" : "#65656b"
+    readonly property color line: dark ? "#38383a" : "#d8d8dc"
+    readonly property color pressed: dark ? "#3a3a3c" : "#e5e5ea"
+    readonly property color alert: dark ? "#ff8a80" : "#b3261e"
+
+    readonly property real textSize: Math.max(16, Math.round(system.textSize * 1.25))
+    readonly property real gap: narrow ? 16 : 20
+    readonly property real corner: 14
+    readonly property bool rightToLeft: system.rightToLeft
+
+    readonly property real hostWidth: parent ? parent.width : 0
+    readonly property real hostHeight: parent ? parent.height : 0
+    readonly property bool narrow: hostWidth < 700
+    // Of the way down, as it slides.
+    property real slid: 0
+
+    readonly property SystemStyle system: SystemStyle {}
+
+    width: narrow ? hostWidth : Math.min(widest, hostWidth - 80)
+    height: narrow ? hostHeight - Math.min(12, hostHeight / 40) : Math.min(tallest, hostHeight - 48)
+    x: Math.round((hostWidth - width) / 2)
+    y: Math.round((narrow ? hostHeight - height : (hostHeight - height) / 2) + slid * hostHeight)
+    padding: 0
+    modal: true
+    focus: true
+    closePolicy: T.Popup.NoAutoClose
+
+    enter: Transition {
+        NumberAnimation { target: root; property: "slid"; from: 1; to: 0; duration: 320; easing.type: Easing.OutCubic }
+    }
+
+    exit: Transition {
+        NumberAnimation { target: root; property: "slid"; from: 0; to: 1; duration: 260; easing.type: Easing.InCubic }
+    }
+
+    T.Overlay.modal: Rectangle {
+        color: "#80000000"
+
+        Behavior on opacity {
+            NumberAnimation { duration: 260 }
+        }
+    }
+
+    background: Item {
+        Rectangle {
+            width: parent.width
+            // Only the upper corners are seen where the page reaches the bottom.
+            height: parent.height + (root.narrow ? radius : 0)
+            radius: root.corner
+            color: root.ground
+            border { width: root.dark && !root.narrow ? 1 : 0; color: root.line }
+        }
+    }
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <vector>
+
+namespace TQFoundation {
+
+/// A place on the screen, in points.
+struct Point
+{
+    double x = 0;
+    double y = 0;
+
+    friend constexpr bool operator==(const Point &, const Point &) = default;
+};
+
+/// A cubic Bézier segment that starts where the one before it ends.
+struct CubicCurve
+{
+    Point control1;
+    Point control2;
+    Point end;
+
+    friend constexpr bool operator==(const CubicCurve &, const CubicCurve &) = default;
+};
+
+/// A line through curves, one after the other. A closed one has a straight last segment back to its start, which has no
+/// length where the last curve ends there, and its two ends are joined.
+struct Path
+{
+    Point start;
+    std::vector<CubicCurve> curves;
+    bool isClosed = false;
+
+    friend bool operator==(const Path &, const Path &) = default;
+};
+
+} // namespace TQFoundation

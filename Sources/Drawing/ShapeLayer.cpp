@@ -1,0 +1,52 @@
+#include "ShapeLayer.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace TQFoundation {
+namespace {
+
+// Both questions that a layer answers ask it the same way, so that its last frame shows what stays.
+bool hasEnded(const BasicAnimation &animation, double now)
+{
+    return now - *animation.beginTime >= animation.duration;
+}
+
+} // namespace
+
+void ShapeLayer::addAnimation(BasicAnimation animation, double now)
+{
+    if (!animation.beginTime)
+        animation.beginTime = now;
+    if (!animation.key.empty())
+        std::erase_if(m_animations, [&](const BasicAnimation &earlier) { return earlier.key == animation.key; });
+    m_animations.push_back(std::move(animation));
+}
+
+Presentation ShapeLayer::presentation(double now) const
+{
+    Presentation presented = model;
+    for (const BasicAnimation &animation : m_animations) {
+        if (now < *animation.beginTime || hasEnded(animation, now))
+            continue;
+        const double progress = (now - *animation.beginTime) / animation.duration;
+        double &number =
+            animation.keyPath == BasicAnimation::KeyPath::opacity ? presented.opacity : presented.strokeEnd;
+        number = animation.fromValue + (animation.toValue - animation.fromValue) * progress;
+    }
+    return presented;
+}
+
+std::optional<double> ShapeLayer::nextChange(double now) const
+{
+    std::optional<double> next;
+    for (const BasicAnimation &animation : m_animations) {
+        if (hasEnded(animation, now))
+            continue;
+        const double change = std::max(now, *animation.beginTime);
+        next = next ? std::min(*next, change) : change;
+    }
+    return next;
+}
+
+} // namespace TQFoundation

@@ -1,0 +1,175 @@
+#include "ShapeLayer.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+namespace TQFoundation {
+namespace {
+
+using KeyPath = BasicAnimation::KeyPath;
+
+// The line of the background: it fades in, draws itself, and begins to fade out before the next one comes.
+ShapeLayer line(double now)
+{
+    ShapeLayer layer;
+    layer.addAnimation({.keyPath = KeyPath::opacity, .fromValue = 0, .toValue = 1, .duration = 1}, now);
+    layer.addAnimation({.keyPath = KeyPath::strokeEnd, .fromValue = 0, .toValue = 1, .duration = 9}, now);
+    layer.addAnimation(
+        {.keyPath = KeyPath::opacity, .fromValue = 1, .toValue = 0, .duration = 1, .beginTime = now + 9.2}, now);
+    return layer;
+}
+
+struct Moment
+{
+    double time;
+    double opacity;
+    double strokeEnd;
+};
+
+constexpr double instant = 1e-9;
+
+constexpr Moment timeline[] = {
+    {-instant, 1, 1},
+    {0, 0, 0},
+    {instant, 0, 0},
+    {0.5, 0.5, 0.5 / 9},
+    {1 - instant, 1, 1 / 9.0},
+    {1, 1, 1 / 9.0},
+    {1 + instant, 1, 1 / 9.0},
+    {4.5, 1, 0.5},
+    {9 - instant, 1, 1},
+    {9, 1, 1},
+    {9 + instant, 1, 1},
+    {9.1, 1, 1},
+    {9.2 - instant, 1, 1},
+    {9.2, 1, 1},
+    {9.2 + instant, 1, 1},
+    {9.7, 0.5, 1},
+    {10 - instant, 0.2, 1},
+    {10, 0.2, 1},
+    {10.1, 0.1, 1},
+    {10.2 - 2 * instant, 0, 1},
+    {10.2 + instant, 1, 1},
+    {20, 1, 1},
+};
+
+TEST(Layer, ShowsTheWholeTimelineOfABackgroundLine)
+{
+    for (const double start : {0.0, 7.25, 86'400.125}) {
+        const ShapeLayer layer = line(start);
+        for (const auto &[time, opacity, strokeEnd] : timeline) {
+            const Presentation presented = layer.presentation(start + time);
+            EXPECT_NEAR(presented.opacity, opacity, 1e-8) << time << " after " << start;
+            EXPECT_NEAR(presented.strokeEnd, strokeEnd, 1e-8) << time << " after " << start;
+        }
+    }
+}
+
+TEST(Layer, AnAnimationBeginsExactlyAtItsTime)
+{
+    EXPECT_EQ(line(0).presentation(0), (Presentation{0, 0}));
+    EXPECT_EQ(line(0).presentation(std::nextafter(0, -1)), (Presentation{1, 1}));
+}
+
+TEST(Layer, AnAnimationIsRemovedExactlyAtItsEnd)
+{
+    ShapeLayer layer;
+    layer.addAnimation({.keyPath = KeyPath::opacity, .fromValue = 0, .toValue = 0.5, .duration = 2}, 1);
+    EXPECT_LT(layer.presentation(std::nextafter(3, 0)).opacity, 0.5 + 1e-9);
+    EXPECT_EQ(layer.presentation(3).opacity, 1) << "the layer's own again";
+}
+
+TEST(Layer, BeginsWhenAddedUnlessItSaysOtherwise)
+{
+    const ShapeLayer layer = line(5);
+    ASSERT_EQ(layer.animations().size(), 3U);
+    EXPECT_EQ(layer.animations()[0].beginTime, 5.0);
+    EXPECT_EQ(layer.animations()[1].beginTime, 5.0);
+    EXPECT_EQ(layer.animations()[2].beginTime, 5 + 9.2);
+}
+
+TEST(Layer, AnimationsWithoutAKeyReplaceNone)
+{
+    ShapeLayer layer;
+    layer.addAnimation({.toValue = 0.25, .duration = 1}, 0);
+    layer.addAnimation({.toValue = 0.5, .duration = 1}, 0);
+    EXPECT_EQ(layer.animations().size(), 2U);
+}
+
+TEST(Layer, OfSeveralAnimationsOfOneNumberTheLastAddedCounts)
+{
+    ShapeLayer layer;
+    layer.addAnimation({.fromValue = 0.25, .toValue = 0.25, .duration = 4}, 0);
+    layer.addAnimation({.fromValue = 0.5, .toValue = 0.5, .duration = 1}, 0);
+    EXPECT_EQ(layer.presentation(0.5).opacity, 0.5);
+    EXPECT_EQ(layer.presentation(2).opacity, 0.25) << "once the last has ended, the one before";
+}
+
+TEST(Layer, AnAnimationReplacesTheOneWithItsKey)
+{
+    ShapeLayer layer;
+    layer.addAnimation({.toValue = 1, .duration = 4, .key = "fade"}, 0);
+    layer.addAnimation({.toValue = 1, .duration = 4, .key = "other"}, 0);
+    layer.addAnimation({.toValue = 0.5, .duration = 4, .key = "fade"}, 1);
+    ASSERT_EQ(layer.animations().size(), 2U);
+    EXPECT_EQ(layer.animations()[0].key, "other");
+    EXPECT_EQ(layer.animations()[1].beginTime, 1.0);
+}
+
+TEST(Layer, WithoutAnimationsItsModelIsDrawnAndNothingChanges)
+{
+    ShapeLayer layer;
+    layer.model = {0.25, 0.75};
+    EXPECT_EQ(layer.presentation(3), layer.model);
+    EXPECT_EQ(layer.nextChange(3), std::nullopt);
+}
+
+TEST(Layer, ChangesWhileAnimationsRunAndRestsBetweenThem)
+{
+    const ShapeLayer layer = line(0);
+    EXPECT_EQ(layer.nextChange(-1), 0.0);
+    for (const double running : {0.0, 0.5, 1.0, 8.999, 9.2, 10.0, 10.19})
+        EXPECT_EQ(layer.nextChange(running), running);
+    EXPECT_EQ(layer.nextChange(9), 9.2);
+    EXPECT_EQ(layer.nextChange(9.1), 9.2);
+    EXPECT_EQ(layer.nextChange(10.3), std::nullopt);
+}
+
+// A picture that is drawn at any moment stays right until the moment that nextChange() gives, or for good.
+TEST(Layer, NothingChangesBeforeTheNextChange)
+{
+    std::mt19937_64 engine(4);
+    std::uniform_real_distribution<double> starts(0, 1e7);
+    std::uniform_real_distribution<double> durations(1e-3, 10);
+    std::uniform_real_distribution<double> shares(0, 1);
+    for (int round = 0; round < 100'000; ++round) {
+        const double start = starts(engine);
+        const double duration = durations(engine);
+        ShapeLayer layer;
+        layer.addAnimation({.toValue = 0.5, .duration = duration}, start);
+        // Around the end, where rounding decides.
+        const double end = start + duration;
+        const double now = round % 3 == 0 ? end : std::nextafter(end, round % 3 == 1 ? 0.0 : 1e9);
+        if (const auto next = layer.nextChange(now)) {
+            ASSERT_EQ(*next, now);
+            ASSERT_LE(layer.presentation(now).opacity, 0.5);
+        } else {
+            ASSERT_EQ(layer.presentation(now), layer.model);
+            ASSERT_EQ(layer.presentation(now + shares(engine)), layer.model);
+        }
+    }
+}
+
+TEST(Layer, IsAValue)
+{
+    const ShapeLayer layer = line(1);
+    ShapeLayer copy = layer;
+    EXPECT_EQ(copy, layer);
+    copy.addAnimation({.duration = 1}, 2);
+    EXPECT_NE(copy, layer);
+}
+
+} // namespace
+} // namespace TQFoundation

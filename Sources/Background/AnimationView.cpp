@@ -1,12 +1,12 @@
 #include "AnimationView.h"
 
 #include "DriftPath.h"
-#include "LayerNode.h"
 #include "LibraryEngine.h"
 #include "ShapeLayer.h"
 #include "ShuffledDistribution.h"
 #include "TQFoundation/Environment.h"
 #include "TQFoundation/Platform.h"
+#include "UpdateLayerNode.h"
 
 #include <QtCore/qpointer.h>
 #include <QtGui/qguiapplication.h>
@@ -19,7 +19,7 @@
 namespace TQFoundation {
 namespace {
 
-constexpr double period = 10; // seconds, as are the times of the animations
+constexpr double period = 10; // seconds
 
 DriftScreen screen()
 {
@@ -50,7 +50,7 @@ struct AnimationView::Stored
     Color color;
     std::shared_ptr<RepeatingTimer> timer;
     std::vector<Point> transitPoints;
-    std::optional<ShapeLayer> shapeLayer; // all that a list of sublayers can hold after a tick
+    std::optional<ShapeLayer> shapeLayer;
 
     RandomSource random()
     {
@@ -140,12 +140,12 @@ void AnimationView::updateTimer()
     const double now = platform().mediaTime();
     line.addAnimation({.keyPath = KeyPath::opacity, .fromValue = 0, .toValue = 1, .duration = 1}, now);
     line.addAnimation({.keyPath = KeyPath::strokeEnd, .fromValue = 0, .toValue = 1, .duration = 9}, now);
-    // The next line takes this one's place before it has faded out entirely; that is part of the look.
+    // The next tick replaces the line at a fifth of its opacity; that is part of the look.
     line.addAnimation(
         {.keyPath = KeyPath::opacity, .fromValue = 1, .toValue = 0, .duration = 1, .beginTime = now + 9.2}, now);
 
     m_stored->shapeLayer = std::move(line);
-    // What nobody sees takes no frame; it is made up for when the view is seen again.
+    // An invisible view requests no frame; itemChange() does so later.
     if (isVisible())
         update();
 }
@@ -154,7 +154,7 @@ void AnimationView::removeSublayers()
 {
     m_stored->shapeLayer.reset();
     const QList<QQuickItem *> items = childItems();
-    // What an item does as it is taken off may destroy or move others.
+    // A handler of parentChanged() may destroy or move other children.
     const QList<QPointer<QQuickItem>> children(items.begin(), items.end());
     for (const QPointer<QQuickItem> &child : children) {
         if (child && child->parentItem() == this)

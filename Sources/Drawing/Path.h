@@ -23,8 +23,8 @@ struct CubicCurve
     friend constexpr bool operator==(const CubicCurve &, const CubicCurve &) = default;
 };
 
-/// A line through curves, one after the other. A closed one has a straight last segment back to its start, which has no
-/// length where the last curve ends there, and its two ends are joined.
+/// A line of successive curves. A closed path has a straight last segment back to its start, of length 0 if the last
+/// curve ends there, and a join at its start.
 struct Path
 {
     Point start;

@@ -6,7 +6,7 @@
 namespace TQFoundation {
 namespace {
 
-// Both questions that a layer answers ask it the same way, so that its last frame shows what stays.
+// One rule for both questions, so that the last frame shows the model.
 bool hasEnded(const BasicAnimation &animation, double now)
 {
     return now - *animation.beginTime >= animation.duration;
@@ -37,16 +37,10 @@ Presentation ShapeLayer::presentation(double now) const
     return presented;
 }
 
-std::optional<double> ShapeLayer::nextChange(double now) const
+bool ShapeLayer::isAnimating(double now) const
 {
-    std::optional<double> next;
-    for (const BasicAnimation &animation : m_animations) {
-        if (hasEnded(animation, now))
-            continue;
-        const double change = std::max(now, *animation.beginTime);
-        next = next ? std::min(*next, change) : change;
-    }
-    return next;
+    return std::ranges::any_of(m_animations,
+                               [now](const BasicAnimation &animation) { return !hasEnded(animation, now); });
 }
 
 } // namespace TQFoundation

@@ -10,26 +10,24 @@ namespace TQFoundation {
 namespace {
 
 constexpr int farthest = 16384; // pixels from the origin
-constexpr double overlap = 0.05; // pixels by which neighbours reach into each other, so that no sample falls between
 
-struct Sample
-{
-    float x;
-    float y;
-};
-
-// Where the samples lie around the middle of a pixel: a lattice in which all columns and all rows differ. Of all such
-// lattices, halves of a pixel at any angle are measured best by this one.
+/// The samples' offsets from the middle of a pixel.
 constexpr auto sampleOffsets = [] {
-    std::array<Sample, StrokeMask::samples> offsets{};
+    struct Offset
+    {
+        float x;
+        float y;
+    };
+    std::array<Offset, StrokeMask::samples> offsets{};
     for (int k = 0; k < StrokeMask::samples; ++k) {
         const auto share = [](int step) { return (static_cast<float>(step) + 0.5F) / StrokeMask::samples - 0.5F; };
-        offsets[static_cast<std::size_t>(k)] = {share(k), share(k * 19 % StrokeMask::samples)};
+        offsets[static_cast<std::size_t>(k)] = {share(k),
+                                                share(k * StrokeConstants::latticeStep % StrokeMask::samples)};
     }
     return offsets;
 }();
 
-/// Which samples of a pixel lie within an edge, by the distance of its middle.
+/// The samples of a pixel that lie inside an edge, by the distance of the pixel's middle.
 class EdgeTable
 {
 public:
@@ -40,7 +38,6 @@ public:
         m_within.fill(0);
         for (std::size_t k = 0; k < sampleOffsets.size(); ++k) {
             const float inner = m_x * sampleOffsets[k].x + m_y * sampleOffsets[k].y;
-            // Within as soon as the distance of the middle makes up for where the sample lies.
             const auto step = static_cast<int>((reach - inner) * steps + 1);
             m_within[static_cast<std::size_t>(std::clamp(step, 1, size - 1))] |= std::uint64_t{1} << k;
         }
@@ -74,7 +71,7 @@ int tileOf(double pixel, double tilePixels)
 
 } // namespace
 
-/// What is added: the places within all of its edges.
+/// The area that one part adds: the inside of all its edges, between two arc lengths.
 class StrokeMask::Shape
 {
 public:
@@ -82,49 +79,41 @@ public:
     {
         const auto planes = edges(part);
         for (std::size_t k = 0; k < planes.size(); ++k)
-            addEdge(planes[k], part.seams[k] ? overlap : 0);
+            addEdge(planes[k], part.seams[k] ? seamOverlap : 0);
         if (!part.isJoin()) {
             const HalfPlane along = lengthAlong(part);
             const double slope = std::sqrt(along.x * along.x + along.y * along.y);
             if (to < part.to)
                 addEdge({-along.x / slope, -along.y / slope, (to - along.offset) / slope}, 0);
             if (from > part.from)
-                addEdge({along.x / slope, along.y / slope, (along.offset - from) / slope}, overlap);
+                addEdge({along.x / slope, along.y / slope, (along.offset - from) / slope}, seamOverlap);
         }
-        const auto [minX, maxX] = std::ranges::minmax(part.corners, {}, &Point::x);
-        const auto [minY, maxY] = std::ranges::minmax(part.corners, {}, &Point::y);
-        m_left = std::max(minX.x - 0.5, -1.0 * farthest);
-        m_right = std::min(maxX.x + 0.5, 1.0 * farthest);
-        m_top = std::max(minY.y - 0.5, -1.0 * farthest);
-        m_bottom = std::min(maxY.y + 0.5, 1.0 * farthest);
+        const Bounds all = part.bounds().grownBy(0.5);
+        m_bounds = {std::max(all.left, -1.0 * farthest), std::max(all.top, -1.0 * farthest),
+                    std::min(all.right, 1.0 * farthest), std::min(all.bottom, 1.0 * farthest)};
     }
 
-    double left() const { return m_left; }
-    double top() const { return m_top; }
-    double right() const { return m_right; }
-    double bottom() const { return m_bottom; }
+    const Bounds &bounds() const { return m_bounds; }
+    bool isEmpty() const { return m_bounds.left >= m_bounds.right || m_bounds.top >= m_bounds.bottom; }
 
-    bool mayTouch(double left, double top, double width, double height) const
+    bool mayTouch(int left, int top, int width, int height) const
     {
-        return std::ranges::all_of(std::span(m_edges).first(m_count), [&](const Edge &edge) {
-            return edge.plane.at({left + width / 2, top + height / 2}) + std::abs(edge.plane.x) * width / 2
-                + std::abs(edge.plane.y) * height / 2
-                > 0;
-        });
+        const Bounds box{1.0 * left, 1.0 * top, 1.0 * left + width, 1.0 * top + height};
+        return std::ranges::all_of(std::span(m_edges).first(m_count),
+                                   [&](const Edge &edge) { return reaches(edge.plane, box); });
     }
 
-    // Calls \a cover with each pixel that it touches of the block whose first pixel is given, and the samples within.
+    // Calls cover(index, samples) for each pixel that it touches in the block at left and top.
     template <typename Cover>
     void fill(int left, int top, Cover cover) const
     {
-        const int firstRow = std::max(0, static_cast<int>(std::floor(m_top)) - top);
-        const int lastRow = std::min(side - 1, static_cast<int>(std::floor(m_bottom)) - top);
+        const int firstRow = std::max(0, static_cast<int>(std::floor(m_bounds.top)) - top);
+        const int lastRow = std::min(side - 1, static_cast<int>(std::floor(m_bounds.bottom)) - top);
         std::array<float, mostEdges> distances;
         const Point first{left + 0.5, top + firstRow + 0.5};
         for (std::size_t k = 0; k < m_count; ++k)
             distances[k] = static_cast<float>(m_edges[k].plane.at(first));
         for (int row = firstRow; row <= lastRow; ++row) {
-            // Where the row of pixels meets the shape at all.
             float firstColumn = 0;
             float lastColumn = side - 1;
             for (std::size_t k = 0; k < m_count; ++k) {
@@ -173,10 +162,7 @@ private:
 
     std::array<Edge, mostEdges> m_edges;
     std::size_t m_count = 0;
-    double m_left;
-    double m_top;
-    double m_right;
-    double m_bottom;
+    Bounds m_bounds;
 };
 
 void StrokeMask::drawUpTo(double length)
@@ -197,41 +183,43 @@ void StrokeMask::drawUpTo(double length)
 void StrokeMask::add(const StrokePart &part, double to)
 {
     const Shape shape(part, m_drawn, to);
-    if (shape.left() >= shape.right() || shape.top() >= shape.bottom())
+    if (shape.isEmpty())
         return;
+    const Bounds &bounds = shape.bounds();
     const double tilePixels = tilePoints * m_scale;
-    const auto pixel = [](double place) { return static_cast<int>(std::floor(place)); };
-    for (int tileY = tileOf(shape.top(), tilePixels); tileY <= tileOf(shape.bottom() + 1, tilePixels); ++tileY) {
-        for (int tileX = tileOf(shape.left(), tilePixels); tileX <= tileOf(shape.right() + 1, tilePixels); ++tileX) {
-            const int left = firstPixel(tileX);
-            const int top = firstPixel(tileY);
-            const int width = firstPixel(tileX + 1) - left;
-            const int height = firstPixel(tileY + 1) - top;
-            if (!shape.mayTouch(left, top, width, height))
+    for (int y = tileOf(bounds.top, tilePixels); y <= tileOf(bounds.bottom + 1, tilePixels); ++y) {
+        for (int x = tileOf(bounds.left, tilePixels); x <= tileOf(bounds.right + 1, tilePixels); ++x) {
+            const int width = firstPixel(x + 1) - firstPixel(x);
+            const int height = firstPixel(y + 1) - firstPixel(y);
+            if (shape.mayTouch(firstPixel(x), firstPixel(y), width, height))
+                addToTile(shape, x, y, width, height);
+        }
+    }
+}
+
+void StrokeMask::addToTile(const Shape &shape, int x, int y, int width, int height)
+{
+    const int left = firstPixel(x);
+    const int top = firstPixel(y);
+    const auto block = [](double place, int first, int last) {
+        return std::clamp(static_cast<int>(std::floor(place)) - first, 0, last) / side;
+    };
+    const Bounds &bounds = shape.bounds();
+    for (int row = block(bounds.top, top, height - 1); row <= block(bounds.bottom, top, height - 1); ++row) {
+        for (int column = block(bounds.left, left, width - 1); column <= block(bounds.right, left, width - 1);
+             ++column) {
+            const int blockLeft = left + column * side;
+            const int blockTop = top + row * side;
+            if (!shape.mayTouch(blockLeft, blockTop, side, side))
                 continue;
-            const int firstColumn = std::max(0, pixel(shape.left()) - left) / side;
-            const int lastColumn = std::min(width - 1, pixel(shape.right()) - left) / side;
-            const int firstRow = std::max(0, pixel(shape.top()) - top) / side;
-            const int lastRow = std::min(height - 1, pixel(shape.bottom()) - top) / side;
-            Tile *tile = nullptr;
-            for (int row = firstRow; row <= lastRow; ++row) {
-                for (int column = firstColumn; column <= lastColumn; ++column) {
-                    const int blockLeft = left + column * side;
-                    const int blockTop = top + row * side;
-                    if (!shape.mayTouch(blockLeft, blockTop, side, side))
-                        continue;
-                    std::optional<std::size_t> block;
-                    shape.fill(blockLeft, blockTop, [&](std::size_t at, std::uint64_t covered) {
-                        if (!tile)
-                            tile = &tileAt(tileX, tileY);
-                        if (!block)
-                            block = blockAt(*tile, column, row);
-                        std::uint64_t &all = m_samples[*block][at];
-                        all |= covered;
-                        m_counts[*block][at] = static_cast<std::uint8_t>(std::popcount(all));
-                    });
-                }
-            }
+            std::optional<std::size_t> touched;
+            shape.fill(blockLeft, blockTop, [&](std::size_t pixel, std::uint64_t covered) {
+                if (!touched)
+                    touched = blockAt(tileAt(x, y), column, row);
+                std::uint64_t &all = m_samples[*touched][pixel];
+                all |= covered;
+                m_counts[*touched][pixel] = static_cast<std::uint8_t>(std::popcount(all));
+            });
         }
     }
 }
@@ -289,7 +277,7 @@ void StrokeMask::paint(const Tile &tile, const Colors &colors, std::uint32_t *pi
                     for (int x = 0; x < end; ++x)
                         row[x] = colors[counts[x]];
                 };
-                // Nearly all are, and compilers unroll what has a constant end.
+                // Compilers unroll the loop with the constant end, which most rows take.
                 if (width == side)
                     paintRow(side);
                 else

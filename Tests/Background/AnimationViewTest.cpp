@@ -1,15 +1,10 @@
+#include "AnimationViewFixture.h"
 #include "DeathTest.h"
 #include "DriftPath.h"
 #include "QmlWindow.h"
-#include "RecordingPlatform.h"
-#include "ShapeLayer.h"
-
-#include <TQFoundation/AnimationView.h>
 #include <TQFoundation/Environment.h>
 
 #include <QtCore/qmetaobject.h>
-#include <QtGui/qguiapplication.h>
-#include <QtGui/qpalette.h>
 
 #include <algorithm>
 #include <cmath>
@@ -27,45 +22,11 @@ using Testing::InstalledRecordingPlatform;
 using Testing::trapSignal;
 using KeyPath = BasicAnimation::KeyPath;
 
-class Background : public testing::Test
-{
-protected:
-    static std::shared_ptr<AnimationView> ticking(const Color &color = {})
-    {
-        const auto view = AnimationView::initWithFrame({});
-        view->setColor(color);
-        view->createTimer();
-        return view;
-    }
-
-    // The line that a view draws; copied, because the next tick replaces it.
-    static ShapeLayer line(const AnimationView &view)
-    {
-        EXPECT_TRUE(view.shapeLayer());
-        return view.shapeLayer() ? *view.shapeLayer() : ShapeLayer();
-    }
-
-    static void setAppearance(QRgb ground, QRgb text)
-    {
-        QPalette palette;
-        palette.setColor(QPalette::Window, QColor::fromRgb(ground));
-        palette.setColor(QPalette::WindowText, QColor::fromRgb(text));
-        QGuiApplication::setPalette(palette);
-    }
-
-    void invalidateTimer(std::size_t index = 0)
-    {
-        const auto timer = platform->timers.at(index).lock();
-        ASSERT_TRUE(timer);
-        timer->invalidate();
-    }
-
-    InstalledRecordingPlatform platform;
-};
+using AnimationViewTest = Testing::BackgroundTest;
 
 // Making one.
 
-TEST_F(Background, IsMadeWithAFrameAndNothingElse)
+TEST_F(AnimationViewTest, IsMadeIdleWithItsFrame)
 {
     const auto view = AnimationView::initWithFrame({3, 4, 50, 60});
     EXPECT_EQ(view->position(), QPointF(3, 4));
@@ -79,7 +40,7 @@ TEST_F(Background, IsMadeWithAFrameAndNothingElse)
     EXPECT_FALSE(view->shapeLayer()) << "it does not start by itself";
 }
 
-TEST_F(Background, DecodedFromAQmlFileWorksLikeOneMadeInCode)
+TEST_F(AnimationViewTest, WorksLikeNewIfDecodedFromQml)
 {
     std::shared_ptr<AnimationView> view;
     {
@@ -99,7 +60,7 @@ TEST_F(Background, DecodedFromAQmlFileWorksLikeOneMadeInCode)
     EXPECT_FALSE(kept.expired()) << "held by its timer";
 }
 
-TEST_F(Background, DecodedOutOfALargerFileBelongsToItNoLonger)
+TEST_F(AnimationViewTest, LeavesItsQmlFileIfDecoded)
 {
     std::shared_ptr<AnimationView> view;
     {
@@ -119,7 +80,7 @@ TEST_F(Background, DecodedOutOfALargerFileBelongsToItNoLonger)
     EXPECT_TRUE(view->shapeLayer());
 }
 
-TEST_F(Background, WhatIsNoBackgroundDecodesToNothing)
+TEST_F(AnimationViewTest, DecodesOnlyAnimationViews)
 {
     bool destroyed = false;
     auto item = std::make_unique<QQuickItem>();
@@ -129,7 +90,7 @@ TEST_F(Background, WhatIsNoBackgroundDecodesToNothing)
     EXPECT_FALSE(AnimationView::initDecoded(nullptr));
 }
 
-TEST_F(Background, TakesNoInput)
+TEST_F(AnimationViewTest, TakesNoInput)
 {
     const auto view = ticking();
     EXPECT_EQ(view->acceptedMouseButtons(), Qt::NoButton);
@@ -140,7 +101,7 @@ TEST_F(Background, TakesNoInput)
 
 // Starting.
 
-TEST_F(Background, StartsInTheOrderCreateStoreFireSchedule)
+TEST_F(AnimationViewTest, CreatesStoresFiresAndSchedulesInThisOrder)
 {
     const auto view = AnimationView::initWithFrame({});
     platform->calls.clear();
@@ -156,12 +117,12 @@ TEST_F(Background, StartsInTheOrderCreateStoreFireSchedule)
                            QStringLiteral("timer.schedule()")}));
 }
 
-TEST_F(Background, TheFirstTickRunsBeforeCreateTimerReturns)
+TEST_F(AnimationViewTest, TicksBeforeCreateTimerReturns)
 {
     EXPECT_EQ(line(*ticking()).path.curves.size(), 4U);
 }
 
-TEST_F(Background, ASecondCreateTimerChangesNothing)
+TEST_F(AnimationViewTest, IgnoresASecondCreateTimer)
 {
     const auto view = ticking();
     const ShapeLayer first = line(*view);
@@ -172,7 +133,7 @@ TEST_F(Background, ASecondCreateTimerChangesNothing)
     EXPECT_EQ(platform->timers.size(), 1U);
 }
 
-TEST_F(Background, TicksEveryTenSecondsFromTheMakingOfTheTimer)
+TEST_F(AnimationViewTest, TicksEveryTenSecondsSinceTheTimerWasMade)
 {
     platform->stall(3);
     const auto view = ticking();
@@ -187,7 +148,7 @@ TEST_F(Background, TicksEveryTenSecondsFromTheMakingOfTheTimer)
     }
 }
 
-TEST_F(Background, AfterAStallOneTickRunsAndTheGridStays)
+TEST_F(AnimationViewTest, TicksOnceAfterAStallAndKeepsTheGrid)
 {
     const auto view = ticking();
     platform->stall(47);
@@ -197,7 +158,7 @@ TEST_F(Background, AfterAStallOneTickRunsAndTheGridStays)
     EXPECT_EQ(line(*view).animations().front().beginTime, 50);
 }
 
-TEST_F(Background, TheTickIsASlotThatTheObjectSystemKnows)
+TEST_F(AnimationViewTest, PublishesUpdateTimerToTheMetaObject)
 {
     const int index = AnimationView::staticMetaObject.indexOfSlot("updateTimer()");
     ASSERT_GE(index, 0);
@@ -206,7 +167,7 @@ TEST_F(Background, TheTickIsASlotThatTheObjectSystemKnows)
 
 // The line of a tick.
 
-TEST_F(Background, ItsLineIsTwoPointsWideAndCloses)
+TEST_F(AnimationViewTest, DrawsAClosedLineTwoPointsWide)
 {
     const ShapeLayer drawn = line(*ticking());
     EXPECT_EQ(drawn.lineWidth, 2);
@@ -216,7 +177,7 @@ TEST_F(Background, ItsLineIsTwoPointsWideAndCloses)
     EXPECT_EQ(drawn.model, Presentation()) << "opaque and whole while nothing animates";
 }
 
-TEST_F(Background, ItsAnimationsFadeInDrawAndBeginToFadeOut)
+TEST_F(AnimationViewTest, AnimatesFadeInStrokeAndFadeOut)
 {
     platform->stall(5);
     const std::vector<BasicAnimation> expected{{KeyPath::opacity, 0, 1, 1, 5, {}},
@@ -225,7 +186,7 @@ TEST_F(Background, ItsAnimationsFadeInDrawAndBeginToFadeOut)
     EXPECT_EQ(line(*ticking()).animations(), expected);
 }
 
-TEST_F(Background, GrowsFromItsFirstPointInTheOrderOfThePath)
+TEST_F(AnimationViewTest, GrowsFromTheFirstPointAlongThePath)
 {
     const ShapeLayer drawn = line(*ticking());
     EXPECT_EQ(drawn.presentation(0), (Presentation{0, 0}));
@@ -233,7 +194,7 @@ TEST_F(Background, GrowsFromItsFirstPointInTheOrderOfThePath)
     EXPECT_EQ(drawn.presentation(9.1), (Presentation{1, 1}));
 }
 
-TEST_F(Background, TheNextTickComesWhenAFifthOfTheLineIsLeft)
+TEST_F(AnimationViewTest, ReplacesTheLineAtAFifthOfItsOpacity)
 {
     const auto view = ticking();
     platform->advance(9.999'999);
@@ -275,7 +236,7 @@ bool isControlPointOf(int slot, const Point &point)
     }
 }
 
-TEST_F(Background, EachLineGoesOnceAroundTheScreenThroughItsFourQuarters)
+TEST_F(AnimationViewTest, RunsOnceThroughTheFourQuarters)
 {
     const auto view = ticking();
     std::set<int> firstSlots;
@@ -304,7 +265,7 @@ TEST_F(Background, EachLineGoesOnceAroundTheScreenThroughItsFourQuarters)
     EXPECT_GT(starts.size(), 400U) << "of about 770 places";
 }
 
-TEST_F(Background, IsLaidOutForTheScreenOfItsMakingWhateverItsSize)
+TEST_F(AnimationViewTest, UsesTheScreenSizeReadFirst)
 {
     const auto view = AnimationView::initWithFrame({0, 0, 20, 10});
     platform->bounds = {10, 10};
@@ -321,18 +282,18 @@ TEST_F(Background, IsLaidOutForTheScreenOfItsMakingWhateverItsSize)
 
 // Its colour.
 
-TEST_F(Background, LeftClearDrawsBlackAtAFifth)
+TEST_F(AnimationViewTest, DrawsTheClearDefaultInTranslucentBlack)
 {
     EXPECT_EQ(line(*ticking()).strokeColor, (Rgba{0, 0, 0, 0.2F}));
 }
 
-TEST_F(Background, TheAlphaIsReplacedWhateverItWas)
+TEST_F(AnimationViewTest, ReplacesAnyAlpha)
 {
     for (const float alpha : {0.0F, 0.1F, 0.2F, 0.5F, 1.0F})
         EXPECT_EQ(line(*ticking(Rgba{0.25F, 0.5F, 0.75F, alpha})).strokeColor, (Rgba{0.25F, 0.5F, 0.75F, 0.2F}));
 }
 
-TEST_F(Background, AColourStaysUntilTheNextTick)
+TEST_F(AnimationViewTest, ReadsTheColourOncePerTick)
 {
     const auto view = ticking(Rgba{1, 0, 0});
     const ShapeLayer first = line(*view);
@@ -348,7 +309,7 @@ TEST_F(Background, AColourStaysUntilTheNextTick)
     EXPECT_EQ(line(*view).strokeColor, (Rgba{0, 1, 0, 0.2F}));
 }
 
-TEST_F(Background, TakesLightOrDarkAtItsTickAndKeepsIt)
+TEST_F(AnimationViewTest, ResolvesTheAppearanceAtEachTick)
 {
     setAppearance(qRgb(250, 250, 250), qRgb(0, 0, 0));
     const auto view = ticking(Color(Rgba{1, 0, 0}, Rgba{0, 0, 1}));
@@ -361,7 +322,7 @@ TEST_F(Background, TakesLightOrDarkAtItsTickAndKeepsIt)
 
 // One layer at a time.
 
-TEST_F(Background, EachTickTakesOffAllItemsThatOthersAddedAndDestroysNone)
+TEST_F(AnimationViewTest, UnparentsChildItemsWithoutDestroyingThem)
 {
     const auto view = ticking();
     QQuickItem grandchildren;
@@ -380,7 +341,7 @@ TEST_F(Background, EachTickTakesOffAllItemsThatOthersAddedAndDestroysNone)
     EXPECT_FALSE(two.parentItem()) << "at every tick";
 }
 
-TEST_F(Background, TheOldLineGoesBeforeTheNewOneIsMade)
+TEST_F(AnimationViewTest, RemovesTheOldLineBeforeDrawingPoints)
 {
     const auto view = ticking();
     QQuickItem child(view.get());
@@ -391,7 +352,7 @@ TEST_F(Background, TheOldLineGoesBeforeTheNewOneIsMade)
     EXPECT_TRUE(view->shapeLayer());
 }
 
-TEST_F(Background, AnItemThatDestroysOrMovesOthersAsItIsTakenOffDoesNoHarm)
+TEST_F(AnimationViewTest, SurvivesChildrenThatDestroyOrMoveOthers)
 {
     const auto view = ticking();
     QQuickItem elsewhere;
@@ -405,256 +366,6 @@ TEST_F(Background, AnItemThatDestroysOrMovesOthersAsItIsTakenOffDoesNoHarm)
     platform->advance(10);
     EXPECT_TRUE(view->childItems().isEmpty());
     EXPECT_EQ(third.parentItem(), &elsewhere) << "no child of the view by then";
-}
-
-// When it asks for frames.
-
-/// Counts how often it is asked what to draw.
-class CountedView : public AnimationView
-{
-public:
-    int drawn = 0;
-
-protected:
-    QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override
-    {
-        ++drawn;
-        return AnimationView::updatePaintNode(node, data);
-    }
-};
-
-TEST_F(Background, IsDrawnAnewAtEachTickAndOnlyThen)
-{
-    QQuickWindow window;
-    CountedView view;
-    view.setParentItem(window.contentItem());
-    window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-    view.createTimer();
-    window.grabWindow();
-    EXPECT_GT(view.drawn, 0);
-    for (int tick = 0; tick < 3; ++tick) {
-        const int before = view.drawn;
-        view.setColor(Rgba{1, 0, 0});
-        platform->advance(9);
-        window.grabWindow();
-        EXPECT_EQ(view.drawn, before);
-        platform->advance(1);
-        window.grabWindow();
-        EXPECT_EQ(view.drawn, before + 1);
-    }
-}
-
-TEST_F(Background, ThatIsInvisibleAsksForNoFrameAndIsDrawnWhenItIsSeenAgain)
-{
-    QQuickWindow window;
-    QQuickItem page;
-    page.setParentItem(window.contentItem());
-    CountedView view;
-    view.setParentItem(&page);
-    window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-    view.createTimer();
-    window.grabWindow();
-    EXPECT_GT(view.drawn, 0);
-    page.setVisible(false);
-    window.grabWindow();
-    QCoreApplication::processEvents();
-    int frames = 0;
-    QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&] { ++frames; });
-    const int before = view.drawn;
-    platform->advance(30);
-    QTest::qWait(50); // as long as a frame that was asked for would take
-    EXPECT_EQ(frames, 0);
-    EXPECT_EQ(view.drawn, before);
-    page.setVisible(true);
-    window.grabWindow();
-    EXPECT_EQ(view.drawn, before + 1);
-}
-
-// Who holds it.
-
-TEST_F(Background, NeverStartedGoesWithItsLastHolder)
-{
-    auto view = AnimationView::initWithFrame({});
-    const std::weak_ptr<AnimationView> watched = view;
-    view.reset();
-    EXPECT_TRUE(watched.expired());
-    EXPECT_FALSE(platform->calls.contains(QStringLiteral("timer.invalidate()")));
-}
-
-TEST_F(Background, OnceStartedItsTimerHoldsIt)
-{
-    const std::weak_ptr<AnimationView> view = ticking();
-    ASSERT_FALSE(view.expired());
-    const ShapeLayer before = line(*view.lock());
-    platform->advance(10);
-    ASSERT_FALSE(view.expired());
-    EXPECT_NE(line(*view.lock()), before) << "and it ticks without a window";
-}
-
-TEST_F(Background, KeepsTickingWhenItIsTakenOffAndWhenItsWindowGoes)
-{
-    const std::weak_ptr<AnimationView> watched = ticking();
-    {
-        QQuickWindow window;
-        watched.lock()->setParentItem(window.contentItem());
-        platform->advance(10);
-        watched.lock()->setParentItem(nullptr);
-        const ShapeLayer before = line(*watched.lock());
-        platform->advance(10);
-        EXPECT_NE(line(*watched.lock()), before);
-        watched.lock()->setParentItem(window.contentItem());
-    }
-    ASSERT_FALSE(watched.expired());
-    EXPECT_FALSE(watched.lock()->window());
-    const ShapeLayer before = line(*watched.lock());
-    platform->advance(10);
-    EXPECT_NE(line(*watched.lock()), before);
-}
-
-TEST_F(Background, GoesWhenItsTimerIsInvalidatedFromOutside)
-{
-    const std::weak_ptr<AnimationView> view = ticking();
-    platform->calls.clear();
-    invalidateTimer();
-    EXPECT_TRUE(view.expired());
-    EXPECT_EQ(platform->calls.count(QStringLiteral("timer.invalidate()")), 2) << "once more by its teardown";
-    EXPECT_TRUE(platform->timers.front().expired());
-    platform->advance(100);
-}
-
-TEST_F(Background, WhoseTimerWasInvalidatedStaysStillAndIsHeldByItsHostAlone)
-{
-    auto view = ticking();
-    const std::weak_ptr<AnimationView> watched = view;
-    const ShapeLayer last = line(*view);
-    invalidateTimer();
-    platform->advance(100);
-    EXPECT_EQ(line(*view), last);
-    view->createTimer();
-    EXPECT_EQ(platform->timers.size(), 1U) << "its timer is set all the same";
-    view.reset();
-    EXPECT_TRUE(watched.expired());
-}
-
-TEST_F(Background, ATimerInvalidatedDuringTheFirstTickEndsIt)
-{
-    auto view = AnimationView::initWithFrame({});
-    const std::weak_ptr<AnimationView> watched = view;
-    QQuickItem child(view.get());
-    child.setParent(nullptr);
-    QObject::connect(&child, &QQuickItem::parentChanged, &child, [&] { invalidateTimer(); });
-    AnimationView *raw = view.get();
-    QObject::connect(&child, &QQuickItem::parentChanged, &child, [&] { view.reset(); });
-    raw->createTimer();
-    EXPECT_TRUE(watched.expired()) << "and createTimer() came to its end all the same";
-    platform->advance(100);
-}
-
-TEST_F(Background, ThatNoSharedPointerHoldsTakesItsTimerWithIt)
-{
-    {
-        AnimationView view;
-        view.createTimer();
-        EXPECT_TRUE(view.shapeLayer());
-        platform->advance(10);
-    }
-    EXPECT_EQ(platform->calls.last(), QStringLiteral("timer.invalidate()"));
-    platform->advance(100);
-}
-
-TEST_F(Background, ManyTickIndependently)
-{
-    std::vector<std::shared_ptr<AnimationView>> views;
-    for (int count = 0; count < 20; ++count) {
-        views.push_back(ticking());
-        platform->advance(0.25);
-    }
-    platform->advance(100);
-    for (std::size_t index = 0; index < views.size(); ++index)
-        EXPECT_EQ(line(*views[index]).animations().front().beginTime, 100 + 0.25 * static_cast<double>(index));
-}
-
-// What stops the process.
-
-TEST_F(Background, CanBeMadeWithoutAScreen)
-{
-    platform->bounds = {0, 0};
-    EXPECT_FALSE(AnimationView::initWithFrame({})->shapeLayer());
-}
-
-using BackgroundDeathTest = Background;
-
-TEST_F(BackgroundDeathTest, ATickOnAScreenLessThanTwoPointsWideOrHighStopsTheProcess)
-{
-    for (const QSizeF &bounds : {QSizeF(0, 0), QSizeF(1.9, 844), QSizeF(390, 1.9)}) {
-        // A point in the very middle of its range divides by nothing, so several ticks it is.
-        const auto tickAFewTimes = [&] {
-            platform->bounds = bounds;
-            const auto view = ticking();
-            platform->advance(100);
-        };
-        EXPECT_EXIT(tickAFewTimes(), testing::KilledBySignal(trapSignal), "");
-    }
-}
-
-TEST_F(BackgroundDeathTest, AScreenThatIsNotFiniteOrNegativeOrTooLargeStopsTheProcess)
-{
-    constexpr double infinity = std::numeric_limits<double>::infinity();
-    for (const QSizeF &bounds : {QSizeF(std::numeric_limits<double>::quiet_NaN(), 844), QSizeF(390, infinity),
-                                 QSizeF(-390, 844), QSizeF(390, -844), QSizeF(1e19, 844)}) {
-        EXPECT_EXIT((platform->bounds = bounds, AnimationView::initWithFrame({})), testing::KilledBySignal(trapSignal),
-                    "");
-    }
-}
-
-TEST_F(BackgroundDeathTest, OverflowStopsTheProcess)
-{
-    EXPECT_EXIT((platform->bounds = QSizeF(1e18, 1e18), ticking()), testing::KilledBySignal(trapSignal), "");
-}
-
-// A hundred and sixteen days of ticks.
-
-#ifdef __GLIBC__
-TEST_F(Background, AMillionTicksKeepTheGridAndTheMemory)
-{
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    constexpr int ticks = 50'000;
-#else
-    constexpr int ticks = 1'000'000;
-#endif
-    constexpr int warmUp = 1000;
-    platform->records = false;
-    QQuickWindow window;
-    window.show();
-    const auto view = ticking(Rgba{1, 0, 0});
-    view->setParentItem(window.contentItem());
-    std::size_t usedBefore = 0;
-    for (int tick = 1; tick <= ticks; ++tick) {
-        platform->advance(10);
-        ASSERT_EQ(view->shapeLayer()->animations().front().beginTime, 10.0 * tick);
-        ASSERT_EQ(view->shapeLayer()->animations().size(), 3U);
-        if (tick == warmUp)
-            usedBefore = mallinfo2().uordblks;
-    }
-    EXPECT_NEAR(static_cast<double>(mallinfo2().uordblks), static_cast<double>(usedBefore), 4096);
-    EXPECT_EQ(platform->timers.size(), 1U);
-}
-#endif
-
-TEST(BackgroundAlone, OutlivesThePlatformThatMadeItsTimer)
-{
-    std::shared_ptr<AnimationView> view;
-    {
-        const InstalledRecordingPlatform platform;
-        view = AnimationView::initWithFrame({});
-        view->createTimer();
-    }
-    const QPointer<AnimationView> observed = view.get();
-    view.reset();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_FALSE(observed);
 }
 
 } // namespace

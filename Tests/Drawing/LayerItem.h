@@ -1,7 +1,7 @@
 #pragma once
 
-#include "LayerNode.h"
 #include "ShapeLayer.h"
+#include "UpdateLayerNode.h"
 
 #include <TQFoundation/Platform.h>
 

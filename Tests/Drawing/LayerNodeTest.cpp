@@ -1,15 +1,11 @@
+#include "CountedWindow.h"
 #include "LayerItem.h"
 #include "RecordingPlatform.h"
 #include "StrokeReference.h"
 
-#include <QtCore/qabstracteventdispatcher.h>
-#include <QtCore/qeventloop.h>
-#include <QtCore/qtimer.h>
 #include <QtGui/qscreen.h>
-#include <QtQuick/qquickwindow.h>
 #include <QtQuick/qsgrendernode.h>
 #include <QtQuick/qsgsimplerectnode.h>
-#include <QtTest/qtest.h>
 
 #include <gtest/gtest.h>
 
@@ -19,15 +15,12 @@
 namespace TQFoundation {
 namespace {
 
+using Testing::CountedWindow;
+using Testing::darkness;
 using Testing::InstalledRecordingPlatform;
 using Testing::LayerItem;
 
 constexpr int darkest = 51; // of a line with an alpha of 0.2
-
-int darkness(const QImage &picture, int x, int y)
-{
-    return 255 - qGray(picture.pixel(x, y));
-}
 
 // The darkest pixel of a picture, or of a part of it.
 int darkestOf(const QImage &picture, QRect area = {})
@@ -57,21 +50,6 @@ int farthest(const QImage &one, const QImage &other)
 Path straight(Point start, Point end)
 {
     return {start, {CubicCurve{start, end, end}}};
-}
-
-Path moved(Path path, const QTransform &transform)
-{
-    const auto move = [&](Point &place) {
-        const QPointF there = transform.map(QPointF(place.x, place.y));
-        place = {there.x(), there.y()};
-    };
-    move(path.start);
-    for (CubicCurve &curve : path.curves) {
-        move(curve.control1);
-        move(curve.control2);
-        move(curve.end);
-    }
-    return path;
 }
 
 /// A rectangle of one colour.
@@ -124,40 +102,6 @@ private:
     };
 };
 
-/// A white window whose frames are counted.
-class CountedWindow : public QQuickWindow
-{
-public:
-    explicit CountedWindow(QSize size = {390, 844})
-    {
-        setColor(Qt::white);
-        resize(size);
-        connect(
-            this, &QQuickWindow::frameSwapped, this, [this] { ++frames; }, Qt::DirectConnection);
-        show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(this));
-    }
-
-    // Whether no frame comes any more; those under way are waited for.
-    bool rests()
-    {
-        return QTest::qWaitFor([this] {
-            const int before = frames;
-            QTest::qWait(60);
-            return frames == before;
-        });
-    }
-
-    // Whether frames keep coming.
-    bool moves()
-    {
-        const int before = frames;
-        return QTest::qWaitFor([&] { return frames > before + 5; });
-    }
-
-    std::atomic<int> frames = 0;
-};
-
 class LayerInAWindow : public testing::Test
 {
 protected:
@@ -165,119 +109,9 @@ protected:
 
     void goTo(double time) { platform->stall(time - platform->mediaTime()); }
 
-    // A line that stands still for some seconds and then fades.
-    ShapeLayer restingFor(double seconds)
-    {
-        ShapeLayer layer;
-        layer.path = Testing::randomPath(random);
-        layer.addAnimation({BasicAnimation::KeyPath::opacity, 1, 0, 1, seconds, {}}, 0);
-        return layer;
-    }
-
     InstalledRecordingPlatform platform;
     std::mt19937_64 random{11};
 };
-
-// Runs for each scale, which CTest sets from outside, on each backend.
-TEST(LayerPixels, NoPixelIsFarOffWhatAnotherLibraryDraws)
-{
-    const InstalledRecordingPlatform platform;
-    platform->records = false;
-    CountedWindow window;
-    const double scale = window.effectiveDevicePixelRatio();
-    ASSERT_EQ(scale, qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble());
-    LayerItem item(window.contentItem());
-    std::mt19937_64 random(9);
-    for (int round = 0; round < (scale == 1 ? 60 : 12); ++round) {
-        const Path path = Testing::randomPath(random);
-        ShapeLayer layer;
-        layer.path = path;
-        layer.lineWidth = 2;
-        layer.strokeColor = {0, 0, 0, 0.2F};
-        const double now = platform->mediaTime();
-        layer.addAnimation({BasicAnimation::KeyPath::strokeEnd, 0, 1, 8, {}, {}}, now);
-        item.setLayer(layer);
-        for (const double share : {0.0625, 0.25, 0.5, 0.875, 1.0}) {
-            platform->stall(now + 8 * share - platform->mediaTime());
-            const QImage shown = window.grabWindow();
-            ASSERT_EQ(shown.size(), QSize(390, 844) * scale);
-            EXPECT_EQ(Testing::differences(path, share, scale, shown.width(), shown.height(),
-                                           [&](int x, int y) { return darkness(shown, x, y); }),
-                      "")
-                << "path " << round << " drawn to " << share;
-        }
-    }
-}
-
-TEST(LayerPixels, AnItemThatIsMovedTurnedOrScaledIsDrawnAsSharply)
-{
-    const InstalledRecordingPlatform platform;
-    platform->records = false;
-    CountedWindow window;
-    const double scale = window.effectiveDevicePixelRatio();
-    LayerItem item(window.contentItem());
-    item.setTransformOrigin(QQuickItem::TopLeft);
-    std::mt19937_64 random(10);
-    const Path path = Testing::randomPath(random);
-    ShapeLayer layer;
-    layer.path = path;
-    layer.lineWidth = 2;
-    layer.strokeColor = {0, 0, 0, 0.2F};
-    item.setLayer(layer);
-    const auto check = [&](const QTransform &transform) {
-        const QImage shown = window.grabWindow();
-        EXPECT_EQ(Testing::differences(moved(path, transform), 1, scale, shown.width(), shown.height(),
-                                       [&](int x, int y) { return darkness(shown, x, y); }),
-                  "")
-            << transform.m12() << ',' << transform.dx();
-    };
-    item.setPosition({3.25, -7.5});
-    check(QTransform::fromTranslate(3.25, -7.5));
-    if (window.rendererInterface()->graphicsApi() == QSGRendererInterface::Software) {
-        item.setPosition({300, 100});
-        item.setRotation(30);
-        check(QTransform::fromTranslate(300, 100).rotate(30));
-    }
-    item.setRotation(0);
-    item.setPosition({100, 0});
-    check(QTransform::fromTranslate(100, 0));
-}
-
-// Runs where CTest gives it two screens, of one and of two pixels a point.
-TEST(LayerBetweenScreens, IsDrawnForTheScaleOfTheOneThatItsWindowMovesTo)
-{
-    const InstalledRecordingPlatform platform;
-    platform->records = false;
-    const QList<QScreen *> screens = QGuiApplication::screens();
-    ASSERT_EQ(screens.size(), 2);
-    CountedWindow window;
-    LayerItem item(window.contentItem());
-    std::mt19937_64 random(12);
-    ShapeLayer layer;
-    layer.path = Testing::randomPath(random);
-    layer.lineWidth = 2;
-    layer.strokeColor = {0, 0, 0, 0.2F};
-    layer.addAnimation({BasicAnimation::KeyPath::strokeEnd, 0, 1, 8, {}, {}}, platform->mediaTime());
-    item.setLayer(layer);
-    for (int move = 0; move < 4; ++move) {
-        window.hide();
-        window.setScreen(screens[move % 2]);
-        window.setPosition(screens[move % 2]->geometry().topLeft());
-        window.show();
-        const double scale = screens[move % 2]->devicePixelRatio();
-        EXPECT_EQ(scale, move % 2 + 1);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return window.effectiveDevicePixelRatio() == scale; }));
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-        platform->stall(1.5);
-        EXPECT_TRUE(window.moves());
-        const QImage shown = window.grabWindow();
-        ASSERT_EQ(shown.size(), window.size() * scale);
-        EXPECT_EQ(Testing::differences(layer.path, (move + 1) * 1.5 / 8, scale, shown.width(), shown.height(),
-                                       [&](int x, int y) { return darkness(shown, x, y); }),
-                  "")
-            << "move " << move;
-    }
-}
 
 TEST_F(LayerInAWindow, FollowsTheTimeline)
 {
@@ -316,7 +150,7 @@ TEST_F(LayerInAWindow, FollowsTheTimeline)
     }
 }
 
-TEST_F(LayerInAWindow, ShowsTheColorOfTheLayer)
+TEST_F(LayerInAWindow, ShowsTheLayersColour)
 {
     CountedWindow window({100, 40});
     LayerItem item(window.contentItem());
@@ -332,7 +166,7 @@ TEST_F(LayerInAWindow, ShowsTheColorOfTheLayer)
     EXPECT_NEAR(color.blue(), 128, 1);
 }
 
-TEST_F(LayerInAWindow, NoLayerIsNothing)
+TEST_F(LayerInAWindow, DrawsNothingWithoutALayer)
 {
     CountedWindow window({100, 40});
     LayerItem item(window.contentItem());
@@ -347,7 +181,7 @@ TEST_F(LayerInAWindow, NoLayerIsNothing)
     EXPECT_EQ(darkestOf(window.grabWindow()), 0) << "a path without length";
 }
 
-TEST_F(LayerInAWindow, IsNeitherClippedToItsItemNorScaledWithItsSize)
+TEST_F(LayerInAWindow, IgnoresTheSizeOfItsItem)
 {
     CountedWindow window({100, 40});
     LayerItem item(window.contentItem());
@@ -361,7 +195,7 @@ TEST_F(LayerInAWindow, IsNeitherClippedToItsItemNorScaledWithItsSize)
     EXPECT_EQ(farthest(window.grabWindow(), without), 0);
 }
 
-TEST_F(LayerInAWindow, IsClippedByWhatLiesAround)
+TEST_F(LayerInAWindow, IsClippedByAClippingParent)
 {
     CountedWindow window({100, 40});
     QQuickItem around(window.contentItem());
@@ -379,7 +213,7 @@ TEST_F(LayerInAWindow, IsClippedByWhatLiesAround)
     }
 }
 
-TEST_F(LayerInAWindow, IsAsTranslucentAsItsItem)
+TEST_F(LayerInAWindow, TakesTheOpacityOfItsItem)
 {
     CountedWindow window({100, 40});
     LayerItem item(window.contentItem());
@@ -388,7 +222,7 @@ TEST_F(LayerInAWindow, IsAsTranslucentAsItsItem)
     EXPECT_NEAR(darkestOf(window.grabWindow()), darkest / 2.0, 1);
 }
 
-TEST_F(LayerInAWindow, ShrunkToNothingItIsNothingAndComesBack)
+TEST_F(LayerInAWindow, ReappearsAfterAScaleOfZero)
 {
     CountedWindow window({100, 40});
     LayerItem item(window.contentItem());
@@ -399,7 +233,7 @@ TEST_F(LayerInAWindow, ShrunkToNothingItIsNothingAndComesBack)
     EXPECT_NEAR(darkestOf(window.grabWindow()), darkest, 1);
 }
 
-TEST_F(LayerInAWindow, FramesKeepComingWhileItMovesAndStopWhenNothingChanges)
+TEST_F(LayerInAWindow, RequestsFramesOnlyWhileAnimating)
 {
     CountedWindow window;
     LayerItem item(window.contentItem());
@@ -411,31 +245,7 @@ TEST_F(LayerInAWindow, FramesKeepComingWhileItMovesAndStopWhenNothingChanges)
     EXPECT_TRUE(window.rests());
 }
 
-TEST_F(LayerInAWindow, RestsWhileTheLineStandsStillAndWakesUpForTheNextChange)
-{
-    CountedWindow window;
-    LayerItem item(window.contentItem());
-    item.setLayer(restingFor(0.3));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window.frames > 0; }));
-    EXPECT_TRUE(window.rests());
-    goTo(0.4);
-    EXPECT_TRUE(window.moves());
-}
-
-TEST_F(LayerInAWindow, AnItemThatIsHiddenWhileItRestsTakesNoFrameWhenTheRestIsOver)
-{
-    CountedWindow window;
-    LayerItem item(window.contentItem());
-    item.setLayer(restingFor(0.5));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window.frames > 0; }));
-    item.setVisible(false);
-    EXPECT_TRUE(window.rests());
-    const int before = window.frames;
-    QTest::qWait(700);
-    EXPECT_EQ(window.frames, before);
-}
-
-TEST_F(LayerInAWindow, AHiddenItemTakesNoFrameAndGoesOnAtTheRightPlace)
+TEST_F(LayerInAWindow, ContinuesAtTheRightPlaceAfterBeingHidden)
 {
     CountedWindow window({100, 40});
     LayerItem item(window.contentItem());
@@ -463,7 +273,7 @@ TEST_F(LayerInAWindow, AHiddenItemTakesNoFrameAndGoesOnAtTheRightPlace)
     }
 }
 
-TEST_F(LayerInAWindow, AnItemOutsideTheWindowTakesNoFrame)
+TEST_F(LayerInAWindow, RequestsNoFramesOutsideItsWindow)
 {
     CountedWindow window({100, 40});
     LayerItem item(window.contentItem());
@@ -476,7 +286,7 @@ TEST_F(LayerInAWindow, AnItemOutsideTheWindowTakesNoFrame)
     EXPECT_TRUE(window.moves());
 }
 
-TEST_F(LayerInAWindow, AHiddenWindowTakesNoFrameAndGoesOnAfterwards)
+TEST_F(LayerInAWindow, RequestsNoFramesInAHiddenWindow)
 {
     CountedWindow window;
     LayerItem item(window.contentItem());
@@ -543,7 +353,7 @@ TEST_F(LayerInAWindow, OutlivesItsWindow)
     EXPECT_EQ(item.window(), nullptr);
 }
 
-TEST_F(LayerInAWindow, TwoWindowsAtOnceShowTheSame)
+TEST_F(LayerInAWindow, ShowsTheSameInTwoWindows)
 {
     CountedWindow first;
     CountedWindow second;
@@ -563,7 +373,7 @@ TEST_F(LayerInAWindow, TwoWindowsAtOnceShowTheSame)
     EXPECT_TRUE(second.rests());
 }
 
-TEST_F(LayerInAWindow, TwentyItemsAtOnceAreEachDrawn)
+TEST_F(LayerInAWindow, DrawsTwentyItemsAtOnce)
 {
     CountedWindow window({400, 400});
     std::vector<std::unique_ptr<LayerItem>> items;
@@ -586,7 +396,7 @@ TEST_F(LayerInAWindow, TwentyItemsAtOnceAreEachDrawn)
     EXPECT_TRUE(window.rests());
 }
 
-TEST_F(LayerInAWindow, ANewLayerReplacesTheOldOne)
+TEST_F(LayerInAWindow, ReplacesTheOldLayer)
 {
     CountedWindow window({200, 200});
     LayerItem item(window.contentItem());
@@ -629,7 +439,7 @@ TEST_F(LayerInAWindow, IsDrawnIntoLayersOfTheSceneGraph)
 }
 
 // What the screen shows after many frames, each of which painted only what had changed.
-TEST_F(LayerInAWindow, PaintsNothingTwiceWhereOthersChangeBeneathAndAbove)
+TEST_F(LayerInAWindow, PaintsNothingTwiceAmongChangingItems)
 {
     if (QGuiApplication::platformName() != u"offscreen")
         GTEST_SKIP() << "only there the screen can be looked at";
@@ -666,14 +476,14 @@ TEST_F(LayerInAWindow, PaintsNothingTwiceWhereOthersChangeBeneathAndAbove)
         const int before = changing.window.frames;
         ASSERT_TRUE(QTest::qWaitFor([&] { return changing.window.frames > before; }));
     }
-    EXPECT_TRUE(changing.window.rests());
+    EXPECT_TRUE(changing.window.moves());
     const QImage screen = changing.window.screen()->grabWindow(changing.window.winId()).toImage();
     Scene fresh(path);
     fresh.setFrame(frames);
     EXPECT_EQ(farthest(screen, fresh.window.grabWindow().copy(screen.rect())), 0);
 }
 
-TEST_F(LayerInAWindow, OnlyWhatChangesIsPaintedAnew)
+TEST_F(LayerInAWindow, PaintsOnlyChangedTiles)
 {
     CountedWindow window({400, 40});
     if (window.rendererInterface()->graphicsApi() != QSGRendererInterface::Software)
@@ -699,7 +509,7 @@ TEST_F(LayerInAWindow, OnlyWhatChangesIsPaintedAnew)
     EXPECT_TRUE(QTest::qWaitFor([&] { return witness.paintings > before; })) << "it fades out as a whole";
 }
 
-TEST_F(LayerInAWindow, ACoverHidesItAndShowsItAgain)
+TEST_F(LayerInAWindow, ReappearsAfterItsCover)
 {
     CountedWindow window({100, 40});
     LayerItem item(window.contentItem());
@@ -725,109 +535,6 @@ TEST_F(LayerInAWindow, FollowsTheSizeOfItsWindow)
     random.seed(11);
     same.setLayer(Testing::driftingLayer(Testing::randomPath(random), -9.1));
     EXPECT_EQ(farthest(window.grabWindow(), other.grabWindow()), 0);
-}
-
-/// A layer by the real clock, drawn in a thread of the scene graph's own.
-class LayerInItsOwnThread : public testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        if (qEnvironmentVariable("QSG_RENDER_LOOP") != u"threaded")
-            GTEST_SKIP() << "needs the threaded render loop";
-        window = std::make_unique<CountedWindow>();
-        item = std::make_unique<LayerItem>(window->contentItem());
-    }
-
-    // The software backend's thread may sleep for ever where its window goes in the middle of a frame.
-    void TearDown() override
-    {
-        item.reset();
-        EXPECT_TRUE(!window || window->rests());
-    }
-
-    // How often the main thread wakes up meanwhile, the end of the wait not counted.
-    static int wakeUpsWithin(int milliseconds)
-    {
-        int wakeUps = 0;
-        const auto counting = QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake,
-                                               [&] { ++wakeUps; });
-        QEventLoop loop;
-        QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-        loop.exec();
-        QObject::disconnect(counting);
-        return wakeUps - 1;
-    }
-
-    ShapeLayer layer(double duration)
-    {
-        ShapeLayer made;
-        made.path = Testing::randomPath(random);
-        made.lineWidth = 2;
-        made.addAnimation({BasicAnimation::KeyPath::strokeEnd, 0, 1, duration, {}, {}}, platform().mediaTime());
-        return made;
-    }
-
-    std::mt19937_64 random{14};
-    std::unique_ptr<CountedWindow> window;
-    std::unique_ptr<LayerItem> item;
-};
-
-TEST_F(LayerInItsOwnThread, TheMainThreadSleepsWhileTheLineDrawsItself)
-{
-    item->setLayer(layer(100));
-    ASSERT_TRUE(window->moves());
-    QTest::qWait(100);
-    const int before = window->frames;
-    EXPECT_LE(wakeUpsWithin(1500), 2);
-    EXPECT_GE(window->frames - before, 20);
-}
-
-TEST_F(LayerInItsOwnThread, FramesComeNoFasterThanTheScreenShowsThem)
-{
-    item->setLayer(layer(100));
-    ASSERT_TRUE(window->moves());
-    const int before = window->frames;
-    wakeUpsWithin(1000);
-    EXPECT_LE(window->frames - before, 1.1 * window->screen()->refreshRate() + 3);
-}
-
-TEST_F(LayerInItsOwnThread, RestsWhereNothingChangesAndWakesTheMainThreadOnceForIt)
-{
-    ShapeLayer still = layer(0.3);
-    const double now = platform().mediaTime();
-    still.addAnimation({BasicAnimation::KeyPath::opacity, 1, 0, 0.3, now + 0.8, {}}, now);
-    item->setLayer(still);
-    QTest::qWait(100);
-    EXPECT_LE(wakeUpsWithin(1400), 2);
-    EXPECT_TRUE(window->rests());
-    EXPECT_LE(window->frames, 60) << "about twenty for each of the two animations";
-    EXPECT_GE(window->frames, 15);
-}
-
-TEST_F(LayerInItsOwnThread, SurvivesHidingMovingAndTheLossOfItsSceneGraph)
-{
-    CountedWindow other;
-    window->setPersistentSceneGraph(false);
-    window->setPersistentGraphics(false);
-    item->setLayer(layer(100));
-    for (int round = 0; round < 3; ++round) {
-        EXPECT_TRUE(window->moves());
-        item->setVisible(false);
-        EXPECT_TRUE(window->rests());
-        item->setVisible(true);
-        EXPECT_TRUE(window->moves());
-        window->hide();
-        window->releaseResources();
-        QCoreApplication::processEvents();
-        window->show();
-        EXPECT_TRUE(window->moves());
-        item->setParentItem(other.contentItem());
-        EXPECT_TRUE(other.moves());
-        EXPECT_TRUE(window->rests());
-        item->setParentItem(window->contentItem());
-    }
-    EXPECT_TRUE(other.rests());
 }
 
 } // namespace

@@ -55,7 +55,7 @@ constexpr Moment timeline[] = {
     {20, 1, 1},
 };
 
-TEST(Layer, ShowsTheWholeTimelineOfABackgroundLine)
+TEST(ShapeLayer, ShowsTheWholeTimelineOfABackgroundLine)
 {
     for (const double start : {0.0, 7.25, 86'400.125}) {
         const ShapeLayer layer = line(start);
@@ -67,13 +67,13 @@ TEST(Layer, ShowsTheWholeTimelineOfABackgroundLine)
     }
 }
 
-TEST(Layer, AnAnimationBeginsExactlyAtItsTime)
+TEST(ShapeLayer, AnAnimationBeginsExactlyAtItsTime)
 {
     EXPECT_EQ(line(0).presentation(0), (Presentation{0, 0}));
     EXPECT_EQ(line(0).presentation(std::nextafter(0, -1)), (Presentation{1, 1}));
 }
 
-TEST(Layer, AnAnimationIsRemovedExactlyAtItsEnd)
+TEST(ShapeLayer, AnAnimationIsRemovedExactlyAtItsEnd)
 {
     ShapeLayer layer;
     layer.addAnimation({.keyPath = KeyPath::opacity, .fromValue = 0, .toValue = 0.5, .duration = 2}, 1);
@@ -81,7 +81,7 @@ TEST(Layer, AnAnimationIsRemovedExactlyAtItsEnd)
     EXPECT_EQ(layer.presentation(3).opacity, 1) << "the layer's own again";
 }
 
-TEST(Layer, BeginsWhenAddedUnlessItSaysOtherwise)
+TEST(ShapeLayer, BeginsWhenAddedUnlessItSaysOtherwise)
 {
     const ShapeLayer layer = line(5);
     ASSERT_EQ(layer.animations().size(), 3U);
@@ -90,7 +90,7 @@ TEST(Layer, BeginsWhenAddedUnlessItSaysOtherwise)
     EXPECT_EQ(layer.animations()[2].beginTime, 5 + 9.2);
 }
 
-TEST(Layer, AnimationsWithoutAKeyReplaceNone)
+TEST(ShapeLayer, AnimationsWithoutAKeyReplaceNone)
 {
     ShapeLayer layer;
     layer.addAnimation({.toValue = 0.25, .duration = 1}, 0);
@@ -98,7 +98,7 @@ TEST(Layer, AnimationsWithoutAKeyReplaceNone)
     EXPECT_EQ(layer.animations().size(), 2U);
 }
 
-TEST(Layer, OfSeveralAnimationsOfOneNumberTheLastAddedCounts)
+TEST(ShapeLayer, OfSeveralAnimationsOfOneNumberTheLastAddedCounts)
 {
     ShapeLayer layer;
     layer.addAnimation({.fromValue = 0.25, .toValue = 0.25, .duration = 4}, 0);
@@ -107,7 +107,7 @@ TEST(Layer, OfSeveralAnimationsOfOneNumberTheLastAddedCounts)
     EXPECT_EQ(layer.presentation(2).opacity, 0.25) << "once the last has ended, the one before";
 }
 
-TEST(Layer, AnAnimationReplacesTheOneWithItsKey)
+TEST(ShapeLayer, AnAnimationReplacesTheOneWithItsKey)
 {
     ShapeLayer layer;
     layer.addAnimation({.toValue = 1, .duration = 4, .key = "fade"}, 0);
@@ -118,27 +118,25 @@ TEST(Layer, AnAnimationReplacesTheOneWithItsKey)
     EXPECT_EQ(layer.animations()[1].beginTime, 1.0);
 }
 
-TEST(Layer, WithoutAnimationsItsModelIsDrawnAndNothingChanges)
+TEST(ShapeLayer, WithoutAnimationsItsModelIsDrawnAndNothingChanges)
 {
     ShapeLayer layer;
     layer.model = {0.25, 0.75};
     EXPECT_EQ(layer.presentation(3), layer.model);
-    EXPECT_EQ(layer.nextChange(3), std::nullopt);
+    EXPECT_FALSE(layer.isAnimating(3));
 }
 
-TEST(Layer, ChangesWhileAnimationsRunAndRestsBetweenThem)
+TEST(ShapeLayer, IsAnimatingUntilTheLastEnd)
 {
     const ShapeLayer layer = line(0);
-    EXPECT_EQ(layer.nextChange(-1), 0.0);
-    for (const double running : {0.0, 0.5, 1.0, 8.999, 9.2, 10.0, 10.19})
-        EXPECT_EQ(layer.nextChange(running), running);
-    EXPECT_EQ(layer.nextChange(9), 9.2);
-    EXPECT_EQ(layer.nextChange(9.1), 9.2);
-    EXPECT_EQ(layer.nextChange(10.3), std::nullopt);
+    for (const double time : {-1.0, 0.0, 0.5, 8.999, 9.0, 9.1, 9.2, 10.19})
+        EXPECT_TRUE(layer.isAnimating(time)) << time;
+    for (const double time : {10.2, 10.3, 1e9})
+        EXPECT_FALSE(layer.isAnimating(time)) << time;
 }
 
-// A picture that is drawn at any moment stays right until the moment that nextChange() gives, or for good.
-TEST(Layer, NothingChangesBeforeTheNextChange)
+// A frame that is drawn when isAnimating() is false stays right for good.
+TEST(ShapeLayer, ShowsItsModelOnceNothingAnimates)
 {
     std::mt19937_64 engine(4);
     std::uniform_real_distribution<double> starts(0, 1e7);
@@ -152,8 +150,7 @@ TEST(Layer, NothingChangesBeforeTheNextChange)
         // Around the end, where rounding decides.
         const double end = start + duration;
         const double now = round % 3 == 0 ? end : std::nextafter(end, round % 3 == 1 ? 0.0 : 1e9);
-        if (const auto next = layer.nextChange(now)) {
-            ASSERT_EQ(*next, now);
+        if (layer.isAnimating(now)) {
             ASSERT_LE(layer.presentation(now).opacity, 0.5);
         } else {
             ASSERT_EQ(layer.presentation(now), layer.model);
@@ -162,7 +159,7 @@ TEST(Layer, NothingChangesBeforeTheNextChange)
     }
 }
 
-TEST(Layer, IsAValue)
+TEST(ShapeLayer, IsAValue)
 {
     const ShapeLayer layer = line(1);
     ShapeLayer copy = layer;

@@ -41,8 +41,9 @@ public:
                     const auto value = [&](std::size_t edge) {
                         return at(corners, sample, [&](const auto &vertex) { return vertex.within[part][edge]; });
                     };
-                    if (value(3) > StrokeMesh::disc)
-                        least = std::min(least, value(3) - StrokeMesh::disc - std::hypot(value(0), value(1)));
+                    if (value(3) > StrokeConstants::discMarker)
+                        least =
+                            std::min(least, value(3) - StrokeConstants::discMarker - std::hypot(value(0), value(1)));
                     else
                         least = std::min({least, value(0), value(1), value(2), value(3)});
                     isCovered = isCovered || least >= 0;

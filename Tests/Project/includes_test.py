@@ -23,7 +23,7 @@ DEFINED_ELSEWHERE = {
 }
 
 root = pathlib.Path(sys.argv[1]) / "Sources"
-files = {path.name: path for path in root.rglob("*") if path.suffix in (".h", ".cpp")}
+files = {path.name: path for path in root.rglob("*") if path.suffix in (".h", ".cpp", ".glsl")}
 failures = []
 
 
@@ -44,7 +44,7 @@ for path in files.values():
     allowed = {folder, *LAYERS.get(folder, ())}
     # A header and its source are one component.
     component = graph.setdefault(path.stem, set())
-    for name in re.findall(r'^#include "(?:TQFoundation/)?([^"]+)"', path.read_text(encoding="utf-8"), re.MULTILINE):
+    for name in re.findall(r'^#include "(?:TQFoundation/|Shaders/)?([^"]+)"', path.read_text(encoding="utf-8"), re.MULTILINE):
         if name == "tqfoundation_export.h":
             continue
         if name not in files:

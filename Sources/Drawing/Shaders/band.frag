@@ -12,7 +12,7 @@ layout(std140, binding = 0) uniform Layer
 
 void main()
 {
-    // How much of a pixel lies within each edge, taking the pixel for a disc.
+    // Coverage by each edge, with the pixel approximated by a disc.
     vec3 size = sqrt(dFdx(within) * dFdx(within) + dFdy(within) * dFdy(within));
     vec3 covered = clamp(within / max(size, vec3(1e-6)) + 0.5, 0.0, 1.0);
     fragColor = color * (max(covered.x + covered.y - 1.0, 0.0) * covered.z);

@@ -17,27 +17,25 @@ layout(std140, binding = 0) uniform Layer
     float end;
 };
 
-const int samples = 64;
-const float disc = 512.0; // marks the radius of a disc
-const float nowhere = -128.0; // less than any distance to a part that is there
+const float nowhere = -128.0; // less than the distances to any part
 
 vec2 firstX, firstY;
 vec4 leftX, leftY;
 vec4 x0, x1, x2, x3, x4, x5;
 vec4 y0, y1, y2, y3, y4, y5;
 
-// A lattice in which all columns and all rows of samples differ.
+// The offset of a sample from the middle of the pixel.
 vec2 sampleAt(int k)
 {
-    return fract(vec2(float(k) + 0.5, float(k) * 19.0 + 0.5) / float(samples)) - 0.5;
+    return fract(vec2(float(k) + 0.5, float(k) * float(latticeStep) + 0.5) / float(samples)) - 0.5;
 }
 
-// Less than 0 for a sample outside the part.
+// Signed distance of a sample to a part: less than 0 outside.
 float within(vec4 edges, vec4 edgesX, vec4 edgesY, float left, vec2 offset)
 {
     vec4 here = edges + offset.x * edgesX + offset.y * edgesY;
     float sides = min(min(here.x, here.y), min(here.z, here.w));
-    float radius = here.w - disc;
+    float radius = here.w - float(discMarker);
     return min(radius > 0.0 ? radius * radius - dot(here.xy, here.xy) : sides, left);
 }
 
@@ -67,17 +65,16 @@ void main()
     x4 = dFdx(within4), y4 = dFdy(within4);
     x5 = dFdx(within5), y5 = dFdy(within5);
 
-    // Few squares know more than three parts, and those pay for it. Loops end the same everywhere, as old versions of
-    // the language ask for.
-    bool isBusy = within3.x > nowhere;
+    // Few squares have more than three parts. Loops have constant ends, as GLSL ES 100 requires.
+    bool hasManyParts = within3.x > nowhere;
     float covered = 0.0;
     for (int k = 0; k < samples; ++k) {
-        if (isBusy)
+        if (hasManyParts)
             break;
         covered += step(0.0, withinFirst(sampleAt(k)));
     }
     for (int k = 0; k < samples; ++k) {
-        if (!isBusy)
+        if (!hasManyParts)
             break;
         vec2 offset = sampleAt(k);
         covered += step(0.0, max(withinFirst(offset), withinOthers(offset)));

@@ -1,15 +1,15 @@
 #version 440
 
-layout(location = 0) in vec4 placeAndLengths; // the length of the line within the first two parts
-layout(location = 1) in vec4 lengths; // and within the others
-layout(location = 2) in vec4 edges0; // the distances to the edges of each part
+layout(location = 0) in vec4 placeAndLengths; // position, arc length within parts 0 and 1
+layout(location = 1) in vec4 lengths; // arc length within parts 2 to 5
+layout(location = 2) in vec4 edges0; // signed distances to the edges of part 0
 layout(location = 3) in vec4 edges1;
 layout(location = 4) in vec4 edges2;
 layout(location = 5) in vec4 edges3;
 layout(location = 6) in vec4 edges4;
 layout(location = 7) in vec4 edges5;
 
-layout(location = 0) out vec2 leftFirst; // the length that is left until the end of what is drawn
+layout(location = 0) out vec2 leftFirst; // arc length left before the stroke end
 layout(location = 1) out vec4 left;
 layout(location = 2) out vec4 within0;
 layout(location = 3) out vec4 within1;
@@ -22,7 +22,7 @@ layout(std140, binding = 0) uniform Layer
 {
     mat4 qt_Matrix;
     vec4 color; // premultiplied
-    float end; // the length of the line that is drawn
+    float end; // arc length that is drawn
 };
 
 void main()

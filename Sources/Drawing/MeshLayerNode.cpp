@@ -1,0 +1,80 @@
+#include "MeshLayerNode.h"
+
+#include "StrokeMesh.h"
+
+#include <algorithm>
+#include <array>
+
+namespace TQFoundation {
+
+MeshLayerNode::TrianglesNode::TrianglesNode(StrokeMaterial::Kind kind, const QSGGeometry::AttributeSet &attributes)
+    : material(kind),
+      m_attributes(attributes)
+{
+    setMaterial(&material);
+    setFlag(OwnedByParent, false);
+}
+
+template <typename Vertex>
+void MeshLayerNode::TrianglesNode::setTriangles(const std::vector<Vertex> &vertices,
+                                                const std::vector<std::uint32_t> &indices)
+{
+    const bool isSmall = vertices.size() <= 0xffff;
+    m_geometry.emplace(m_attributes, static_cast<int>(vertices.size()), static_cast<int>(indices.size()),
+                       isSmall ? QSGGeometry::UnsignedShortType : QSGGeometry::UnsignedIntType);
+    m_geometry->setDrawingMode(QSGGeometry::DrawTriangles);
+    std::ranges::copy(vertices, static_cast<Vertex *>(m_geometry->vertexData()));
+    if (isSmall)
+        std::ranges::transform(indices, m_geometry->indexDataAsUShort(),
+                               [](std::uint32_t index) { return static_cast<quint16>(index); });
+    else
+        std::ranges::copy(indices, m_geometry->indexDataAsUInt());
+    setGeometry(&*m_geometry);
+}
+
+const QSGGeometry::AttributeSet &MeshLayerNode::bandAttributes()
+{
+    static const std::array attributes{QSGGeometry::Attribute::create(0, 2, QSGGeometry::FloatType, true),
+                                       QSGGeometry::Attribute::create(1, 3, QSGGeometry::FloatType)};
+    static const QSGGeometry::AttributeSet set{attributes.size(), sizeof(StrokeMesh::BandVertex), attributes.data()};
+    return set;
+}
+
+const QSGGeometry::AttributeSet &MeshLayerNode::squareAttributes()
+{
+    static const std::array attributes = [] {
+        std::array<QSGGeometry::Attribute, 8> vectors;
+        for (int k = 0; k < 8; ++k)
+            vectors[static_cast<std::size_t>(k)] = QSGGeometry::Attribute::create(k, 4, QSGGeometry::FloatType, k == 0);
+        return vectors;
+    }();
+    static const QSGGeometry::AttributeSet set{attributes.size(), sizeof(StrokeMesh::SquareVertex), attributes.data()};
+    return set;
+}
+
+void MeshLayerNode::updateStroke()
+{
+    const StrokeMesh mesh = strokeMesh(stroke(), scale());
+    removeAllChildNodes();
+    m_band.setTriangles(mesh.band, mesh.bandIndices);
+    m_squares.setTriangles(mesh.squares, mesh.squareIndices);
+    if (!mesh.bandIndices.empty())
+        appendChildNode(&m_band);
+    if (!mesh.squareIndices.empty())
+        appendChildNode(&m_squares);
+}
+
+void MeshLayerNode::updatePresentation(const Presentation &presentation, const QMatrix4x4 &)
+{
+    const Rgba &color = layer().strokeColor;
+    const float alpha = color.alpha * static_cast<float>(presentation.opacity);
+    // A complete line ends beyond its length, so that no pixel of it is lost to rounding.
+    const double length = stroke().length;
+    const double end = presentation.strokeEnd >= 1 ? 2 * length + 1 : presentation.strokeEnd * length;
+    for (TrianglesNode *node : {&m_band, &m_squares}) {
+        node->material.color = QVector4D(color.red * alpha, color.green * alpha, color.blue * alpha, alpha);
+        node->material.end = static_cast<float>(end);
+    }
+}
+
+} // namespace TQFoundation

@@ -1,0 +1,134 @@
+#include "CountedWindow.h"
+#include "LayerItem.h"
+#include "RecordingPlatform.h"
+#include "StrokeReference.h"
+
+#include <QtGui/qscreen.h>
+#include <QtGui/qtransform.h>
+
+namespace TQFoundation {
+namespace {
+
+using Testing::CountedWindow;
+using Testing::darkness;
+using Testing::InstalledRecordingPlatform;
+using Testing::LayerItem;
+
+Path moved(Path path, const QTransform &transform)
+{
+    const auto move = [&](Point &place) {
+        const QPointF there = transform.map(QPointF(place.x, place.y));
+        place = {there.x(), there.y()};
+    };
+    move(path.start);
+    for (CubicCurve &curve : path.curves) {
+        move(curve.control1);
+        move(curve.control2);
+        move(curve.end);
+    }
+    return path;
+}
+
+// Runs for each scale, which CTest sets from outside, on each backend.
+TEST(LayerPixels, MatchesAnotherLibrarysPixels)
+{
+    const InstalledRecordingPlatform platform;
+    platform->records = false;
+    CountedWindow window;
+    const double scale = window.effectiveDevicePixelRatio();
+    ASSERT_EQ(scale, qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble());
+    LayerItem item(window.contentItem());
+    std::mt19937_64 random(9);
+    for (int round = 0; round < (scale == 1 ? 60 : 12); ++round) {
+        const Path path = Testing::randomPath(random);
+        ShapeLayer layer;
+        layer.path = path;
+        layer.lineWidth = 2;
+        layer.strokeColor = {0, 0, 0, 0.2F};
+        const double now = platform->mediaTime();
+        layer.addAnimation({BasicAnimation::KeyPath::strokeEnd, 0, 1, 8, {}, {}}, now);
+        item.setLayer(layer);
+        for (const double share : {0.0625, 0.25, 0.5, 0.875, 1.0}) {
+            platform->stall(now + 8 * share - platform->mediaTime());
+            const QImage shown = window.grabWindow();
+            ASSERT_EQ(shown.size(), QSize(390, 844) * scale);
+            EXPECT_EQ(Testing::differences(path, share, scale, shown.width(), shown.height(),
+                                           [&](int x, int y) { return darkness(shown, x, y); }),
+                      "")
+                << "path " << round << " drawn to " << share;
+        }
+    }
+}
+
+TEST(LayerPixels, MatchesPixelsOfATransformedItem)
+{
+    const InstalledRecordingPlatform platform;
+    platform->records = false;
+    CountedWindow window;
+    const double scale = window.effectiveDevicePixelRatio();
+    LayerItem item(window.contentItem());
+    item.setTransformOrigin(QQuickItem::TopLeft);
+    std::mt19937_64 random(10);
+    const Path path = Testing::randomPath(random);
+    ShapeLayer layer;
+    layer.path = path;
+    layer.lineWidth = 2;
+    layer.strokeColor = {0, 0, 0, 0.2F};
+    item.setLayer(layer);
+    const auto check = [&](const QTransform &transform) {
+        const QImage shown = window.grabWindow();
+        EXPECT_EQ(Testing::differences(moved(path, transform), 1, scale, shown.width(), shown.height(),
+                                       [&](int x, int y) { return darkness(shown, x, y); }),
+                  "")
+            << transform.m12() << ',' << transform.dx();
+    };
+    item.setPosition({3.25, -7.5});
+    check(QTransform::fromTranslate(3.25, -7.5));
+    if (window.rendererInterface()->graphicsApi() == QSGRendererInterface::Software) {
+        item.setPosition({300, 100});
+        item.setRotation(30);
+        check(QTransform::fromTranslate(300, 100).rotate(30));
+    }
+    item.setRotation(0);
+    item.setPosition({100, 0});
+    check(QTransform::fromTranslate(100, 0));
+}
+
+// Runs where CTest gives it two screens, of one and of two pixels a point.
+TEST(LayerBetweenScreens, FollowsTheScaleOfItsScreen)
+{
+    const InstalledRecordingPlatform platform;
+    platform->records = false;
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    ASSERT_EQ(screens.size(), 2);
+    CountedWindow window;
+    LayerItem item(window.contentItem());
+    std::mt19937_64 random(12);
+    ShapeLayer layer;
+    layer.path = Testing::randomPath(random);
+    layer.lineWidth = 2;
+    layer.strokeColor = {0, 0, 0, 0.2F};
+    layer.addAnimation({BasicAnimation::KeyPath::strokeEnd, 0, 1, 8, {}, {}}, platform->mediaTime());
+    item.setLayer(layer);
+    for (int move = 0; move < 4; ++move) {
+        window.hide();
+        window.setScreen(screens[move % 2]);
+        window.setPosition(screens[move % 2]->geometry().topLeft());
+        window.show();
+        const double scale = screens[move % 2]->devicePixelRatio();
+        EXPECT_EQ(scale, move % 2 + 1);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return window.effectiveDevicePixelRatio() == scale; }));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        platform->stall(1.5);
+        EXPECT_TRUE(window.moves());
+        const QImage shown = window.grabWindow();
+        ASSERT_EQ(shown.size(), window.size() * scale);
+        EXPECT_EQ(Testing::differences(layer.path, (move + 1) * 1.5 / 8, scale, shown.width(), shown.height(),
+                                       [&](int x, int y) { return darkness(shown, x, y); }),
+                  "")
+            << "move " << move;
+    }
+}
+
+} // namespace
+} // namespace TQFoundation

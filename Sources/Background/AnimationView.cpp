@@ -80,7 +80,7 @@ AnimationView::~AnimationView()
 
 std::shared_ptr<AnimationView> AnimationView::initWithFrame(const QRectF &frame)
 {
-    std::shared_ptr<AnimationView> view(new AnimationView, deleteInItsTurn);
+    std::shared_ptr<AnimationView> view(new AnimationView, deferredDelete);
     view->setPosition(frame.topLeft());
     view->setSize(frame.size());
     return view;
@@ -94,7 +94,7 @@ std::shared_ptr<AnimationView> AnimationView::initDecoded(std::unique_ptr<QObjec
     static_cast<void>(decoded.release());
     view->setParent(nullptr);
     QJSEngine::setObjectOwnership(view, QJSEngine::CppOwnership);
-    return {view, deleteInItsTurn};
+    return {view, deferredDelete};
 }
 
 Color AnimationView::color() const

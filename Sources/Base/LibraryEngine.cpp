@@ -14,7 +14,7 @@
 namespace TQFoundation {
 namespace {
 
-/// Lets the library's own files show and load only what lies in resources or in files.
+/// Blocks every URL that is neither a resource nor a local file.
 class LocalOnly final : public QQmlAbstractUrlInterceptor
 {
 public:
@@ -32,19 +32,19 @@ struct Library
 
     LocalOnly localOnly;
     QQmlEngine engine;
-    QObject belongings;
+    QObject scope;
 };
 
-Library *living = nullptr;
+Library *instance = nullptr;
 
 Library *library()
 {
-    if (!living) {
-        living = new Library;
-        // Forgotten first, because what goes with it may ask for it.
-        qAddPostRoutine([] { delete std::exchange(living, nullptr); });
+    if (!instance) {
+        instance = new Library;
+        // Reset before the deletion, because destructors that it runs may call library().
+        qAddPostRoutine([] { delete std::exchange(instance, nullptr); });
     }
-    return living;
+    return instance;
 }
 
 } // namespace
@@ -70,20 +70,20 @@ bool hasQmlModule(const QString &name)
     });
 }
 
-QObject *untilApplicationEnds()
+QObject *applicationScope()
 {
-    return &library()->belongings;
+    return &library()->scope;
 }
 
-void deleteInItsTurn(QObject *object)
+void deferredDelete(QObject *object)
 {
-    if (!living) {
+    if (!instance) {
         delete object;
         return;
     }
     if (auto *item = qobject_cast<QQuickItem *>(object))
         item->setParentItem(nullptr);
-    object->setParent(&living->belongings);
+    object->setParent(&instance->scope);
     object->deleteLater();
 }
 

@@ -9,22 +9,22 @@ class QObject;
 
 namespace TQFoundation {
 
-/// Makes the root object of the QML file at \a path with the given \a properties, in an engine that belongs to the
-/// library: what a host's engine makes loses its handlers when that engine goes. The engine loads nothing from a
-/// network and goes when the application object does. Null where the file is missing or in error.
+/// Creates the root object of the QML file at \a path (a file, or a resource that begins with a colon) with the initial
+/// \a properties.
 ///
-/// The caller owns the object. Needs an application object. Main thread.
+/// The engine is the library's own, because objects created by a host's engine lose their signal handlers when it is
+/// destroyed. It loads nothing from a network and is destroyed with the application object. Null if the file is missing
+/// or has errors. The caller owns the object. Requires an application object. GUI thread.
 std::unique_ptr<QObject> makeFromNib(const QString &path, const QVariantMap &properties = {});
 
-/// Whether files of the library can import the QML module in the folder \a name of an import path. Main thread.
+/// Whether an import path of the library's engine has the QML module in the folder \a name ("QtWebEngine"). GUI thread.
 bool hasQmlModule(const QString &name);
 
-/// The object that everything belongs to which has to be gone before the application object is. Main thread.
-QObject *untilApplicationEnds();
+/// Parent for objects that must be destroyed before the application object is. Never null. GUI thread.
+QObject *applicationScope();
 
-/// Takes \a object off the screen and deletes it when control is back in the event loop, because one of its own
-/// handlers may be running, or at once where there is no application any more. For a shared pointer to call. Main
-/// thread.
-void deleteInItsTurn(QObject *object);
+/// Deletes \a object in the event loop, because one of its own handlers may be running; at once if the application
+/// object is destroyed. An item leaves its window immediately. A deleter for shared pointers. GUI thread.
+void deferredDelete(QObject *object);
 
 } // namespace TQFoundation

@@ -72,7 +72,7 @@ Sendmail::~Sendmail()
 
 void Sendmail::start(const QString &program, const QByteArray &message)
 {
-    auto *process = new Program(untilApplicationEnds());
+    auto *process = new Program(applicationScope());
     m_process = process;
     process->setStandardOutputFile(QProcess::nullDevice());
     connect(process, &QProcess::readyReadStandardError, this, [this, process] {

@@ -32,7 +32,7 @@ void raisePopups(QQuickItem *content)
 Sheet::~Sheet()
 {
     if (m_popup)
-        deleteInItsTurn(m_popup);
+        deferredDelete(m_popup);
 }
 
 bool Sheet::open(const QString &name, std::unique_ptr<QObject> page, QQuickWindow *window)
@@ -46,7 +46,7 @@ bool Sheet::open(const QString &name, std::unique_ptr<QObject> page, QQuickWindo
         return false;
     page.release()->setParent(popup.get());
     m_popup = popup.release();
-    m_popup->setParent(untilApplicationEnds());
+    m_popup->setParent(applicationScope());
     QObject::connect(window, &QObject::destroyed, m_popup, &QObject::deleteLater);
     m_popup->setProperty("parent", QVariant::fromValue(window->contentItem()));
     m_popup->setProperty("visible", true);

@@ -26,7 +26,7 @@ class OpacityAnimation final : public QVariantAnimation
 {
 public:
     OpacityAnimation(QQuickItem *item, double opacity, double seconds, std::function<void()> completion)
-        : QVariantAnimation(untilApplicationEnds()),
+        : QVariantAnimation(applicationScope()),
           m_item(item),
           m_completion(std::move(completion))
     {
@@ -67,7 +67,7 @@ private:
 
 void animateOpacity(QQuickItem *item, double opacity, double seconds, std::function<void()> completion)
 {
-    const QObjectList others = untilApplicationEnds()->children();
+    const QObjectList others = applicationScope()->children();
     for (QObject *other : others) {
         if (auto *animation = dynamic_cast<OpacityAnimation *>(other))
             animation->yieldTo(item);

@@ -66,9 +66,9 @@ std::shared_ptr<TQGuideView> TQGuideView::initFromNib(const Color &tintColor, co
 {
     std::unique_ptr<QObject> first = makeFromNib(libraryBundle().root() + u"/Nibs/TQGuideView.qml");
     precondition(qobject_cast<TQGuideView *>(first.get()));
-    std::shared_ptr<TQGuideView> view(static_cast<TQGuideView *>(first.release()), deleteInItsTurn);
+    std::shared_ptr<TQGuideView> view(static_cast<TQGuideView *>(first.release()), deferredDelete);
     // At the end of the application no host and no animation holds it any longer.
-    connect(untilApplicationEnds(), &QObject::destroyed, view.get(),
+    connect(applicationScope(), &QObject::destroyed, view.get(),
             [raw = view.get()] { const auto released = std::exchange(raw->m_heldByHost, nullptr); });
     view->setBackgroundColor(tintColor);
     view->setDescriptions(descriptions);

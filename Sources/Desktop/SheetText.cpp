@@ -8,7 +8,7 @@
 namespace TQFoundation {
 namespace {
 
-/// One entry of the table below, whose order is that of the keys.
+// One entry of the table, which is in the order of the keys.
 struct Text
 {
     SheetText::Key key;
@@ -18,9 +18,9 @@ struct Text
 constexpr std::array texts{
     //: Button that sends the mail, or loads the page, once more after that failed.
     Text{SheetText::TryAgain, QT_TRANSLATE_NOOP("TQFoundationInterface", "Try Again")},
+
     //: Button that closes the sheet without sending the mail.
     Text{SheetText::Cancel, QT_TRANSLATE_NOOP("TQFoundationInterface", "Cancel")},
-
     //: Title of the sheet in which the user writes a mail.
     Text{SheetText::NewMessage, QT_TRANSLATE_NOOP("TQFoundationInterface", "New Message")},
     //: Title of the sheet while the mail is being sent.

@@ -5,7 +5,10 @@
 
 namespace TQFoundation {
 
-/// The texts of the library's own sheets, in the user's language. A singleton in QML: `SheetText.of(SheetText.Cancel)`.
+/// The texts of the library's own sheets, in the user's language.
+///
+/// A singleton in QML: `SheetText.of(SheetText.Cancel)`. The English texts and the comments for translators are in the
+/// table of SheetText.cpp. The key "Next" of the guide's button is not here: it belongs to the guide.
 class SheetText : public QObject
 {
     Q_OBJECT
@@ -13,11 +16,12 @@ class SheetText : public QObject
     QML_SINGLETON
 
 public:
+    /// A text by its use. A new one needs an entry at the same position of the table, and one in each translation.
     enum Key {
-        // In several sheets
+        // Several sheets: buttons
         TryAgain,
+        // Mail: labels, buttons and questions
         Cancel,
-        // Mail: labels and buttons
         NewMessage,
         Sending,
         Send,
@@ -28,7 +32,7 @@ public:
         DiscardQuestion,
         Discard,
         KeepWriting,
-        // Mail: why it was not sent
+        // Mail: errors of sending
         NoMailProgram,
         MailProgramNotSetUp,
         MailServerUnreachable,
@@ -40,7 +44,7 @@ public:
         Close,
         Back,
         Reload,
-        // Browser: why there is no page
+        // Browser: errors of loading
         PageUnreachable,
         PageInsecure,
         PageCrashed,
@@ -50,8 +54,8 @@ public:
 
     using QObject::QObject;
 
-    /// The text of \a key from the library's table for the user's language, or in English without such a table. Any
-    /// thread.
+    /// The text of \a key from the library's table for the user's language; in English if that table is missing. Looked
+    /// up at each call. Any thread.
     Q_INVOKABLE static QString of(TQFoundation::SheetText::Key key);
 };
 

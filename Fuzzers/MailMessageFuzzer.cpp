@@ -1,5 +1,5 @@
-// Mails of arbitrary texts, taken apart again by the rules of RFC 5322, RFC 2047 and RFC 4648 alone: the headers are
-// those of one mail to one person, and subject and body arrive as they were.
+// Composes mails of arbitrary texts and parses them by RFC 5322, RFC 2047 and RFC 4648: there is exactly one recipient
+// and one of each header, and subject and body equal the input.
 
 #include "MailMessage.h"
 #include "Require.h"
@@ -39,7 +39,7 @@ std::string decodedBase64(std::string_view text)
     return bytes;
 }
 
-// The text without what is no UTF-8: U+FFFD for each byte that begins no code point. Decodes each to its number.
+// The code points of text, with U+FFFD for each invalid byte.
 std::vector<char32_t> codePoints(std::string_view text)
 {
     std::vector<char32_t> points;
@@ -53,21 +53,20 @@ std::vector<char32_t> codePoints(std::string_view text)
             : byte(0) >> 3 == 30                  ? 4
                                                   : 0;
         char32_t point = byte(0) & (length == 1 ? 0x7FU : 0x7FU >> length);
-        bool isWhole = length > 0;
+        bool isComplete = length > 0;
         for (std::size_t offset = 1; offset < length; ++offset) {
-            isWhole = isWhole && byte(offset) >> 6 == 2;
+            isComplete = isComplete && byte(offset) >> 6 == 2;
             point = point << 6 | (byte(offset) & 0x3FU);
         }
         constexpr char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
-        isWhole = isWhole && point >= smallest[length] && point <= 0x10FFFF && (point < 0xD800 || point > 0xDFFF);
-        points.push_back(isWhole ? point : U'\uFFFD');
-        at += isWhole ? length : 1;
+        isComplete = isComplete && point >= smallest[length] && point <= 0x10FFFF && (point < 0xD800 || point > 0xDFFF);
+        points.push_back(isComplete ? point : U'\uFFFD');
+        at += isComplete ? length : 1;
     }
     return points;
 }
 
-// Whether it is UTF-8: as long as its code points are, of which U+FFFD alone takes another number of bytes than what it
-// stands for.
+// Whether text is valid UTF-8: U+FFFD takes three bytes, so replacing an invalid byte would change the size.
 bool isValid(std::string_view text)
 {
     std::size_t size = 0;
@@ -77,7 +76,7 @@ bool isValid(std::string_view text)
     return size == text.size();
 }
 
-// What a header's text is to arrive as.
+// The expected code points of a header.
 std::vector<char32_t> headerText(std::string_view text)
 {
     std::vector<char32_t> points = codePoints(text);
@@ -97,7 +96,7 @@ std::string decodedWords(std::string_view value)
         const std::size_t end = value.find("?=", opening.size());
         require(value.starts_with(opening) && end != std::string_view::npos && end + 2 <= 75);
         const std::string word = decodedBase64(value.substr(opening.size(), end - opening.size()));
-        require(isValid(word)); // No code point is cut in two.
+        require(isValid(word)); // no code point is split
         text += word;
         value.remove_prefix(end + 2);
         if (value.empty())
@@ -107,41 +106,49 @@ std::string decodedWords(std::string_view value)
     }
 }
 
-void check(const MailMessage &mail)
+struct ParsedMail
 {
-    const auto composed = composeMail(mail);
-    if (!composed)
-        return;
-    require(std::ranges::all_of(*composed, [](char c) { return c == '\n' || (c >= 0x20 && c < 0x7F); }));
-
     std::multimap<std::string, std::string> headers;
-    auto last = headers.end();
-    std::size_t at = 0;
-    const auto nextLine = [&] {
-        const std::size_t end = composed->find('\n', at);
-        require(end != std::string::npos);
-        const std::string line = composed->substr(at, end - at);
-        at = end + 1;
+    std::string encodedBody;
+};
+
+ParsedMail parsed(std::string_view message)
+{
+    require(std::ranges::all_of(message, [](char c) { return c == '\n' || (c >= 0x20 && c < 0x7F); }));
+    const auto nextLine = [&message] {
+        const std::size_t end = message.find('\n');
+        require(end != std::string_view::npos);
+        const std::string line(message.substr(0, end));
+        message.remove_prefix(end + 1);
         return line;
     };
+    ParsedMail mail;
+    auto last = mail.headers.end();
     for (std::string line = nextLine(); !line.empty(); line = nextLine()) {
         require(line.size() <= 998);
         if (line.front() == ' ') {
-            require(last != headers.end() && line.size() <= 76);
+            require(last != mail.headers.end() && line.size() <= 76);
             last->second += line;
             continue;
         }
         const std::size_t colon = line.find(": ");
         require(colon != std::string::npos);
-        last = headers.emplace(line.substr(0, colon), line.substr(colon + 2));
+        last = mail.headers.emplace(line.substr(0, colon), line.substr(colon + 2));
     }
-    std::string encoded;
-    while (at < composed->size()) {
+    while (!message.empty()) {
         const std::string line = nextLine();
         require(!line.empty() && line.size() <= 76);
-        encoded += line;
+        mail.encodedBody += line;
     }
+    return mail;
+}
 
+void check(const MailMessage &mail)
+{
+    const auto composed = composeMail(mail);
+    if (!composed)
+        return;
+    const auto [headers, encodedBody] = parsed(*composed);
     require(headers.size() == 5);
     for (const char *name : {"To", "Subject", "MIME-Version", "Content-Type", "Content-Transfer-Encoding"})
         require(headers.count(name) == 1);
@@ -149,7 +156,7 @@ void check(const MailMessage &mail)
     require(std::ranges::count(mail.to, '@') == 1);
     require(mail.to.find_first_of(" ,;:<>()[]\\\"\r\n\t") == std::string::npos && mail.to.front() != '-');
     require(codePoints(decodedWords(headers.find("Subject")->second)) == headerText(mail.subject));
-    const std::string body = decodedBase64(encoded);
+    const std::string body = decodedBase64(encodedBody);
     require(codePoints(body) == codePoints(mail.html));
     if (isValid(mail.html))
         require(body == mail.html);

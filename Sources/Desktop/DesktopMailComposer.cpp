@@ -33,7 +33,7 @@ void DesktopMailComposer::setToRecipients(const QStringList &addresses)
 void DesktopMailComposer::setSubject(const QString &subject)
 {
     if (m_draft)
-        m_draft->begin(subject);
+        m_draft->setInitialSubject(subject);
 }
 
 void DesktopMailComposer::setMessageBody(const QString &body, bool isHtml)
@@ -46,11 +46,11 @@ void DesktopMailComposer::setMessageBody(const QString &body, bool isHtml)
 void DesktopMailComposer::appear(QQuickWindow *window)
 {
     if (m_draft) {
-        connect(m_draft.get(), &MailDraft::finished, this, &DesktopMailComposer::tellDelegate);
+        connect(m_draft.get(), &MailDraft::finished, this, &DesktopMailComposer::notifyDelegate);
         if (m_sheet.open(QStringLiteral("MailSheet"), std::move(m_draft), window))
             return;
     }
-    tellDelegate(MailComposeResult::failed, MailDraft::problemOf(Sendmail::Outcome::failed));
+    notifyDelegate(MailComposeResult::failed, MailDraft::problemOf(Sendmail::Outcome::failed));
 }
 
 void DesktopMailComposer::disappear()
@@ -58,10 +58,10 @@ void DesktopMailComposer::disappear()
     m_sheet.close();
 }
 
-void DesktopMailComposer::tellDelegate(MailComposeResult result, const QString &error)
+void DesktopMailComposer::notifyDelegate(MailComposeResult result, const QString &error)
 {
-    // Dismissing lets go of the composer.
-    const auto alive = weak_from_this().lock();
+    // The presenting controller drops its reference on dismissal.
+    const auto self = weak_from_this().lock();
     if (const auto delegate = m_delegate.lock())
         delegate->mailComposeController(this, result, error);
     else

@@ -1,7 +1,7 @@
 #include "MailDraft.h"
 
 #include "MailMessage.h"
-#include "TQFoundation/Bundle.h"
+#include "SheetText.h"
 
 #include <QtGui/qclipboard.h>
 #include <QtGui/qguiapplication.h>
@@ -18,12 +18,12 @@
 namespace TQFoundation {
 namespace {
 
-// What stands in the editor for the name of an image, and where the image keeps its own.
-constexpr QLatin1String noImage("tq:no-image");
-constexpr int ownName = QTextFormat::UserProperty + 1;
+// Images of the message are shown as one blank image. The original name is kept in a property of the text format.
+constexpr QLatin1String blankImage("tq:blank-image");
+constexpr int originalImageName = QTextFormat::UserProperty + 1;
 
-/// A document that loads nothing of what its HTML refers to.
-class SecludedDocument final : public QTextDocument
+/// A document that loads neither images nor style sheets.
+class OfflineDocument final : public QTextDocument
 {
 protected:
     QVariant loadResource(int type, const QUrl &) override
@@ -32,15 +32,11 @@ protected:
     }
 };
 
-// Gives each stretch of text the format that `change` makes of its own.
+// Calls change(format) for the format of each text fragment and applies the changed format if it returns true. Formats
+// are collected first, because applying one invalidates the iterators.
 template <typename Change>
 void changeFormats(QTextDocument &document, const Change &change)
 {
-    QList<QTextFragment> fragments;
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment)
-            fragments += fragment.fragment();
-    }
     struct Run
     {
         int start;
@@ -48,10 +44,13 @@ void changeFormats(QTextDocument &document, const Change &change)
         QTextCharFormat format;
     };
     QList<Run> runs;
-    for (const QTextFragment &fragment : std::as_const(fragments)) {
-        QTextCharFormat format = fragment.charFormat();
-        if (change(format))
-            runs.append({fragment.position(), fragment.position() + fragment.length(), format});
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto iterator = block.begin(); !iterator.atEnd(); ++iterator) {
+            const QTextFragment fragment = iterator.fragment();
+            QTextCharFormat format = fragment.charFormat();
+            if (change(format))
+                runs.append({fragment.position(), fragment.position() + fragment.length(), format});
+        }
     }
     QTextCursor cursor(&document);
     for (const Run &run : std::as_const(runs)) {
@@ -61,8 +60,8 @@ void changeFormats(QTextDocument &document, const Change &change)
     }
 }
 
-// Whether the user would see colours of the text's own. Links have the toolkit's.
-bool isColored(const QTextDocument &document)
+// Links do not count: the toolkit colours them.
+bool hasOwnColors(const QTextDocument &document)
 {
     const QList<QTextFormat> formats = document.allFormats();
     return std::ranges::any_of(formats, [](const QTextFormat &format) {
@@ -72,11 +71,6 @@ bool isColored(const QTextDocument &document)
     });
 }
 
-QString words(const char *key)
-{
-    return libraryBundle().interfaceString(QString::fromUtf8(key));
-}
-
 } // namespace
 
 void MailDraft::setSubject(const QString &subject)
@@ -84,28 +78,27 @@ void MailDraft::setSubject(const QString &subject)
     if (m_subject == subject)
         return;
     m_subject = subject;
-    m_subjectChanged = true;
+    m_isSubjectEdited = true;
     Q_EMIT subjectChanged();
 }
 
 bool MailDraft::isTooLarge() const
 {
-    // Laying out takes time with the square of a paragraph's length and of the depth of nesting, and doubles with every
-    // table in a table.
+    // Layout time grows with the square of paragraph length and nesting depth, and doubles with each nested table.
     return html.size() > 20000 || html.count(u'<') > 1000
         || html.count(QStringLiteral("<table"), Qt::CaseInsensitive) > 8;
 }
 
-void MailDraft::fill(QQuickTextDocument *editor)
+void MailDraft::load(QQuickTextDocument *editor)
 {
-    SecludedDocument given;
+    OfflineDocument message;
     if (!isTooLarge())
-        given.setHtml(html);
-    m_hasColors = isColored(given);
-    changeFormats(given, [](QTextCharFormat &format) {
+        message.setHtml(html);
+    m_hasColors = hasOwnColors(message);
+    changeFormats(message, [](QTextCharFormat &format) {
         if (format.isImageFormat()) {
-            format.setProperty(ownName, format.toImageFormat().name());
-            format.setProperty(QTextFormat::ImageName, noImage);
+            format.setProperty(originalImageName, format.toImageFormat().name());
+            format.setProperty(QTextFormat::ImageName, blankImage);
         } else if (format.isAnchor()) {
             format.clearForeground();
         }
@@ -114,13 +107,13 @@ void MailDraft::fill(QQuickTextDocument *editor)
 
     m_document = editor->textDocument();
     m_document->setUndoRedoEnabled(false);
-    QImage nothing(1, 1, QImage::Format_ARGB32_Premultiplied);
-    nothing.fill(Qt::transparent);
-    m_document->addResource(QTextDocument::ImageResource, QUrl(noImage), nothing);
-    QTextCursor(m_document).insertFragment(QTextDocumentFragment(&given));
+    QImage blank(1, 1, QImage::Format_ARGB32_Premultiplied);
+    blank.fill(Qt::transparent);
+    m_document->addResource(QTextDocument::ImageResource, QUrl(blankImage), blank);
+    QTextCursor(m_document).insertFragment(QTextDocumentFragment(&message));
     m_document->setUndoRedoEnabled(true);
     m_document->setModified(false);
-    Q_EMIT filled();
+    Q_EMIT loaded();
 }
 
 void MailDraft::paste(int start, int end)
@@ -135,66 +128,62 @@ void MailDraft::paste(int start, int end)
 
 void MailDraft::send()
 {
-    if (m_sending || m_finished)
+    if (m_state != State::editing)
         return;
     QGuiApplication::inputMethod()->commit();
-    m_sending = true;
+    m_state = State::sending;
     Q_EMIT stateChanged();
     const auto message = composeMail({
-        .to = recipientText().toStdString(),
+        .to = recipient().toStdString(),
         .subject = m_subject.toStdString(),
-        .html = this->message().toStdString(),
+        .html = (isEdited() ? editedHtml() : html).toStdString(),
     });
     const QString program = sendmailProgram(programFolders);
     if (!message || program.isEmpty()) {
-        heardBack(message ? Sendmail::Outcome::noProgram : Sendmail::Outcome::failed, {});
+        onSendFinished(message ? Sendmail::Outcome::noProgram : Sendmail::Outcome::failed, {});
         return;
     }
-    m_sendmail = new Sendmail(this);
-    connect(m_sendmail, &Sendmail::finished, this, &MailDraft::heardBack);
-    m_sendmail->start(program, QByteArray::fromStdString(*message));
+    auto *sendmail = new Sendmail(this);
+    connect(sendmail, &Sendmail::finished, this, &MailDraft::onSendFinished);
+    connect(sendmail, &Sendmail::finished, sendmail, &QObject::deleteLater);
+    sendmail->start(program, QByteArray::fromStdString(*message));
 }
 
 void MailDraft::cancel()
 {
-    if (m_sending)
+    if (m_state != State::editing)
         return;
     QGuiApplication::inputMethod()->commit();
-    if (m_subjectChanged || (m_document && m_document->isModified()))
-        Q_EMIT discardQuestioned();
+    if (m_isSubjectEdited || isEdited())
+        Q_EMIT discardConfirmationRequested();
     else
         discard();
 }
 
 void MailDraft::discard()
 {
-    if (!m_sending)
+    if (m_state == State::editing)
         finish(m_problem.isEmpty() ? ViewController::MailComposeResult::cancelled
                                    : ViewController::MailComposeResult::failed);
 }
 
-// What the user has not changed goes out as it was given; what is changed, as the editor writes it.
-QString MailDraft::message() const
+QString MailDraft::editedHtml() const
 {
-    if (!m_document || !m_document->isModified())
-        return html;
     const std::unique_ptr<QTextDocument> copy(m_document->clone());
-    copy->setDocumentMargin(m_document->documentMargin()); // else it is written as a table around all
+    copy->setDocumentMargin(m_document->documentMargin()); // else toHtml() wraps everything in a table
     changeFormats(*copy, [](QTextCharFormat &format) {
-        if (!format.hasProperty(ownName))
+        if (!format.hasProperty(originalImageName))
             return false;
-        format.setProperty(QTextFormat::ImageName, format.property(ownName));
-        format.clearProperty(ownName);
+        format.setProperty(QTextFormat::ImageName, format.property(originalImageName));
+        format.clearProperty(originalImageName);
         return true;
     });
     return isTooLarge() ? QString(copy->toHtml() + html) : copy->toHtml();
 }
 
-void MailDraft::heardBack(Sendmail::Outcome outcome, const QString &detail)
+void MailDraft::onSendFinished(Sendmail::Outcome outcome, const QString &detail)
 {
-    if (m_sendmail)
-        m_sendmail->deleteLater();
-    m_sending = false;
+    m_state = State::editing;
     m_problem = problemOf(outcome);
     m_problemDetail = outcome == Sendmail::Outcome::sent ? QString() : detail;
     Q_EMIT stateChanged();
@@ -204,8 +193,8 @@ void MailDraft::heardBack(Sendmail::Outcome outcome, const QString &detail)
 
 void MailDraft::finish(ViewController::MailComposeResult result)
 {
-    if (!std::exchange(m_finished, true))
-        Q_EMIT finished(result, m_problem);
+    m_state = State::finished;
+    Q_EMIT finished(result, m_problem);
 }
 
 QString MailDraft::problemOf(Sendmail::Outcome outcome)
@@ -214,107 +203,21 @@ QString MailDraft::problemOf(Sendmail::Outcome outcome)
     case Sendmail::Outcome::sent:
         break;
     case Sendmail::Outcome::noProgram:
-        //: Why a mail was not sent.
-        return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "There is no mail program on this device."));
+        return SheetText::of(SheetText::NoMailProgram);
     case Sendmail::Outcome::notSetUp:
-        //: Why a mail was not sent.
-        return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "The mail program on this device is not set up."));
+        return SheetText::of(SheetText::MailProgramNotSetUp);
     case Sendmail::Outcome::unreachable:
-        //: Why a mail was not sent.
-        return words(QT_TRANSLATE_NOOP("TQFoundationInterface",
-                                       "The mail server cannot be reached. Check your connection and try again."));
+        return SheetText::of(SheetText::MailServerUnreachable);
     case Sendmail::Outcome::rejected:
-        //: Why a mail was not sent.
-        return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "The mail server did not accept your message."));
+        return SheetText::of(SheetText::MailRejected);
     case Sendmail::Outcome::failed:
-        //: Why a mail was not sent.
-        return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Your message could not be sent."));
+        return SheetText::of(SheetText::MailFailed);
     case Sendmail::Outcome::crashed:
-        //: Why a mail was not sent.
-        return words(QT_TRANSLATE_NOOP("TQFoundationInterface",
-                                       "The mail program stopped unexpectedly. Your message may not have been sent."));
+        return SheetText::of(SheetText::MailProgramCrashed);
     case Sendmail::Outcome::unanswered:
-        //: The user has to know that a further attempt could send the mail twice.
-        return words(QT_TRANSLATE_NOOP(
-            "TQFoundationInterface",
-            "There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again "
-            "sends it twice."));
+        return SheetText::of(SheetText::MailProgramTimedOut);
     }
     return {};
-}
-
-QString MailDraft::titleText()
-{
-    //: Title of the sheet in which the user writes a mail.
-    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "New Message"));
-}
-
-QString MailDraft::sendingText()
-{
-    //: Stands in place of the sheet's title while a mail is on its way.
-    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Sending…"));
-}
-
-QString MailDraft::cancelText()
-{
-    //: Button that closes the sheet without sending the mail.
-    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Cancel"));
-}
-
-QString MailDraft::sendText()
-{
-    //: Button that sends the mail.
-    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Send"));
-}
-
-QString MailDraft::againText()
-{
-    //: Button that sends the mail, or loads the page, once more after that failed.
-    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Try Again"));
-}
-
-QString MailDraft::toText()
-{
-    //: Stands before the address that a mail goes to.
-    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "To:"));
-}
-
-QString MailDraft::subjectText()
-{
-    //: Stands before the subject of a mail.
-    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Subject:"));
-}
-
-QString MailDraft::messageText()
-{
-    //: What a screen reader calls the field in which the text of a mail is written.
-    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Message"));
-}
-
-QString MailDraft::tooLargeText()
-{
-    //: Stands below what the user writes in a mail.
-    return words(QT_TRANSLATE_NOOP("TQFoundationInterface",
-                                   "More text, which is too long to be shown here, is sent along below yours."));
-}
-
-QString MailDraft::discardQuestion()
-{
-    //: Asked before the sheet is closed; answered by "Discard" or "Keep Writing".
-    return words(
-        QT_TRANSLATE_NOOP("TQFoundationInterface", "Discard this message? What you have written will be lost."));
-}
-
-QString MailDraft::discardText()
-{
-    //: Button that closes the sheet and loses what was written.
-    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Discard"));
-}
-
-QString MailDraft::keepText()
-{
-    //: Button that leads back to the mail that is being written.
-    return words(QT_TRANSLATE_NOOP("TQFoundationInterface", "Keep Writing"));
 }
 
 } // namespace TQFoundation

@@ -8,123 +8,113 @@
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/qquicktextdocument.h>
 
-#include <memory>
-
 namespace TQFoundation {
 
-/// The mail that the user writes, as the composer's sheet MailSheet.qml shows it, and its way out.
+/// The mail that the user edits in the composer's sheet, MailSheet.qml. Sends it through a sendmail program.
+///
+/// Owned by the composer until the sheet is opened, then by the sheet. GUI thread only.
 class MailDraft : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("A mail composer makes it.")
     Q_PROPERTY(TQFoundation::Color tint MEMBER tint CONSTANT FINAL)
-    Q_PROPERTY(QString recipient READ recipientText CONSTANT FINAL)
+    Q_PROPERTY(QString recipient READ recipient CONSTANT FINAL)
     Q_PROPERTY(QString subject READ subject WRITE setSubject NOTIFY subjectChanged FINAL)
-    Q_PROPERTY(bool hasColors READ hasColors NOTIFY filled FINAL)
+    Q_PROPERTY(bool hasColors READ hasColors NOTIFY loaded FINAL)
     Q_PROPERTY(bool isTooLarge READ isTooLarge CONSTANT FINAL)
     Q_PROPERTY(bool isSending READ isSending NOTIFY stateChanged FINAL)
     Q_PROPERTY(QString problem READ problem NOTIFY stateChanged FINAL)
     Q_PROPERTY(QString problemDetail READ problemDetail NOTIFY stateChanged FINAL)
-    Q_PROPERTY(QString titleText READ titleText CONSTANT FINAL)
-    Q_PROPERTY(QString sendingText READ sendingText CONSTANT FINAL)
-    Q_PROPERTY(QString cancelText READ cancelText CONSTANT FINAL)
-    Q_PROPERTY(QString sendText READ sendText CONSTANT FINAL)
-    Q_PROPERTY(QString againText READ againText CONSTANT FINAL)
-    Q_PROPERTY(QString toText READ toText CONSTANT FINAL)
-    Q_PROPERTY(QString subjectText READ subjectText CONSTANT FINAL)
-    Q_PROPERTY(QString messageText READ messageText CONSTANT FINAL)
-    Q_PROPERTY(QString tooLargeText READ tooLargeText CONSTANT FINAL)
-    Q_PROPERTY(QString discardQuestion READ discardQuestion CONSTANT FINAL)
-    Q_PROPERTY(QString discardText READ discardText CONSTANT FINAL)
-    Q_PROPERTY(QString keepText READ keepText CONSTANT FINAL)
 
 public:
     using QObject::QObject;
 
+    // The composer sets these before the sheet is opened. Later changes have no effect.
+
+    /// Colour of buttons and selected text. The sheet makes it legible on its background.
     Color tint = Color::systemBlue();
+
+    /// Addresses. Sending fails unless there is exactly one.
     QStringList recipients;
-    QString html; ///< what the message begins with
-    QStringList programFolders; ///< where to look for sendmail
 
-    QString recipientText() const { return recipients.join(QStringLiteral(", ")); }
+    /// Initial message. Sent unchanged unless the user edits it. Not trusted.
+    QString html;
 
-    /// The subject as it was given, until the user changes it.
+    /// Folders that are searched for sendmail, in this order, at each attempt to send.
+    QStringList programFolders;
+
+    /// All recipients, separated by ", ".
+    QString recipient() const { return recipients.join(QStringLiteral(", ")); }
+
+    /// The subject as last set. setInitialSubject() does not count as an edit by the user.
     QString subject() const { return m_subject; }
-    void begin(const QString &subject) { m_subject = subject; }
+    void setInitialSubject(const QString &subject) { m_subject = subject; }
     void setSubject(const QString &subject);
 
-    /// Whether the message says itself what it is painted in, so that its ground has to be white.
+    /// Whether the message sets text or background colours of its own and therefore needs a white background.
     bool hasColors() const { return m_hasColors; }
 
-    /// Whether the message would take the editor too long to lay out. It is not shown then, and what the user writes
-    /// goes before it.
+    /// Whether laying out the message would block the GUI thread too long. Then it is not shown, and the text that the
+    /// user writes is sent before it.
     bool isTooLarge() const;
 
-    bool isSending() const { return m_sending; }
+    bool isSending() const { return m_state == State::sending; }
 
-    /// Why the last attempt to send failed, in words for the user; empty while none did.
+    /// Why the last attempt to send failed, for the user; empty if none failed.
     QString problem() const { return m_problem; }
 
-    /// What the mail program said of it; may be empty.
+    /// One line by which the mail program explains the problem; may be empty.
     QString problemDetail() const { return m_problemDetail; }
 
-    /// Shows the message in a rich text editor, which from then on holds it. Nothing that it refers to is loaded: no
-    /// image, no style sheet.
-    Q_INVOKABLE void fill(QQuickTextDocument *editor);
+    /// Loads the message into \a editor, whose document is the message from then on. Images and style sheets that the
+    /// message refers to are not loaded.
+    Q_INVOKABLE void load(QQuickTextDocument *editor);
 
-    /// Replaces what is between \a start and \a end in the editor with the clipboard's text, which brings no images or
-    /// styles along.
+    /// Replaces the characters from \a start to \a end of the editor by the clipboard's plain text.
     Q_INVOKABLE void paste(int start, int end);
 
-    /// Sends the mail. Does nothing while it is being sent.
+    /// Sends the mail. Does nothing while sending and after finished().
     Q_INVOKABLE void send();
 
-    /// Gives the mail up, or asks first where the user has changed it. Does nothing while it is being sent.
+    /// Finishes without sending, after a confirmation if the user has edited the mail. Does nothing while sending.
     Q_INVOKABLE void cancel();
 
-    /// Gives the mail up.
+    /// Finishes without sending: as failed if the last attempt to send failed, else as cancelled. Does nothing while
+    /// sending.
     Q_INVOKABLE void discard();
 
-    /// Why sending ended like this, in words for the user; empty for a mail that was sent.
+    /// The text that explains \a outcome to the user; empty for Outcome::sent.
     static QString problemOf(Sendmail::Outcome outcome);
-
-    static QString titleText();
-    static QString sendingText();
-    static QString cancelText();
-    static QString sendText();
-    static QString againText();
-    static QString toText();
-    static QString subjectText();
-    static QString messageText();
-    static QString tooLargeText();
-    static QString discardQuestion();
-    static QString discardText();
-    static QString keepText();
 
 Q_SIGNALS:
     void subjectChanged();
-    void filled();
+
+    /// load() has filled the editor.
+    void loaded();
+
+    /// Sending has begun or ended.
     void stateChanged();
 
-    /// The user is to be asked whether the changed mail may be given up.
-    void discardQuestioned();
+    /// The sheet has to ask whether the edited mail may be discarded, and to call discard() if so.
+    void discardConfirmationRequested();
 
-    /// The user is done with the mail. Comes once.
+    /// The user is done with the mail. Emitted once. \a error is the problem() at that time.
     void finished(TQFoundation::ViewController::MailComposeResult result, const QString &error);
 
 private:
-    QString message() const;
-    void heardBack(Sendmail::Outcome outcome, const QString &detail);
+    enum class State { editing, sending, finished };
+
+    bool isEdited() const { return m_document && m_document->isModified(); }
+    QString editedHtml() const;
+    void onSendFinished(Sendmail::Outcome outcome, const QString &detail);
     void finish(ViewController::MailComposeResult result);
 
+    State m_state = State::editing;
     QString m_subject;
-    bool m_subjectChanged = false;
+    bool m_isSubjectEdited = false;
     bool m_hasColors = false;
     QPointer<QTextDocument> m_document; // the editor's
-    QPointer<Sendmail> m_sendmail;
-    bool m_sending = false;
-    bool m_finished = false;
     QString m_problem;
     QString m_problemDetail;
 };

@@ -19,7 +19,7 @@ constexpr std::uint8_t byteAt(std::string_view text, std::size_t index) noexcept
     return index < text.size() ? static_cast<std::uint8_t>(text[index]) : std::uint8_t{0};
 }
 
-// How many bytes the code point takes that text begins with; 0 where they are no valid UTF-8 (Unicode 15, table 3-7).
+// Size in bytes of the first code point of text; 0 if it is invalid UTF-8 (Unicode 15, table 3-7).
 constexpr std::size_t codePointSize(std::string_view text) noexcept
 {
     const auto isIn = [text](std::size_t index, int lowest, int highest) {
@@ -40,7 +40,7 @@ constexpr std::size_t codePointSize(std::string_view text) noexcept
     return 0;
 }
 
-// What ends a line or steers a terminal: C0, DEL, C1, and the line and paragraph separators.
+// C0, DEL, C1, and the line and paragraph separators: they end lines or control terminals.
 constexpr bool isControl(std::string_view codePoint) noexcept
 {
     const std::uint8_t first = byteAt(codePoint, 0);
@@ -48,13 +48,13 @@ constexpr bool isControl(std::string_view codePoint) noexcept
         || codePoint == "\xE2\x80\xA8" || codePoint == "\xE2\x80\xA9";
 }
 
-// Calls put with each code point of text, and with the replacement for each byte that belongs to none.
-template <typename Put>
-void forEachCodePoint(std::string_view text, const Put &put)
+// Calls visit with each code point of text, and with U+FFFD for each invalid byte.
+template <typename Visitor>
+void forEachCodePoint(std::string_view text, const Visitor &visit)
 {
     while (!text.empty()) {
         const std::size_t size = codePointSize(text);
-        put(size > 0 ? text.substr(0, size) : replacement);
+        visit(size > 0 ? text.substr(0, size) : replacement);
         text.remove_prefix(std::max<std::size_t>(size, 1));
     }
 }
@@ -87,35 +87,35 @@ void appendBase64(std::string &out, std::string_view bytes)
     }
 }
 
-// Whether the text arrives as it is when it is written without any encoding.
-bool isPlain(std::string_view text, std::size_t room)
+// Whether the text can be written into a line with that many free bytes without encoding.
+bool isPlain(std::string_view text, std::size_t freeBytes)
 {
-    return text.size() <= room && !text.starts_with(' ') && !text.ends_with(' ')
+    return text.size() <= freeBytes && !text.starts_with(' ') && !text.ends_with(' ')
         && text.find("=?") == std::string_view::npos
         && std::ranges::all_of(text, [](char c) { return c >= 0x20 && c < 0x7F; });
 }
 
-// A header field of free text, in encoded words (RFC 2047) where it needs them. Its lines have at most 76 bytes.
+// A header field, in encoded words (RFC 2047) if necessary. Its lines have at most 76 bytes.
 void appendTextField(std::string &out, std::string_view name, const std::string &text)
 {
     constexpr std::string_view opening = "=?UTF-8?B?";
     constexpr std::string_view closing = "?=";
-    constexpr std::size_t longestLine = 76;
+    constexpr std::size_t maxLineSize = 76;
     out += name;
     out += ": ";
     std::size_t used = name.size() + 2;
-    if (isPlain(text, longestLine - used)) {
+    if (isPlain(text, maxLineSize - used)) {
         out += text;
         out += '\n';
         return;
     }
     std::string_view rest = text;
     while (!rest.empty()) {
-        const std::size_t room = (longestLine - used - opening.size() - closing.size()) / 4 * 3;
+        const std::size_t maxWordBytes = (maxLineSize - used - opening.size() - closing.size()) / 4 * 3;
         std::size_t taken = 0;
         for (std::size_t next = 0; taken < rest.size(); taken += next) {
             next = codePointSize(rest.substr(taken));
-            if (taken + next > room)
+            if (taken + next > maxWordBytes)
                 break;
         }
         out += opening;
@@ -131,14 +131,14 @@ void appendTextField(std::string &out, std::string_view name, const std::string 
 
 void appendBody(std::string &out, std::string_view body)
 {
-    constexpr std::size_t bytesOfLine = 57; // 76 digits
-    for (; !body.empty(); body.remove_prefix(std::min(bytesOfLine, body.size()))) {
-        appendBase64(out, body.substr(0, bytesOfLine));
+    constexpr std::size_t bytesPerLine = 57; // 76 base64 digits
+    for (; !body.empty(); body.remove_prefix(std::min(bytesPerLine, body.size()))) {
+        appendBase64(out, body.substr(0, bytesPerLine));
         out += '\n';
     }
 }
 
-bool isName(std::string_view name) noexcept
+bool isLocalPart(std::string_view name) noexcept
 {
     if (name.empty() || name.size() > 64 || name.starts_with('.') || name.ends_with('.') || name.starts_with('-')
         || name.find("..") != std::string_view::npos)
@@ -158,7 +158,7 @@ bool isLabel(std::string_view label) noexcept
 bool isMailAddress(std::string_view text) noexcept
 {
     const std::size_t at = text.find('@');
-    if (text.size() > 254 || at == std::string_view::npos || !isName(text.substr(0, at)))
+    if (text.size() > 254 || at == std::string_view::npos || !isLocalPart(text.substr(0, at)))
         return false;
     std::string_view host = text.substr(at + 1);
     for (;;) {

@@ -6,26 +6,25 @@
 
 namespace TQFoundation {
 
-/// One mail to one person, as plain values in UTF-8. All of it may come from outside.
+/// One mail to one recipient, as UTF-8 texts. None of them is trusted: composeMail() checks and encodes them.
 struct MailMessage
 {
     std::string to; ///< the recipient's address
     std::string subject;
-    std::string html; ///< the body, a text of the type text/html
+    std::string html; ///< the body, of the media type text/html
 };
 
-/// Whether \a text is one plain address "name@host" and nothing else: a name of 1 to 64 letters, digits and ". _ + -
-/// '", a host of labels as RFC 1123 allows them, 254 characters at most, all of them ASCII. Stricter than RFC 5322 on
-/// purpose: no quotes, comments, routes, or characters that a mail program could take for an option or a command. Any
-/// thread.
+/// Whether \a text is one plain address "name@host": a name of 1 to 64 letters, digits and ". _ + - '", a host of
+/// labels as in RFC 1123, all ASCII, at most 254 characters. Stricter than RFC 5322 on purpose: quotes, comments,
+/// routes, and characters that a mail program could take for an option or a command are rejected. Any thread.
 bool isMailAddress(std::string_view text) noexcept;
 
-/// The message as RFC 5322 and MIME write it and as a sendmail program reads it: lines end in "\n", none is longer than
-/// 78 bytes before that (unless an address makes it so), and all is ASCII.
+/// The message in the format of RFC 5322 and MIME, as input for a sendmail program. Lines end in "\n" and have at most
+/// 78 bytes, except for one with a longer address. All of it is ASCII.
 ///
-/// Who sends it and when, the program adds, which knows the user's address. There is exactly one recipient: nothing
-/// where `to` is no address by isMailAddress(). In headers every control character and line separator becomes a blank;
-/// what is no valid UTF-8 becomes U+FFFD everywhere; all else arrives byte for byte. Any thread.
+/// Sender and date are missing, because the mail program adds them. `std::nullopt` if `to` fails isMailAddress(). In
+/// the subject, control characters and line separators become blanks. Invalid UTF-8 becomes U+FFFD, one for each byte;
+/// all other text is preserved byte for byte. Any thread.
 std::optional<std::string> composeMail(const MailMessage &message);
 
 } // namespace TQFoundation

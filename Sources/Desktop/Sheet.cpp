@@ -14,17 +14,17 @@
 namespace TQFoundation {
 namespace {
 
-// What a host has laid over the layer of popups is under what is presented after it.
-void raisePopups(QQuickItem *content)
+// Raises the window's popup overlay above items that the host has stacked on top of it.
+void raisePopupOverlay(QQuickItem *content)
 {
     const QList<QQuickItem *> children = content->childItems();
-    const auto layer =
+    const auto overlay =
         std::ranges::find_if(children, [](QQuickItem *child) { return child->inherits("QQuickOverlay"); });
-    if (layer == children.end())
+    if (overlay == children.end())
         return;
-    if (std::ranges::any_of(children,
-                            [layer](QQuickItem *child) { return child != *layer && child->z() >= (*layer)->z(); }))
-        addAsTopmostChild(*layer, content);
+    if (std::ranges::any_of(
+            children, [overlay](QQuickItem *child) { return child != *overlay && child->z() >= (*overlay)->z(); }))
+        addAsTopmostChild(*overlay, content);
 }
 
 } // namespace
@@ -50,7 +50,7 @@ bool Sheet::open(const QString &name, std::unique_ptr<QObject> page, QQuickWindo
     QObject::connect(window, &QObject::destroyed, m_popup, &QObject::deleteLater);
     m_popup->setProperty("parent", QVariant::fromValue(window->contentItem()));
     m_popup->setProperty("visible", true);
-    raisePopups(window->contentItem());
+    raisePopupOverlay(window->contentItem());
     return true;
 }
 
@@ -59,7 +59,7 @@ void Sheet::close()
     QObject *popup = std::exchange(m_popup, nullptr);
     if (!popup)
         return;
-    // The type of popups is known to QML alone, and so its signals by name.
+    // QQuickPopup is private API, so its signal is connected by name.
     QObject::connect(popup, SIGNAL(closed()), popup, SLOT(deleteLater()));
     popup->setProperty("visible", false);
 }

@@ -9,8 +9,9 @@ class QQuickWindow;
 
 namespace TQFoundation {
 
-/// One of the library's own screens while it is shown: a modal popup of Qt Quick Controls, made from a QML file of the
-/// bundle's folder Desktop. Main thread only.
+/// A screen of the library: a modal Qt Quick Controls popup, loaded from a QML file in the bundle's folder Desktop.
+///
+/// Destroying this object deletes an open popup without animation. GUI thread only.
 class Sheet
 {
 public:
@@ -19,14 +20,16 @@ public:
     Sheet &operator=(const Sheet &) = delete;
     ~Sheet();
 
-    /// Shows the sheet \a name over everything in \a window. Its property "page" becomes \a page, which lives as long
-    /// as the sheet does. False, and nothing is shown, where there is no window or the file cannot be loaded.
+    /// Shows the popup of the file \a name (without extension) on top of everything in \a window. Its property "page"
+    /// is set to \a page, which the popup owns. The popup is deleted when the window is destroyed. Returns false and
+    /// shows nothing if \a window is null or being destroyed, or if the file cannot be loaded. Call it once.
     bool open(const QString &name, std::unique_ptr<QObject> page, QQuickWindow *window);
 
-    /// Lets the sheet slide out and frees it then. Does nothing where none is open.
+    /// Slides the popup out and deletes it afterwards. Does nothing if it is not open.
     void close();
 
 private:
+    // A child of the application scope while it exists; null before open() and after close().
     QPointer<QObject> m_popup;
 };
 

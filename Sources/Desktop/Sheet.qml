@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import TQFoundation.Base
 
-// The frame of the library's own screens: a page that slides up from the bottom of the window. It fills a phone's window
-// but for a strip at the top, and lies in the middle of a wide one.
+// Base of the library's own screens: a modal page that slides up from the bottom of the window. It fills a narrow window
+// except for a strip at the top, and is centred in a wide one. Holds the colours and measures of all sheets.
 T.Popup {
     id: root
 
@@ -17,6 +17,9 @@ T.Popup {
     readonly property color line: dark ? "#38383a" : "#d8d8dc"
     readonly property color pressed: dark ? "#3a3a3c" : "#e5e5ea"
     readonly property color alert: dark ? "#ff8a80" : "#b3261e"
+    readonly property color alertGround: dark ? "#3b2426" : "#fdeceb"
+    readonly property color alertQuietInk: dark ? "#c7b7b8" : "#6a5556"
+    readonly property color raisedGround: dark ? "#2c2c2e" : "#ffffff"
 
     readonly property real textSize: Math.max(16, Math.round(system.textSize * 1.25))
     readonly property real gap: narrow ? 16 : 20
@@ -26,7 +29,7 @@ T.Popup {
     readonly property real hostWidth: parent ? parent.width : 0
     readonly property real hostHeight: parent ? parent.height : 0
     readonly property bool narrow: hostWidth < 700
-    // Of the way down, as it slides.
+    // Slide animation: 0 is the final position, 1 the position below the window.
     property real slid: 0
 
     readonly property SystemStyle system: SystemStyle {}
@@ -59,7 +62,7 @@ T.Popup {
     background: Item {
         Rectangle {
             width: parent.width
-            // Only the upper corners are seen where the page reaches the bottom.
+            // If the page reaches the bottom of the window, its lower corners are outside of it.
             height: parent.height + (root.narrow ? radius : 0)
             radius: root.corner
             color: root.ground

@@ -1,7 +1,7 @@
 import QtQuick
 import TQFoundation.Base
 
-// A button without a frame, as sheets have them in their bars: a text, or an icon of its user's.
+// A frameless button of a sheet. Shows its text, or a content item set by the user of this type.
 PressButton {
     id: root
 

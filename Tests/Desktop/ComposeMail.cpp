@@ -1,5 +1,5 @@
-// For mail_message_test.py: reads mails from the standard input and writes each as composeMail() does. A field and a
-// message are a line with their size and then their bytes; of what is no message the size is -1.
+// Runs composeMail() for mail_message_test.py: mails on standard input, messages on standard output. Each field and
+// each message is a line with its size in bytes, followed by the bytes. Size -1 means that there is no message.
 
 #include "MailMessage.h"
 

@@ -18,11 +18,11 @@
 
 namespace TQFoundation::Testing {
 
-/// An app whose window shows the real sheets. What they ask of the system is written down, and time goes by hand.
+/// A host window that shows the real sheets, on a RecordingPlatform whose time the test advances.
 class SheetHost : public testing::Test
 {
 protected:
-    /// A desktop on which sendmail lies in one folder of the test's own.
+    /// A desktop platform that searches `folders` for sendmail.
     class Desktop : public DesktopPlatform
     {
     public:
@@ -32,7 +32,7 @@ protected:
         QStringList programFolders() const override { return folders; }
     };
 
-    /// A root controller that notes what it is told.
+    /// A root controller that records its calls as a mail delegate.
     class Delegate : public ViewController
     {
     public:
@@ -66,7 +66,7 @@ protected:
         settle();
     }
 
-    /// Another window in place of the one before.
+    /// Replaces the window by one of \a size.
     void open(QSize size)
     {
         window = std::make_unique<QQuickWindow>();
@@ -80,7 +80,7 @@ protected:
         platform->scenes = keyScene(window.get());
     }
 
-    /// Lets all that was put off happen.
+    /// Processes pending events and deferred deletions.
     static void settle()
     {
         for (int round = 0; round < 3; ++round) {
@@ -89,21 +89,21 @@ protected:
         }
     }
 
-    /// Until a sheet has slid in or out.
+    /// Lets a sheet finish sliding in or out.
     void slide()
     {
         clock.pass(500);
         settle();
     }
 
-    /// Whether something comes true while events are handled.
+    /// Processes events until \a condition is true. False after 20 s.
     template <typename Condition>
     static bool comes(const Condition &condition)
     {
         return QTest::qWaitFor(condition, 20000);
     }
 
-    /// The first visible item of \a type, a class's name or a part of it, whose text is \a text.
+    /// The first visible item that inherits \a type and whose property "text" is \a text; null if there is none.
     QQuickItem *item(const char *type, const QString &text, QQuickItem *from = nullptr) const
     {
         const QList<QQuickItem *> children = (from ? from : window->contentItem())->childItems();
@@ -121,7 +121,7 @@ protected:
     QQuickItem *button(const char *text) const { return item("QQuickAbstractButton", QString::fromUtf8(text)); }
     QQuickItem *text(const char *text) const { return item("QQuickText", QString::fromUtf8(text)); }
 
-    /// The first visible item of the class \a type.
+    /// The first visible item that inherits \a type; null if there is none.
     QQuickItem *itemOf(const char *type, QQuickItem *from = nullptr) const
     {
         const QList<QQuickItem *> children = (from ? from : window->contentItem())->childItems();
@@ -146,11 +146,10 @@ protected:
 
     bool isShown() const { return TQMore::topViewController() != root; }
 
-    /// How many items there are in the window, its popups among them.
+    /// Number of items in the window, including its popups.
     int itemCount() const { return static_cast<int>(window->contentItem()->findChildren<QQuickItem *>().size()); }
 
-    /// A message handler that fails the test on any line but those of the web engine, which tells of its own start and
-    /// of its own types.
+    /// A message handler that fails the test on any logged line, except for those that Qt WebEngine logs on startup.
     static void passOverTheEngine(QtMsgType, const QMessageLogContext &context, const QString &message)
     {
         const bool isTheEngines = QByteArrayView(context.category).startsWith("qt.webengine")

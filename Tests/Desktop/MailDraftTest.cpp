@@ -1,0 +1,240 @@
+#include "MailHost.h"
+
+#include <QtCore/qmimedata.h>
+#include <QtGui/qclipboard.h>
+#include <QtGui/qguiapplication.h>
+#include <QtNetwork/qtcpserver.h>
+
+#include <csignal>
+
+namespace TQFoundation {
+namespace {
+
+using Result = ViewController::MailComposeResult;
+
+class MailDraft : public Testing::MailHost
+{};
+
+TEST_F(MailDraft, SendsUneditedMessageUnchanged)
+{
+    makeKeepingProgram();
+    const QString html =
+        QStringLiteral("<STYLE>p{}</STYLE>one\ntwo\r\n <!-- kept --> 中文 🌲 &nbsp;<p>un</b>closed") + QChar(0);
+    compose(html);
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_EQ(sentHtml(), html);
+    EXPECT_EQ(sentHeader("Subject"), "Contact: Hazel Grid 2.3.1(57)");
+    EXPECT_EQ(root->results, QList{Result::sent});
+    EXPECT_EQ(root->errors, QStringList{QString()});
+}
+
+TEST_F(MailDraft, LetsProgramReadRecipientFromHeader)
+{
+    makeKeepingProgram();
+    compose();
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_EQ(kept("arguments"), "-t -i\n");
+    EXPECT_EQ(sentHeader("To"), "support@tqstudio.example");
+}
+
+TEST_F(MailDraft, LeavesSenderAndDateToTheProgram)
+{
+    makeKeepingProgram();
+    qputenv("EMAIL", "me@home.example\nBcc: eve@evil.example");
+    compose();
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_EQ(sentHeader("From"), QByteArray());
+    EXPECT_EQ(sentHeader("Date"), QByteArray());
+    EXPECT_FALSE(kept("mail").contains("Bcc"));
+}
+
+TEST_F(MailDraft, SendsEditsOfTheUser)
+{
+    makeKeepingProgram();
+    compose(QStringLiteral("<b>Hello</b>"));
+    type(subject(), "X");
+    type(message(), "Dear developer ");
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_TRUE(sentHtml().contains(QStringLiteral("Dear developer"))) << sentHtml().toStdString();
+    EXPECT_TRUE(sentHtml().contains(QStringLiteral("Hello")));
+    EXPECT_TRUE(sentHeader("Subject").contains("X"));
+}
+
+TEST_F(MailDraft, CancelFinishesAnUneditedMailAtOnce)
+{
+    compose(QStringLiteral("text"));
+    click(button("Cancel"));
+    EXPECT_FALSE(isShown());
+    EXPECT_EQ(root->results, QList{Result::cancelled});
+}
+
+TEST_F(MailDraft, CancelAsksIfTheMessageIsEdited)
+{
+    compose();
+    type(message(), "text");
+    click(button("Cancel"));
+    EXPECT_TRUE(isShown());
+    click(button("Keep Writing"));
+    EXPECT_FALSE(button("Keep Writing"));
+    EXPECT_EQ(document()->toPlainText(), QStringLiteral("text"));
+    EXPECT_TRUE(message()->hasActiveFocus());
+    click(button("Cancel"));
+    ASSERT_TRUE(button("Discard"));
+    click(button("Discard"));
+    EXPECT_FALSE(isShown());
+    EXPECT_EQ(root->results, QList{Result::cancelled});
+}
+
+TEST_F(MailDraft, CancelAsksIfTheSubjectIsEdited)
+{
+    compose();
+    type(subject(), "x");
+    QTest::keyClick(static_cast<QWindow *>(window.get()), Qt::Key_Escape);
+    settle();
+    EXPECT_TRUE(button("Discard"));
+    QTest::keyClick(static_cast<QWindow *>(window.get()), Qt::Key_Escape);
+    settle();
+    EXPECT_FALSE(button("Discard")) << "Escape answers the question alone";
+    EXPECT_TRUE(isShown());
+    EXPECT_EQ(root->results, QList<Result>());
+}
+
+TEST_F(MailDraft, KeepsTextIfThereIsNoProgram)
+{
+    compose();
+    type(message(), "precious");
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_TRUE(text("There is no mail program on this device."));
+    EXPECT_EQ(document()->toPlainText(), QStringLiteral("precious"));
+    EXPECT_EQ(root->results, QList<Result>());
+    makeKeepingProgram();
+    click(button("Try Again"));
+    ASSERT_TRUE(comes([this] { return !isShown(); }));
+    EXPECT_TRUE(sentHtml().contains(QStringLiteral("precious")));
+    EXPECT_EQ(root->results, QList{Result::sent});
+}
+
+TEST_F(MailDraft, ReportsProgramThatCannotBeStarted)
+{
+    makeProgram("");
+    QFile file(programs.filePath(QStringLiteral("sendmail")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("#!/no/such/shell\n");
+    file.close();
+    compose(QString(1000000, u'x'));
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_TRUE(text("There is no mail program on this device."));
+}
+
+TEST_F(MailDraft, ExplainsExitCodes)
+{
+    const std::pair<int, const char *> reasons[] = {
+        {64, "The mail program on this device is not set up."},
+        {78, "The mail program on this device is not set up."},
+        {68, "The mail server cannot be reached. Check your connection and try again."},
+        {75, "The mail server cannot be reached. Check your connection and try again."},
+        {67, "The mail server did not accept your message."},
+        {69, "The mail server did not accept your message."},
+        {1, "Your message could not be sent."},
+        {70, "Your message could not be sent."},
+    };
+    compose();
+    for (const auto &[code, words] : reasons) {
+        makeProgram("echo 'first' >&2; printf 'the \\033reason\\n' >&2; exit " + QByteArray::number(code));
+        click(button(isProblemShown() ? "Try Again" : "Send"));
+        ASSERT_TRUE(comes([this] { return isProblemShown() && !text("Sending…"); }));
+        EXPECT_TRUE(text(words)) << code;
+        EXPECT_TRUE(text("the  reason")) << "what the program said last, without control characters";
+        window->grabWindow(); // lays it out
+    }
+}
+
+TEST_F(MailDraft, ReportsCrashedProgram)
+{
+    makeProgram("kill -9 $$");
+    compose();
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_TRUE(text("The mail program stopped unexpectedly. Your message may not have been sent."));
+}
+
+TEST_F(MailDraft, AcceptsProgramThatReadsNothing)
+{
+    makeProgram("exit 0");
+    compose(QString(4000000, u'x'));
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_EQ(root->results, QList{Result::sent});
+}
+
+TEST_F(MailDraft, ReportsTimeoutAfterThirtySeconds)
+{
+    makeProgram("echo $$ > '" + path("process") + "'; exec sleep 1000");
+    compose();
+    click(button("Send"));
+    ASSERT_TRUE(comes([this] { return kept("process").endsWith('\n'); }));
+    platform->advance(29.9);
+    settle();
+    EXPECT_FALSE(isProblemShown());
+    platform->advance(0.2);
+    ASSERT_TRUE(comes([this] { return isProblemShown(); }));
+    EXPECT_TRUE(text("There has been no answer for 30 seconds. Your message may already have been sent; if so, trying "
+                     "again sends it twice."));
+    EXPECT_TRUE(isShown());
+    EXPECT_TRUE(comes([this] { return ::kill(kept("process").trimmed().toInt(), 0) != 0; })) << "it is ended";
+    makeKeepingProgram();
+    click(button("Try Again"));
+    ASSERT_TRUE(comes([this] { return !isShown(); }));
+    platform->advance(60);
+    EXPECT_EQ(root->results, QList{Result::sent});
+}
+
+TEST_F(MailDraft, LoadsNoImagesOrStyleSheets)
+{
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    const QString remote = QStringLiteral("http://127.0.0.1:%1/").arg(server.serverPort());
+    QImage picture(300, 300, QImage::Format_RGB32);
+    ASSERT_TRUE(picture.save(programs.filePath(QStringLiteral("large.png"))));
+    QFile style(programs.filePath(QStringLiteral("large.css")));
+    ASSERT_TRUE(style.open(QIODevice::WriteOnly));
+    style.write("p { font-size: 200px }");
+    style.close();
+    const QString local = u"file://" + programs.path();
+    compose(u"<html><head><link rel=stylesheet href='" + remote + u"a.css'><link rel=stylesheet href='" + local
+            + u"/large.css'><style>@import url(" + local + u"/large.css)</style></head><body background='" + remote
+            + u"b.png'><p style=\"background-image: url('" + local + u"/large.png')\">text <img src='" + remote
+            + u"c.png'><img src='" + local + u"/large.png'><img src='" + programs.path()
+            + u"/large.png'><img src=':/qt-project.org/imports/TQFoundation/Icons/fir.png'></p></body></html>");
+    EXPECT_FALSE(server.waitForNewConnection(100));
+    EXPECT_LT(message()->property("contentHeight").toDouble(), 60);
+}
+
+TEST_F(MailDraft, EditedMessageKeepsImageReferences)
+{
+    makeKeepingProgram();
+    compose(QStringLiteral("<p>one <img src=\"https://tqstudio.example/a.png\" width=\"20\"> two</p>"));
+    type(message(), "zero ");
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_TRUE(sentHtml().contains(QStringLiteral("src=\"https://tqstudio.example/a.png\"")))
+        << sentHtml().toStdString();
+    EXPECT_FALSE(sentHtml().contains(QStringLiteral("no-image")));
+}
+
+TEST_F(MailDraft, PastesPlainTextOnly)
+{
+    compose();
+    auto *rich = new QMimeData;
+    rich->setHtml(QStringLiteral("<b>bold</b><img src='file:///etc/hostname'>"));
+    rich->setText(QStringLiteral("bold"));
+    QGuiApplication::clipboard()->setMimeData(rich);
+    message()->forceActiveFocus();
+    QTest::keySequence(static_cast<QWindow *>(window.get()), QKeySequence::Paste);
+    settle();
+    EXPECT_EQ(document()->toPlainText(), QStringLiteral("bold"));
+    EXPECT_FALSE(document()->toHtml().contains(QStringLiteral("img")));
+    EXPECT_FALSE(message()->flags().testFlag(QQuickItem::ItemAcceptsDrops));
+    QTest::mouseClick(window.get(), Qt::MiddleButton, {}, message()->mapToScene({50, 50}).toPoint());
+    EXPECT_EQ(document()->toPlainText(), QStringLiteral("bold"));
+}
+
+} // namespace
+} // namespace TQFoundation

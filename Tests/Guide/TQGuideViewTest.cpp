@@ -458,7 +458,7 @@ TEST_F(Guide, EachTapGivesOneSoftImpactAndOnePulse)
 {
     const auto guide = shown(paragraphs(3));
     int pulses = 0;
-    QObject::connect(guide.get(), &TQGuideView::impactOccurred, guide.get(), [&] { ++pulses; });
+    QObject::connect(guide.get(), &TQGuideView::tapped, guide.get(), [&] { ++pulses; });
     double smallest = 1;
     QObject::connect(guide->nextButton(), &QQuickItem::scaleChanged, guide.get(),
                      [&] { smallest = std::min(smallest, guide->nextButton()->scale()); });

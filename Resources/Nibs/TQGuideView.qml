@@ -2,21 +2,21 @@ import QtQuick
 import TQFoundation
 import TQFoundation.Base
 
-// What the guide looks like: the paragraph, which scrolls where it does not fit, and below it the next button. It is laid
-// out in the part of the overlay that the window shows.
+// Layout of the guide: the paragraph, which scrolls if it does not fit, above the next button. It fills the part of the
+// overlay that the window shows.
 TQGuideView {
     id: root
 
     readonly property bool dark: system.dark
-    readonly property color ground: backgroundColor.resolved(dark)
-    readonly property color ink: backgroundColor.textColor(dark)
+    readonly property color background: backgroundColor.resolved(dark)
+    readonly property color foreground: backgroundColor.textColor(dark)
 
     readonly property real textSize: Math.max(24, Math.round(system.textSize * 1.8))
     readonly property real margin: Math.max(20, Math.min(40, page.width * 0.08))
 
     guideLabel: label
     nextButton: button
-    onImpactOccurred: pulse.restart()
+    onTapped: pulse.restart()
 
     LayoutMirroring.enabled: system.rightToLeft
     LayoutMirroring.childrenInherit: true
@@ -45,7 +45,7 @@ TQGuideView {
 
     Rectangle {
         anchors.fill: parent
-        color: root.ground
+        color: root.background
     }
 
     Item {
@@ -79,21 +79,21 @@ TQGuideView {
                 wrapMode: Text.Wrap
                 lineHeight: 1.2
                 font { pixelSize: root.textSize; weight: Font.Medium }
-                color: root.ink
+                color: root.foreground
                 onTextChanged: scroller.contentY = 0
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
             }
         }
 
-        // That there is more to read.
+        // Fades out the last lines while there is more to scroll to.
         Rectangle {
             anchors { left: scroller.left; right: scroller.right; bottom: scroller.bottom }
             height: Math.max(root.margin, 1.2 * root.textSize)
-            visible: root.ground.a === 1 && scroller.interactive && !scroller.atYEnd
+            visible: root.background.a === 1 && scroller.interactive && !scroller.atYEnd
             gradient: Gradient {
-                GradientStop { position: 0; color: Qt.rgba(root.ground.r, root.ground.g, root.ground.b, 0) }
-                GradientStop { position: 0.7; color: root.ground }
+                GradientStop { position: 0; color: Qt.rgba(root.background.r, root.background.g, root.background.b, 0) }
+                GradientStop { position: 0.7; color: root.background }
             }
         }
 
@@ -104,7 +104,7 @@ TQGuideView {
             height: Math.max(24, scroller.visibleArea.heightRatio * scroller.height)
             radius: 2
             visible: scroller.interactive
-            color: root.ink
+            color: root.foreground
             opacity: 0.4
         }
 
@@ -121,25 +121,25 @@ TQGuideView {
             height: 60
             focus: true
             Accessible.name: root.nextButtonName
-            // Read out with each paragraph, because the button takes the focus again.
+            // Screen readers speak it with each paragraph, because the button gets the focus again.
             Accessible.description: label.text
             onClicked: root.nextGuide(button)
 
             background: Rectangle {
                 radius: width / 2
-                color: root.ink
+                color: root.foreground
 
                 Rectangle {
                     visible: button.visualFocus
                     anchors { fill: parent; margins: -6 }
                     radius: width / 2
                     color: "transparent"
-                    border { width: 3; color: root.ink }
+                    border { width: 3; color: root.foreground }
                 }
             }
 
             contentItem: Arrow {
-                color: Qt.tint(root.dark ? "black" : "white", root.ground)
+                color: Qt.tint(root.dark ? "black" : "white", root.background)
                 rotation: button.mirrored ? 180 : 0
             }
 
@@ -157,7 +157,7 @@ TQGuideView {
 
         required property color color
 
-        // It is turned as a whole.
+        // The whole arrow is rotated instead.
         LayoutMirroring.enabled: false
         LayoutMirroring.childrenInherit: true
 
@@ -169,28 +169,28 @@ TQGuideView {
             color: arrow.color
 
             Barb {
-                turn: 45
+                angle: 45
                 color: arrow.color
             }
 
             Barb {
-                turn: -45
+                angle: -45
                 color: arrow.color
             }
         }
     }
 
-    // Half of the head, turned about the tip.
+    // Half of the arrow head, rotated about its tip.
     component Barb: Rectangle {
         id: barb
 
-        property real turn
+        property real angle
 
         anchors { right: parent.right; verticalCenter: parent.verticalCenter }
         width: 13
         height: 3
         radius: 1.5
         antialiasing: true
-        transform: Rotation { origin { x: barb.width - barb.radius; y: barb.radius } angle: barb.turn }
+        transform: Rotation { origin { x: barb.width - barb.radius; y: barb.radius } angle: barb.angle }
     }
 }

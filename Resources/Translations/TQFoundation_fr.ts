@@ -179,7 +179,7 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
     <name>TQFoundationInterface</name>
     <message>
         <source>Next</source>
-        <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
+        <extracomment>Name, for screen readers, of the button that leads to the next page of an introduction.</extracomment>
         <translation>Suivant</translation>
     </message>
     <message>

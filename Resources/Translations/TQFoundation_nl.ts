@@ -179,7 +179,7 @@ Met de meeste hoogachting en mijn beste wensen</translation>
     <name>TQFoundationInterface</name>
     <message>
         <source>Next</source>
-        <extracomment>What a screen reader calls the button that leads to the next page of an introduction.</extracomment>
+        <extracomment>Name, for screen readers, of the button that leads to the next page of an introduction.</extracomment>
         <translation>Volgende</translation>
     </message>
     <message>

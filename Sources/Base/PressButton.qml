@@ -1,11 +1,11 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// Button without a look that Return, Enter and assistive technology press too.
+// Unstyled button that is also clicked by Return, Enter and assistive technology.
 T.AbstractButton {
     id: root
 
-    // Once for each key press: auto-repeat is ignored.
+    // Clicks once for each key press; auto-repeat is ignored.
     function press(event: KeyEvent) {
         if (!event.isAutoRepeat)
             clicked();

@@ -1,6 +1,6 @@
 import QtQuick
 
-// What the user has chosen in the system: dark or light appearance, text size, direction of the language.
+// The user's system settings: light or dark appearance, text size in pixels, text direction of the language.
 QtObject {
     readonly property bool dark: palette.window.hslLightness < palette.windowText.hslLightness
     readonly property real textSize: text.fontInfo.pixelSize

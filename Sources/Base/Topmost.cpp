@@ -10,9 +10,8 @@ void addAsTopmostChild(QQuickItem *item, QQuickItem *host)
 {
     if (!item || !host || item == host || item->isAncestorOf(host))
         return;
-    // The layer in which Qt Quick Controls shows the popups of a window.
-    constexpr double popups = 1000001;
-    double highest = popups;
+    constexpr double popupLayer = 1000001; // z of the popup overlay of Qt Quick Controls
+    double highest = popupLayer;
     const QQuickItem *last = nullptr;
     const QList<QQuickItem *> siblings = host->childItems();
     for (const QQuickItem *sibling : siblings) {
@@ -21,7 +20,7 @@ void addAsTopmostChild(QQuickItem *item, QQuickItem *host)
         highest = std::max(highest, sibling->z());
         last = sibling;
     }
-    // Of children with the same z, which one has that is too large to add to, the last lies on top.
+    // Adding 1 to a very large z does not change it; then the order of the children decides.
     item->setZ(highest + 1);
     item->setParentItem(host);
     if (last)

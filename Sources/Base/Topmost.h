@@ -4,9 +4,9 @@ class QQuickItem;
 
 namespace TQFoundation {
 
-/// Makes \a item a child of \a host that lies on top of all its other children, the popups of a window among them; one
-/// that is its child already is raised. Its geometry stays. Does nothing where either is null, or \a host is \a item or
-/// lies inside it. Main thread.
+/// Makes \a item the topmost child of \a host, above the popups of its window; a child that it has already is raised.
+/// Position and size do not change. Does nothing if either is null, if they are the same item or if \a item contains
+/// \a host. GUI thread.
 void addAsTopmostChild(QQuickItem *item, QQuickItem *host);
 
 } // namespace TQFoundation

@@ -5,14 +5,16 @@
 #include <QtGui/qpointingdevice.h>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
+#include <vector>
 
 namespace TQFoundation {
 namespace {
 
-// A device of a kind that no pointer handler listens to; items take its events like those of any other. Qt Quick offers
-// a press to the handlers of all items at its place, however many lie on top of them and take it.
-const QPointingDevice *deviceForItems()
+// Events are re-sent from a device of type Unknown, which items accept and pointer handlers ignore. Qt Quick offers
+// every press to the handlers of all items below it, also if an item on top accepts it.
+const QPointingDevice *itemOnlyDevice()
 {
     static const QPointingDevice device(QStringLiteral("shielded pointer"), -1, QInputDevice::DeviceType::Unknown,
                                         QPointingDevice::PointerType::Generic, QInputDevice::Capability::Position, 1,
@@ -20,36 +22,37 @@ const QPointingDevice *deviceForItems()
     return &device;
 }
 
-// The overlay that an item lies in, or is; null where it lies in none.
-QQuickItem *overlayAround(QQuickItem *item)
+bool isOverlay(const QQuickItem &item)
 {
-    const auto isShield = [](const QQuickItem *child) { return dynamic_cast<const InputShield *>(child) != nullptr; };
-    for (; item; item = item->parentItem()) {
-        const QList<QQuickItem *> children = item->childItems();
-        if (std::any_of(children.begin(), children.end(), isShield))
-            return item;
-    }
-    return nullptr;
+    const QList<QQuickItem *> children = item.childItems();
+    return std::ranges::any_of(children,
+                               [](const QQuickItem *child) { return dynamic_cast<const InputShield *>(child); });
 }
 
-// The item that has the focus in the window, or will have it as soon as the window has it.
-QQuickItem *focusedItem(const QQuickWindow &window)
+// The overlay that is \a item or contains it; null if there is none.
+QQuickItem *enclosingOverlay(QQuickItem *item)
 {
-    QQuickItem *item = window.contentItem();
-    while (QQuickItem *inside = item->scopedFocusItem())
-        item = inside;
+    while (item && !isOverlay(*item))
+        item = item->parentItem();
     return item;
 }
 
-// The layers that hold a window's popups.
-QObjectList popupLayers(const QQuickWindow &window)
+// The item that has the focus in \a window, or gets it when the window becomes active.
+QQuickItem *focusedItem(const QQuickWindow &window)
 {
-    QObjectList layers;
+    QQuickItem *item = window.contentItem();
+    while (QQuickItem *inner = item->scopedFocusItem())
+        item = inner;
+    return item;
+}
+
+// The popup overlays of \a window.
+std::vector<QQuickItem *> popupLayers(const QQuickWindow &window)
+{
     const QList<QQuickItem *> children = window.contentItem()->childItems();
-    for (QQuickItem *child : children) {
-        if (child->inherits("QQuickOverlay"))
-            layers.append(child);
-    }
+    std::vector<QQuickItem *> layers;
+    std::ranges::copy_if(children, std::back_inserter(layers),
+                         [](const QQuickItem *child) { return child->inherits("QQuickOverlay"); });
     return layers;
 }
 
@@ -60,35 +63,41 @@ InputShield::InputShield(QQuickItem *overlay) : QQuickItem(overlay), m_overlay(o
     setFlag(ItemAcceptsDrops);
     setAcceptedMouseButtons(Qt::AllButtons);
     setAcceptHoverEvents(true);
-    // A host that scrolls may not take over a gesture that began on the overlay.
+    // A Flickable of the host must not steal a gesture that began on the overlay.
     setKeepMouseGrab(true);
 }
 
 InputShield::~InputShield()
 {
-    leave();
+    detach();
 }
 
 void InputShield::takeFocus()
 {
     if (!m_window || !m_window->contentItem())
         return;
-    QQuickItem *focused = focusedItem(*m_window);
-    if (overlayAround(focused) == m_overlay)
+    QQuickItem *const content = m_window->contentItem();
+    QQuickItem *const focused = focusedItem(*m_window);
+    if (enclosingOverlay(focused) == m_overlay)
         return;
-    if (focused != m_window->contentItem())
-        m_formerFocus = focused;
+    if (focused != content)
+        m_previousFocus = focused;
     m_overlay->forceActiveFocus();
+    // Works around Qt: an item whose window was destroyed still reports active focus, and the next inactive window
+    // would keep a dangling pointer to it.
+    if (!content->hasFocus() && m_overlay->hasActiveFocus()) {
+        content->setFocus(true);
+        content->setFocus(false);
+    }
 }
 
-void InputShield::giveFocusBack(const QQuickWindow &window)
+void InputShield::restoreFocus(const QQuickWindow &window)
 {
-    QQuickItem *former = m_formerFocus;
-    m_formerFocus = nullptr;
-    QQuickItem *around = overlayAround(focusedItem(window));
-    if (former && former->window() == &window && former->isVisible() && former->isEnabled()
-        && (!around || around == m_overlay))
-        former->forceActiveFocus();
+    QQuickItem *const previous = std::exchange(m_previousFocus, nullptr);
+    QQuickItem *const overlay = enclosingOverlay(focusedItem(window));
+    if (previous && previous->window() == &window && previous->isVisible() && previous->isEnabled()
+        && (!overlay || overlay == m_overlay))
+        previous->forceActiveFocus();
 }
 
 bool InputShield::contains(const QPointF &point) const
@@ -102,54 +111,71 @@ void InputShield::itemChange(ItemChange change, const ItemChangeData &data)
     QQuickItem::itemChange(change, data);
     if (change != ItemSceneChange)
         return;
-    leave();
+    detach();
     if (data.window)
-        enter(data.window);
+        attach(data.window);
 }
 
-void InputShield::enter(QQuickWindow *window)
+void InputShield::attach(QQuickWindow *window)
 {
     m_window = window;
     window->installEventFilter(this);
-    // The focus is taken back, unless it merely left the overlay or went to another one.
     connect(window, &QQuickWindow::activeFocusItemChanged, this, [this] {
-        QQuickItem *focused = m_window ? m_window->activeFocusItem() : nullptr;
-        if (focused && !focused->isAncestorOf(this) && !overlayAround(focused))
+        QQuickItem *const focused = m_window ? m_window->activeFocusItem() : nullptr;
+        if (focused && !focused->isAncestorOf(this) && !enclosingOverlay(focused))
             takeFocus();
     });
-    connect(window->contentItem(), &QQuickItem::childrenChanged, this, &InputShield::silencePopups,
+    connect(window->contentItem(), &QQuickItem::childrenChanged, this, &InputShield::suspendPopupFilters,
             Qt::QueuedConnection);
-    silencePopups();
+    suspendPopupFilters();
 }
 
-void InputShield::leave()
+void InputShield::detach()
 {
-    QQuickWindow *window = m_window;
+    QQuickWindow *const window = m_window;
     m_window = nullptr;
-    m_finger.reset();
+    m_touchId.reset();
     if (!window)
         return;
     window->removeEventFilter(this);
     window->disconnect(this);
-    // A window that is being destroyed has no content any more.
-    if (QQuickItem *content = window->contentItem()) {
+    // A window that is being destroyed has no content item any more.
+    if (QQuickItem *const content = window->contentItem()) {
         content->disconnect(this);
-        const QObjectList layers = popupLayers(*window);
-        for (QObject *layer : layers)
+        for (QQuickItem *const layer : popupLayers(*window))
             window->installEventFilter(layer);
-        giveFocusBack(*window);
+        restoreFocus(*window);
     }
 }
 
-// The layer of the popups looks at all that happens in the window before any item does, and closes or shields popups by
-// it. It is under the overlay, and has to rest.
-void InputShield::silencePopups()
+// A popup overlay filters the window's events before any item receives them, and closes or blocks popups.
+void InputShield::suspendPopupFilters()
 {
     if (!m_window)
         return;
-    const QObjectList layers = popupLayers(*m_window);
-    for (QObject *layer : layers)
+    for (QQuickItem *const layer : popupLayers(*m_window))
         m_window->removeEventFilter(layer);
+}
+
+bool InputShield::event(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::DragEnter:
+        static_cast<QDragEnterEvent *>(event)->setDropAction(Qt::IgnoreAction);
+        [[fallthrough]];
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+    case QEvent::HoverLeave:
+        event->accept();
+        return true;
+    default:
+        return QQuickItem::event(event);
+    }
 }
 
 bool InputShield::eventFilter(QObject *watched, QEvent *event)
@@ -159,40 +185,35 @@ bool InputShield::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
-        if (!takes(static_cast<QMouseEvent &>(*event)))
+        if (!isPressedInside(static_cast<QMouseEvent &>(*event)))
             return false;
-        takeMouse(static_cast<QMouseEvent &>(*event));
+        redirectMouse(static_cast<QMouseEvent &>(*event));
         return true;
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
-        if (!takes(static_cast<QTouchEvent &>(*event)))
+        if (!isPressedInside(static_cast<QTouchEvent &>(*event)))
             return false;
-        takeTouch(static_cast<QTouchEvent &>(*event));
+        redirectTouch(static_cast<QTouchEvent &>(*event));
         return true;
     case QEvent::TouchCancel:
-        // It means every finger in the window and names none. Ours is no click when it is let go outside everything.
-        if (std::exchange(m_finger, std::nullopt)) {
-            constexpr QPointF outside(-1e6, -1e6);
-            send(QEvent::MouseMove, outside, outside, static_cast<QTouchEvent &>(*event));
-            send(QEvent::MouseButtonRelease, outside, outside, static_cast<QTouchEvent &>(*event));
-        }
+        cancelTouch(static_cast<QTouchEvent &>(*event));
         return false;
     case QEvent::TabletPress:
     case QEvent::TabletMove:
     case QEvent::TabletRelease:
-        // Ignored, it comes again as a mouse event.
+        // Qt sends an ignored tablet event again as a mouse event.
         event->ignore();
         return true;
     case QEvent::NativeGesture:
         return true;
     case QEvent::ShortcutOverride:
-        // Accepted, it is a mere key press and no shortcut of the host.
+        // Accepting it turns a shortcut of the host into an ordinary key press.
         event->accept();
         return true;
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-        if (m_window && overlayAround(m_window->activeFocusItem()))
+        if (m_window && enclosingOverlay(m_window->activeFocusItem()))
             return false;
         event->accept();
         return true;
@@ -201,112 +222,68 @@ bool InputShield::eventFilter(QObject *watched, QEvent *event)
     }
 }
 
-// Whether a pointer went down on the overlay. One that merely hovers finds the topmost item by itself.
-bool InputShield::takes(const QPointerEvent &event) const
+// Whether any point of \a event was pressed on the shield. Hover events need no redirection.
+bool InputShield::isPressedInside(const QPointerEvent &event) const
 {
-    if (event.pointingDevice() == deviceForItems())
+    if (event.pointingDevice() == itemOnlyDevice())
         return false;
     if (event.type() == QEvent::MouseMove && static_cast<const QMouseEvent &>(event).buttons() == Qt::NoButton)
         return false;
-    const auto wentDownHere = [this](const QEventPoint &point) {
+    return std::ranges::any_of(event.points(), [this](const QEventPoint &point) {
         return contains(mapFromScene(point.scenePressPosition()));
-    };
-    return std::any_of(event.points().begin(), event.points().end(), wentDownHere);
+    });
 }
 
-void InputShield::takeMouse(QMouseEvent &event)
+void InputShield::redirectMouse(QMouseEvent &event)
 {
-    // What the pointer did before the overlay came is over.
+    // Ends a gesture that began before the overlay was shown.
     event.setExclusiveGrabber(event.points().first(), nullptr);
     event.clearPassiveGrabbers(event.points().first());
-    QMouseEvent shielded(event.type(), event.position(), event.scenePosition(), event.globalPosition(), event.button(),
-                         event.buttons(), event.modifiers(), deviceForItems());
-    shielded.setTimestamp(event.timestamp());
-    QCoreApplication::sendEvent(m_window, &shielded);
-    event.setAccepted(shielded.isAccepted());
+    QMouseEvent redirected(event.type(), event.position(), event.scenePosition(), event.globalPosition(),
+                           event.button(), event.buttons(), event.modifiers(), itemOnlyDevice());
+    redirected.setTimestamp(event.timestamp());
+    QCoreApplication::sendEvent(m_window, &redirected);
+    event.setAccepted(redirected.isAccepted());
 }
 
-// The first finger is the pointer; others do nothing.
-void InputShield::takeTouch(QTouchEvent &event)
+// The first touch point becomes the mouse; others are consumed.
+void InputShield::redirectTouch(QTouchEvent &event)
 {
     event.accept();
-    const QList<QEventPoint> points = event.points();
-    for (const QEventPoint &point : points) {
+    for (const QEventPoint &point : event.points()) {
         event.setExclusiveGrabber(point, nullptr);
         event.clearPassiveGrabbers(point);
-    }
-    const auto sendAt = [&](QEvent::Type type, const QEventPoint &point) {
-        send(type, point.scenePosition(), point.globalPosition(), event);
-    };
-    for (const QEventPoint &point : points) {
-        const bool isFinger = m_finger == point.id();
-        if (!m_finger && event.type() == QEvent::TouchBegin) {
-            m_finger = point.id();
-            sendAt(QEvent::MouseButtonPress, point);
-        } else if (isFinger && point.state() == QEventPoint::Released) {
-            m_finger.reset();
-            sendAt(QEvent::MouseButtonRelease, point);
-        } else if (isFinger && point.state() == QEventPoint::Updated) {
-            sendAt(QEvent::MouseMove, point);
+        if (!m_touchId && event.type() == QEvent::TouchBegin) {
+            m_touchId = point.id();
+            sendMouse(QEvent::MouseButtonPress, point.scenePosition(), point.globalPosition(), event);
+        } else if (m_touchId == point.id() && point.state() == QEventPoint::Released) {
+            m_touchId.reset();
+            sendMouse(QEvent::MouseButtonRelease, point.scenePosition(), point.globalPosition(), event);
+        } else if (m_touchId == point.id() && point.state() == QEventPoint::Updated) {
+            sendMouse(QEvent::MouseMove, point.scenePosition(), point.globalPosition(), event);
         }
     }
 }
 
-void InputShield::send(QEvent::Type type, QPointF position, QPointF globalPosition, const QTouchEvent &touch)
+// Cancels every touch point of the window. A release outside of all items is no click.
+void InputShield::cancelTouch(const QTouchEvent &event)
+{
+    if (!std::exchange(m_touchId, std::nullopt))
+        return;
+    constexpr QPointF outside(-1e6, -1e6);
+    sendMouse(QEvent::MouseMove, outside, outside, event);
+    sendMouse(QEvent::MouseButtonRelease, outside, outside, event);
+}
+
+void InputShield::sendMouse(QEvent::Type type, QPointF position, QPointF globalPosition, const QTouchEvent &touch)
 {
     const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
     const Qt::MouseButtons buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent shielded(type, position, position, globalPosition, button, buttons, touch.modifiers(),
-                         deviceForItems());
-    shielded.setTimestamp(touch.timestamp());
+    QMouseEvent redirected(type, position, position, globalPosition, button, buttons, touch.modifiers(),
+                           itemOnlyDevice());
+    redirected.setTimestamp(touch.timestamp());
     if (m_window)
-        QCoreApplication::sendEvent(m_window, &shielded);
-}
-
-void InputShield::mousePressEvent(QMouseEvent *event)
-{
-    event->accept();
-}
-
-void InputShield::mouseMoveEvent(QMouseEvent *event)
-{
-    event->accept();
-}
-
-void InputShield::mouseReleaseEvent(QMouseEvent *event)
-{
-    event->accept();
-}
-
-void InputShield::mouseDoubleClickEvent(QMouseEvent *event)
-{
-    event->accept();
-}
-
-void InputShield::wheelEvent(QWheelEvent *event)
-{
-    event->accept();
-}
-
-void InputShield::hoverEnterEvent(QHoverEvent *event)
-{
-    event->accept();
-}
-
-void InputShield::hoverMoveEvent(QHoverEvent *event)
-{
-    event->accept();
-}
-
-void InputShield::hoverLeaveEvent(QHoverEvent *event)
-{
-    event->accept();
-}
-
-void InputShield::dragEnterEvent(QDragEnterEvent *event)
-{
-    event->setDropAction(Qt::IgnoreAction);
-    event->accept();
+        QCoreApplication::sendEvent(m_window, &redirected);
 }
 
 } // namespace TQFoundation

@@ -10,50 +10,46 @@ class QPointerEvent;
 
 namespace TQFoundation {
 
-/// Keeps what the user does away from all that lies beneath an overlay: pointers, wheel, hover, drags, keys and
-/// shortcuts. The keyboard focus stays inside the overlay until it leaves its window, and then goes back to where it
-/// was.
+/// Makes an overlay input-modal: consumes pointer, wheel, hover, drag, key and shortcut events meant for items below
+/// it.
 ///
-/// A child of the overlay, which owns it and has to be a focus scope. Its siblings, the overlay's content, take their
-/// input as ever. Where the overlay is a child of the window itself, the shield is as large as the window. Main thread.
+/// The first child of the overlay, which owns it and must be a focus scope. The overlay's other children receive their
+/// events as usual. Keyboard focus stays inside the overlay while it is in a window. Afterwards the item that had the
+/// focus before gets it back, if it is still in that window, visible and enabled. GUI thread.
 class InputShield final : public QQuickItem
 {
 public:
+    /// Consumes events from the moment when \a overlay enters a window until it leaves it or either is destroyed.
     explicit InputShield(QQuickItem *overlay);
     ~InputShield() override;
 
-    /// Brings the focus inside the overlay. Does nothing where it is already, or where the overlay is in no window.
+    /// Moves the keyboard focus into the overlay. Does nothing if it is there already or the overlay has no window.
     void takeFocus();
 
+    /// Whether \a point, in the overlay's coordinates, is shielded: any point if the overlay is a child of its window's
+    /// content item, else the points of the overlay.
     bool contains(const QPointF &point) const override;
 
 protected:
+    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
-    void mouseDoubleClickEvent(QMouseEvent *event) override;
-    void wheelEvent(QWheelEvent *event) override;
-    void hoverEnterEvent(QHoverEvent *event) override;
-    void hoverMoveEvent(QHoverEvent *event) override;
-    void hoverLeaveEvent(QHoverEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
 
 private:
-    void enter(QQuickWindow *window);
-    void leave();
-    void silencePopups();
-    void giveFocusBack(const QQuickWindow &window);
-    bool takes(const QPointerEvent &event) const;
-    void takeMouse(QMouseEvent &event);
-    void takeTouch(QTouchEvent &event);
-    void send(QEvent::Type type, QPointF position, QPointF globalPosition, const QTouchEvent &touch);
+    void attach(QQuickWindow *window);
+    void detach();
+    void suspendPopupFilters();
+    void restoreFocus(const QQuickWindow &window);
+    bool isPressedInside(const QPointerEvent &event) const;
+    void redirectMouse(QMouseEvent &event);
+    void redirectTouch(QTouchEvent &event);
+    void cancelTouch(const QTouchEvent &event);
+    void sendMouse(QEvent::Type type, QPointF position, QPointF globalPosition, const QTouchEvent &touch);
 
     QQuickItem *const m_overlay;
     QPointer<QQuickWindow> m_window;
-    QPointer<QQuickItem> m_formerFocus;
-    std::optional<int> m_finger; // the touch that is under way
+    QPointer<QQuickItem> m_previousFocus;
+    std::optional<int> m_touchId; // the touch point that acts as the mouse
 };
 
 } // namespace TQFoundation

@@ -13,7 +13,8 @@
 namespace TQFoundation {
 namespace {
 
-/// A cubic Bézier curve through (0.42, 0) and (0.58, 1): the "ease-in-out" of CSS Easing Functions Level 1.
+// Cubic Bézier curve with the control points (0.42, 0) and (0.58, 1): the "ease-in-out" of CSS Easing Functions
+// Level 1.
 QEasingCurve easeInOut()
 {
     QEasingCurve curve(QEasingCurve::BezierSpline);
@@ -21,7 +22,7 @@ QEasingCurve easeInOut()
     return curve;
 }
 
-/// An animation that nobody else can end: one of a property would be stopped by the next one of the same property.
+// Not a QPropertyAnimation: a second one of the same property would stop the first, without its finished().
 class OpacityAnimation final : public QVariantAnimation
 {
 public:
@@ -37,7 +38,7 @@ public:
         connect(this, &QAbstractAnimation::finished, this, [this] { complete(); });
     }
 
-    void yieldTo(const QQuickItem *item)
+    void release(const QQuickItem *item)
     {
         if (m_item == item)
             m_item = nullptr;
@@ -70,7 +71,7 @@ void animateOpacity(QQuickItem *item, double opacity, double seconds, std::funct
     const QObjectList others = applicationScope()->children();
     for (QObject *other : others) {
         if (auto *animation = dynamic_cast<OpacityAnimation *>(other))
-            animation->yieldTo(item);
+            animation->release(item);
     }
     (new OpacityAnimation(item, opacity, seconds, std::move(completion)))->start(QAbstractAnimation::DeleteWhenStopped);
 }

@@ -6,12 +6,12 @@ class QQuickItem;
 
 namespace TQFoundation {
 
-/// Brings the opacity of \a item from where it stands to \a opacity within \a seconds, slow at both ends, and then runs
-/// \a completion.
+/// Animates the opacity of \a item from its current value to \a opacity (0 to 1) within \a seconds, with ease-in-out,
+/// and then calls \a completion, which must not be empty.
 ///
-/// The completion runs once, and not before its time: also when a later animation of the same item has taken over the
-/// opacity, or the item has gone. Until then it is kept with all that it holds. It does not run when the application
-/// object goes first. Main thread.
+/// The completion runs exactly once and after the full duration, also if a later animation of the same item has taken
+/// over the opacity or the item was destroyed. It is kept, with everything that it captures, until it has run. It does
+/// not run if the application object is destroyed first. GUI thread.
 void animateOpacity(QQuickItem *item, double opacity, double seconds, std::function<void()> completion);
 
 } // namespace TQFoundation

@@ -7,8 +7,10 @@
 
 namespace TQFoundation {
 
-/// The guide as a host written in QML asks, builds and shows it: `TQGuide { tintColor: …; descriptions: … }`, and,
-/// where shouldShowGuide() is true, showGuide().
+/// QML type of the guide: declare `TQGuide { tintColor: …; descriptions: … }` and call showGuide() if shouldShowGuide()
+/// is true.
+///
+/// Each call of showGuide() makes an overlay of its own, which stays if this object is destroyed. GUI thread.
 class TQGuide : public QObject
 {
     Q_OBJECT
@@ -20,25 +22,27 @@ class TQGuide : public QObject
 public:
     using QObject::QObject;
 
-    /// What the overlay is painted in. Read when it is shown.
+    /// Color of the whole overlay. Read by showGuide().
     Color tintColor() const { return m_tintColor; }
+    /// Changes the color of overlays that are shown later.
     void setTintColor(const Color &color);
 
-    /// The paragraphs in the order shown, plain text. Read when the overlay is shown; without any the process stops.
+    /// The paragraphs in the order shown, plain text. Read by showGuide(), which stops the process if they are empty.
     QStringList descriptions() const { return m_descriptions; }
+    /// Changes the paragraphs of overlays that are shown later.
     void setDescriptions(const QStringList &descriptions);
 
-    /// TQGuideView::shouldShowGuide().
+    /// Whether the guide has not been finished in this installation: TQGuideView::shouldShowGuide().
     Q_INVOKABLE bool shouldShowGuide() const { return TQGuideView::shouldShowGuide(); }
 
-    /// Makes an overlay and shows it; TQGuideView::showGuide().
+    /// Makes an overlay and shows it. \a inWindow and \a orInView are the fallbacks of TQGuideView::showGuide().
     Q_INVOKABLE void showGuide(QQuickWindow *inWindow = nullptr, QQuickItem *orInView = nullptr);
 
 Q_SIGNALS:
-    void tintColorChanged();
-    void descriptionsChanged();
+    void tintColorChanged(); ///< Emitted if setTintColor() changes the color.
+    void descriptionsChanged(); ///< Emitted if setDescriptions() changes the paragraphs.
 
-    /// The user has tapped past the last paragraph; the overlay is about to fade out.
+    /// Emitted once for each overlay, when the user taps past its last paragraph and before it fades out.
     void completed();
 
 private:

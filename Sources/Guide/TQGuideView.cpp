@@ -19,16 +19,16 @@
 namespace TQFoundation {
 namespace {
 
-constexpr double appearing = 0.6; // seconds, as are the next two
-constexpr double disappearing = 0.6;
-constexpr double changing = 0.4; // each half of a change of paragraphs
+// Durations in seconds.
+constexpr double overlayFade = 0.6;
+constexpr double labelFade = 0.4;
 
 QString flagKey()
 {
     return QStringLiteral("KeyOfDidShowGuide");
 }
 
-QQuickItem *connected(QQuickItem *outlet)
+QQuickItem *required(QQuickItem *outlet)
 {
     precondition(outlet);
     return outlet;
@@ -64,12 +64,12 @@ bool TQGuideView::shouldShowGuide()
 std::shared_ptr<TQGuideView> TQGuideView::initFromNib(const Color &tintColor, const QStringList &descriptions,
                                                       const std::function<void()> &completeClosure)
 {
-    std::unique_ptr<QObject> first = makeFromNib(libraryBundle().root() + u"/Nibs/TQGuideView.qml");
-    precondition(qobject_cast<TQGuideView *>(first.get()));
-    std::shared_ptr<TQGuideView> view(static_cast<TQGuideView *>(first.release()), deferredDelete);
-    // At the end of the application no host and no animation holds it any longer.
+    std::unique_ptr<QObject> root = makeFromNib(libraryBundle().root() + u"/Nibs/TQGuideView.qml");
+    precondition(qobject_cast<TQGuideView *>(root.get()));
+    std::shared_ptr<TQGuideView> view(static_cast<TQGuideView *>(root.release()), deferredDelete);
+    // A host that outlives the application object must not keep the overlay alive.
     connect(applicationScope(), &QObject::destroyed, view.get(),
-            [raw = view.get()] { const auto released = std::exchange(raw->m_heldByHost, nullptr); });
+            [raw = view.get()] { const auto released = std::exchange(raw->m_hostReference, nullptr); });
     view->setBackgroundColor(tintColor);
     view->setDescriptions(descriptions);
     view->setCompleteClosure(completeClosure);
@@ -174,44 +174,43 @@ void TQGuideView::showGuide(QQuickWindow *inWindow, QQuickItem *orInView)
         host = window->contentItem();
     else if (inWindow)
         host = inWindow->contentItem();
-    forgetFocus();
     addAsTopmostChild(this, host);
     m_shield->takeFocus();
     announceParagraph();
-    animateOpacity(this, 1, appearing, holding(&TQGuideView::stayAlive));
+    animateOpacity(this, 1, overlayFade, [alive = weak_from_this().lock()] {});
 }
 
 void TQGuideView::nextGuide(const QVariant &)
 {
-    // The closure of the host may let go of the overlay.
+    // The closure may release the last other reference to the overlay.
     const auto alive = weak_from_this().lock();
     platform().softImpact();
-    Q_EMIT impactOccurred();
-    connected(nextButton())->setEnabled(false);
+    Q_EMIT tapped();
+    required(nextButton())->setEnabled(false);
     updateIndex([](std::int64_t &index) {
         precondition(index < std::numeric_limits<std::int64_t>::max());
         ++index;
     });
     if (index() != descriptions().size()) {
-        animateOpacity(connected(guideLabel()), 0, changing, holding(&TQGuideView::showNextParagraph));
+        animateOpacity(required(guideLabel()), 0, labelFade, completion(&TQGuideView::showNextParagraph));
         return;
     }
     platform().setUserDefault(flagKey(), true);
     if (const auto closure = completeClosure())
         closure();
-    animateOpacity(this, 0, disappearing, holding(&TQGuideView::removeFromHost));
+    animateOpacity(this, 0, overlayFade, completion(&TQGuideView::removeFromHost));
 }
 
 void TQGuideView::showNextParagraph()
 {
     showParagraph();
     announceParagraph();
-    animateOpacity(connected(guideLabel()), 1, changing, holding(&TQGuideView::takeTapsAgain));
+    animateOpacity(required(guideLabel()), 1, labelFade, completion(&TQGuideView::enableNextButton));
 }
 
-void TQGuideView::takeTapsAgain()
+void TQGuideView::enableNextButton()
 {
-    connected(nextButton())->setEnabled(true);
+    required(nextButton())->setEnabled(true);
 }
 
 void TQGuideView::removeFromHost()
@@ -219,29 +218,9 @@ void TQGuideView::removeFromHost()
     setParentItem(nullptr);
 }
 
-// After its window was destroyed, an overlay goes on as if it had the focus. The next window, where that is not the
-// active one, would come to point at it after it has left. Only a window to which it is the item with the focus takes
-// that from it, once another item gets it; and it becomes this item when one that it holds gives up the focus.
-void TQGuideView::forgetFocus()
-{
-    if (window() || !hasActiveFocus())
-        return;
-    QQuickItem *const within = scopedFocusItem();
-    setFocus(false);
-    QQuickWindow taker;
-    setParentItem(taker.contentItem());
-    m_shield->setFocus(true);
-    m_shield->setFocus(false);
-    QFocusEvent activation(QEvent::FocusIn);
-    QCoreApplication::sendEvent(&taker, &activation);
-    setParentItem(nullptr);
-    if (within)
-        within->setFocus(true);
-}
-
-// What an animation calls at its end. It keeps the overlay alive until then; one that no shared pointer holds may go
-// before.
-std::function<void()> TQGuideView::holding(void (TQGuideView::*step)())
+// Completion of an animation: calls \a step and keeps the overlay alive until then. An overlay that no shared pointer
+// owns may be destroyed before.
+std::function<void()> TQGuideView::completion(void (TQGuideView::*step)())
 {
     return [view = QPointer(this), alive = weak_from_this().lock(), step] {
         if (view)
@@ -254,7 +233,7 @@ void TQGuideView::showParagraph()
     const QStringList paragraphs = descriptions();
     const std::int64_t shown = index();
     precondition(shown >= 0 && shown < paragraphs.size());
-    connected(guideLabel())->setProperty("text", paragraphs.at(static_cast<qsizetype>(shown)));
+    required(guideLabel())->setProperty("text", paragraphs.at(static_cast<qsizetype>(shown)));
 }
 
 void TQGuideView::announceParagraph()
@@ -275,7 +254,7 @@ void TQGuideView::setBackgroundColor(const Color &color)
 
 QString TQGuideView::nextButtonName()
 {
-    //: What a screen reader calls the button that leads to the next page of an introduction.
+    //: Name, for screen readers, of the button that leads to the next page of an introduction.
     return libraryBundle().interfaceString(QLatin1String(QT_TRANSLATE_NOOP("TQFoundationInterface", "Next")));
 }
 
@@ -283,8 +262,8 @@ void TQGuideView::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickItem::itemChange(change, data);
     if (change == ItemParentHasChanged) {
-        // Let go of at the end, because the host may have been the last to hold the overlay.
-        const auto released = std::exchange(m_heldByHost, data.item ? weak_from_this().lock() : nullptr);
+        // Released last, because it may be the only reference to the overlay.
+        const auto released = std::exchange(m_hostReference, data.item ? weak_from_this().lock() : nullptr);
         updateShownArea();
     } else if (change == ItemSceneChange) {
         if (m_window)
@@ -302,16 +281,16 @@ void TQGuideView::updateShownArea()
     if (m_window && m_window->contentItem()) {
         const QQuickItem *content = m_window->contentItem();
         shown &= mapRectFromItem(content, QRectF(QPointF(), content->size()));
-        for (const QQuickItem *around = parentItem(); around; around = around->parentItem()) {
-            if (around->clip())
-                shown &= mapRectFromItem(around, around->clipRect());
+        for (const QQuickItem *ancestor = parentItem(); ancestor; ancestor = ancestor->parentItem()) {
+            if (ancestor->clip())
+                shown &= mapRectFromItem(ancestor, ancestor->clipRect());
         }
-        // Only windows that ask for all of the screen lie under its bars and notches.
-        const bool underBars = m_window->flags().testFlag(Qt::MaximizeUsingFullscreenGeometryHint)
+        // Only windows that ask for the whole screen extend below its bars and notches.
+        const bool usesWholeScreen = m_window->flags().testFlag(Qt::MaximizeUsingFullscreenGeometryHint)
             || m_window->visibility() == QWindow::FullScreen;
-        if (const QScreen *screen = m_window->screen(); screen && underBars) {
-            const QRectF clear = screen->availableGeometry();
-            shown &= QRectF(mapFromGlobal(clear.topLeft()), mapFromGlobal(clear.bottomRight()));
+        if (const QScreen *screen = m_window->screen(); screen && usesWholeScreen) {
+            const QRectF available = screen->availableGeometry();
+            shown &= QRectF(mapFromGlobal(available.topLeft()), mapFromGlobal(available.bottomRight()));
         }
     }
     if (m_shownArea == shown)

@@ -19,15 +19,15 @@ namespace TQFoundation {
 
 class InputShield;
 
-/// The overlay that walks a new user through an app's paragraphs, one at a time, with a single next button. Once per
-/// installation: the last tap stores a flag, tells the app, and the overlay fades out and removes itself.
+/// Full-screen overlay that shows the paragraphs of an app's introduction, one at a time, with a next button.
 ///
-/// An app asks shouldShowGuide(), makes the overlay with initFromNib() and calls showGuide() on it, once. Its host
-/// holds the overlay while it is shown, and so does each animation until it has run; the app needs to keep nothing.
-/// From adding to removal nothing that the user does reaches what lies beneath, and the keyboard focus stays inside.
+/// Shown once per installation: the tap past the last paragraph stores a flag, calls the app's closure, fades the
+/// overlay out and removes it. Make it with initFromNib() if shouldShowGuide() is true, then call showGuide() once. Its
+/// parent item and its running animations share its ownership, so the app need not keep it. While it is in a window it
+/// consumes all input meant for items below it and keeps the keyboard focus.
 ///
-/// A label or button that is not connected when it is used, and an index outside the paragraphs when one is read, stop
-/// the process. Hosts written in QML use the type `TQGuide`; they do not declare this one. Main thread only.
+/// The process stops if a label or button is missing when it is used, or if the index is outside the paragraphs when
+/// one is read. Not for use in QML: hosts declare `TQGuide` instead. GUI thread.
 class TQFOUNDATION_EXPORT TQGuideView : public QQuickItem, public std::enable_shared_from_this<TQGuideView>
 {
     Q_OBJECT
@@ -40,96 +40,102 @@ class TQFOUNDATION_EXPORT TQGuideView : public QQuickItem, public std::enable_sh
     Q_PROPERTY(QString nextButtonName READ nextButtonName CONSTANT FINAL)
 
 public:
-    /// A label or button of the nib: null as soon as that goes.
+    /// Weak reference to an item of the nib; null once the item is destroyed.
     using Outlet = QPointer<QQuickItem>;
 
-    /// An overlay without label, button and paragraphs, as the nib makes it. Apps call initFromNib().
+    /// Makes an overlay without label, button and paragraphs. For the nib; apps call initFromNib().
     explicit TQGuideView(QQuickItem *parent = nullptr);
     ~TQGuideView() override;
 
-    /// Whether the guide has not been finished yet in this installation: false only where the host's settings hold the
-    /// boolean true, or the number 1, under "KeyOfDidShowGuide". Writes nothing.
+    /// Whether the guide has not been finished in this installation: false exactly if the host's settings hold the
+    /// boolean true or the number 1 under "KeyOfDidShowGuide". Reads them at each call and writes nothing.
     static bool shouldShowGuide();
 
-    /// Makes an overlay that is not in any window yet, painted in \a tintColor and as large as the main screen is now.
-    /// \a descriptions are the paragraphs in the order shown, plain text; \a completeClosure runs once, when the user
-    /// taps past the last one, and may be empty. A nib that is missing or whose root is no TQGuideView stops the
-    /// process.
+    /// Makes an overlay in no window, painted in \a tintColor, with the current size of the main screen in points; the
+    /// size does not change later.
+    ///
+    /// \a descriptions are the paragraphs in the order shown, as plain text. \a completeClosure is called at the tap
+    /// past the last one, before the overlay fades out; it may be empty. The overlay keeps it as long as it lives. The
+    /// process stops if the nib is missing or its root is not a TQGuideView. Never null.
     static std::shared_ptr<TQGuideView> initFromNib(const Color &tintColor, const QStringList &descriptions,
                                                     const std::function<void()> &completeClosure);
 
-    // For each stored property: read, write, change in place. A label is any item with a property "text".
+    // Each stored property has three virtual functions: read, write and change in place.
 
-    /// The label that shows the current paragraph; not owned, null where it is not connected or has gone.
+    /// The item whose property "text" is the current paragraph; not owned, null if it is not set or was destroyed.
     virtual QQuickItem *guideLabel() const;
-    /// Connects \a label, or nothing for null.
+    /// Sets the label; null for no label. Ownership stays with the caller.
     virtual void setGuideLabel(QQuickItem *label);
-    /// Lets \a change work on the stored label in place.
+    /// Calls \a change, once and before it returns, with the stored label.
     virtual void updateGuideLabel(const std::function<void(Outlet &)> &change);
 
-    /// The next button; not owned, null where it is not connected or has gone.
+    /// The next button; not owned, null if it is not set or was destroyed.
     virtual QQuickItem *nextButton() const;
-    /// Connects \a button, or nothing for null.
+    /// Sets the next button; null for no button. Ownership stays with the caller.
     virtual void setNextButton(QQuickItem *button);
-    /// Lets \a change work on the stored button in place.
+    /// Calls \a change, once and before it returns, with the stored button.
     virtual void updateNextButton(const std::function<void(Outlet &)> &change);
 
 protected:
-    /// Which paragraph is shown, from 0; after a tap the one that is being faded in.
+    /// Index of the paragraph that is shown, from 0; after a tap, of the one that fades in next.
     virtual std::int64_t index() const;
-    /// Sets the index; what is shown stays as it is until the next step reads it.
+    /// Sets the index. The label changes only when the next step reads it.
     virtual void setIndex(std::int64_t index);
-    /// Lets \a change work on the stored index in place.
+    /// Calls \a change, once and before it returns, with the stored index.
     virtual void updateIndex(const std::function<void(std::int64_t &)> &change);
 
     /// The paragraphs in the order shown.
     virtual QStringList descriptions() const;
-    /// Sets the paragraphs; what is shown stays as it is until the next step reads them.
+    /// Sets the paragraphs. The label changes only when the next step reads them.
     virtual void setDescriptions(const QStringList &descriptions);
-    /// Lets \a change work on the stored paragraphs in place.
+    /// Calls \a change, once and before it returns, with the stored paragraphs.
     virtual void updateDescriptions(const std::function<void(QStringList &)> &change);
 
-    /// What runs once when the user taps past the last paragraph; may be empty.
+    /// Function that is called at the tap past the last paragraph; may be empty.
     virtual std::function<void()> completeClosure() const;
-    /// Sets what runs at the end.
+    /// Sets the function that is called at the tap past the last paragraph.
     virtual void setCompleteClosure(const std::function<void()> &closure);
-    /// Lets \a change work on the stored closure in place.
+    /// Calls \a change, once and before it returns, with the stored closure.
     virtual void updateCompleteClosure(const std::function<void(std::function<void()> &)> &change);
 
 public:
-    /// Shows the current paragraph and fades the overlay in within 0.6 seconds, on top of all that its host holds: the
-    /// key window of the app's active window scene, else \a inWindow, else \a orInView. Without any of them it is added
-    /// nowhere. The overlay lies at the host's origin and keeps its size. No paragraphs stop the process.
+    /// Shows the current paragraph and fades the overlay in within 0.6 seconds.
+    ///
+    /// The overlay becomes the topmost child of the key window's content item, else of \a inWindow's, else of
+    /// \a orInView; if all are missing it gets no parent. It keeps its size and its position at the parent's origin.
+    /// Stops the process if there are no paragraphs. A later call repeats all of this.
     virtual void showGuide(QQuickWindow *inWindow = nullptr, QQuickItem *orInView = nullptr);
 
-    /// What a tap on the next button does, whoever calls it: the next paragraph fades in (0.8 seconds, meanwhile the
-    /// button is off), or, after the last one, the guide ends. \a sender is ignored. A call that leads past the last
-    /// paragraph, or an index that overflows, stops the process.
+    /// Handles a tap on the next button; \a sender is ignored. The next paragraph fades in within 0.8 seconds, during
+    /// which the button is disabled. After the last paragraph the guide ends instead.
+    ///
+    /// Stops the process if it is called again after the guide has ended, or if the index overflows.
     Q_INVOKABLE virtual void nextGuide(const QVariant &sender = {});
 
-    /// What the whole overlay is painted in; it follows light and dark appearance.
+    /// Color of the whole overlay, translucent if the color is. Follows light and dark appearance.
     Color backgroundColor() const { return m_backgroundColor; }
-    /// Paints the overlay in \a color from the next frame on.
+    /// Paints the overlay in \a color, starting with the next frame.
     void setBackgroundColor(const Color &color);
 
-    /// The part of the overlay that its window shows, clear of the system's bars, in the overlay's coordinates: a nib
-    /// lays out its content there.
+    /// The part of the overlay that is visible in its window and clear of the system's bars, in the overlay's
+    /// coordinates. The nib lays out its content there. The whole overlay if it is in no window.
     QRectF shownArea() const { return m_shownArea; }
 
-    /// What assistive technology calls the next button, in the user's language.
+    /// Accessible name of the next button, in the user's language.
     static QString nextButtonName();
 
 Q_SIGNALS:
-    void guideLabelChanged(); ///< Another label is connected, or none.
-    void nextButtonChanged(); ///< Another button is connected, or none.
-    void backgroundColorChanged(); ///< It has another colour.
-    void shownAreaChanged(); ///< Another part of it is shown.
+    void guideLabelChanged(); ///< Emitted if setGuideLabel() sets another label or null.
+    void nextButtonChanged(); ///< Emitted if setNextButton() sets another button or null.
+    void backgroundColorChanged(); ///< Emitted if setBackgroundColor() changes the color.
+    void shownAreaChanged(); ///< Emitted if shownArea() changes.
 
-    /// Answers each tap where the system has no haptics.
-    void impactOccurred();
+    /// Emitted at each tap, also if the system has haptics, after Platform::softImpact() and before the button is
+    /// disabled. The nib answers it with a short pulse of the button.
+    void tapped();
 
 protected:
-    /// @{ What the toolkit tells the item. A class that overrides it passes it on.
+    /// @{ Overrides of QQuickItem; a derived class must call them.
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -137,15 +143,12 @@ protected:
     /// @}
 
 private:
-    std::function<void()> holding(void (TQGuideView::*step)());
+    std::function<void()> completion(void (TQGuideView::*step)());
     void showParagraph();
     void announceParagraph();
     void showNextParagraph();
-    void takeTapsAgain();
+    void enableNextButton();
     void removeFromHost();
-    void forgetFocus();
-    void stayAlive() {}
-
     void updateShownArea();
 
     InputShield *const m_shield; // a child
@@ -158,7 +161,7 @@ private:
 
     Color m_backgroundColor;
     QRectF m_shownArea;
-    std::shared_ptr<TQGuideView> m_heldByHost; // this, while it has a parent item
+    std::shared_ptr<TQGuideView> m_hostReference; // this, while it has a parent item
     QPointer<QQuickWindow> m_window;
 };
 

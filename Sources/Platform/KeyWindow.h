@@ -4,9 +4,10 @@ class QQuickWindow;
 
 namespace TQFoundation {
 
-/// The key window of the app's active window scene: of the first scene that is active in the foreground and has
-/// windows, the first window that is key. Other scenes are not tried. Null where there is none, or where that window is
-/// not one of Qt Quick. Main thread.
+/// The first key window of the first scene of the platform that is a window scene and active in the foreground.
+///
+/// No other scene is tried, also if that one has no windows or none of them is key. Null if there is no such scene or
+/// window, or if the window is not a QQuickWindow or was destroyed. Not owned. GUI thread.
 QQuickWindow *keyWindow();
 
 } // namespace TQFoundation

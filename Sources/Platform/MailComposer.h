@@ -10,8 +10,8 @@
 
 namespace TQFoundation {
 
-/// The system's screen for writing one mail. The library fills it in and presents it; what happens then is between the
-/// user and the system, until the delegate is told how it ended. Main thread only.
+/// The system's screen for writing one mail. The library fills it in and presents it; the user then sends, saves or
+/// cancels the mail, and the delegate receives the result. Call the setters before it is presented. GUI thread.
 class TQFOUNDATION_EXPORT MailComposer : public ViewController
 {
     Q_OBJECT
@@ -19,19 +19,20 @@ class TQFOUNDATION_EXPORT MailComposer : public ViewController
 public:
     using ViewController::ViewController;
 
-    /// Who is told once, by mailComposeController(), when the user is done. Not owned; null for nobody.
+    /// Sets the controller whose mailComposeController() is called once, when the user has finished the mail. Not
+    /// owned; nothing is called if it is null or destroyed by then.
     virtual void setMailComposeDelegate(const std::shared_ptr<ViewController> &delegate) = 0;
 
-    /// What the buttons of the navigation bar are painted in; the system's own colour where it is never set.
+    /// Sets the color of the navigation bar's buttons; the system's color if it is never set.
     virtual void setNavigationBarTintColor(const Color &color) = 0;
 
-    /// Whom the mail goes to, as plain addresses.
+    /// Sets the recipients, as plain addresses.
     virtual void setToRecipients(const QStringList &addresses) = 0;
 
-    /// What the mail is about, as plain text.
+    /// Sets the subject, as plain text.
     virtual void setSubject(const QString &subject) = 0;
 
-    /// What the mail begins with, passed on as it is: HTML where \a isHtml is true, else plain text.
+    /// Sets the initial text, unchanged: HTML if \a isHtml is true, else plain text.
     virtual void setMessageBody(const QString &body, bool isHtml) = 0;
 };
 

@@ -10,7 +10,7 @@
 namespace TQFoundation {
 namespace {
 
-// The window holds its root controller as a dynamic property, so that it goes when the window does.
+// A dynamic property of the window holds its root controller, so that it is released with the window.
 constexpr char rootProperty[] = "_tq_rootViewController";
 
 } // namespace
@@ -33,11 +33,11 @@ void ViewController::present(std::shared_ptr<ViewController> next)
     }
     next->m_presenting = this;
     m_presented = std::move(next);
-    // The nearest view below tells the window: controllers without a view are passed over.
+    // A controller without a view shows its screens in the window of the nearest view below it.
     const ViewController *link = this;
     while (link && !link->m_view)
         link = link->m_presenting;
-    // What cannot appear may dismiss itself at once.
+    // A controller that cannot appear may dismiss itself during the call.
     const auto presented = m_presented;
     presented->appear(link ? link->m_view->window() : nullptr);
 }
@@ -58,7 +58,7 @@ void ViewController::dismiss()
 std::shared_ptr<ViewController> ViewController::rootOf(QWindow *window)
 {
     auto *quick = qobject_cast<QQuickWindow *>(window);
-    // A window that is being destroyed has no content any more.
+    // A window that is being destroyed has no content item any more.
     if (!quick || !quick->contentItem())
         return nullptr;
     auto root = quick->property(rootProperty).value<std::shared_ptr<ViewController>>();

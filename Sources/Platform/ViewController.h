@@ -15,60 +15,60 @@ namespace TQFoundation {
 
 class MailComposer;
 
-/// What a screen of the library is presented on, and what it is presented as: a link of the chain of modal screens of
-/// one window.
+/// A screen in the chain of modal screens of one window.
 ///
-/// Each window of Qt Quick has a root controller, which is made when it is first asked for. A host that shows modal
-/// screens of its own presents a controller for each, so that the library's screens come to lie on top of them. Held
-/// by `std::shared_ptr`: a presenting controller holds the one that it presents. Main thread only.
+/// Each QQuickWindow has a root controller, made on first request. A host that shows modal screens of its own presents
+/// a controller for each of them, so that the library's screens appear above them. Owned by `std::shared_ptr`: a
+/// presenting controller shares the ownership of the one that it presents. GUI thread.
 class TQFOUNDATION_EXPORT ViewController : public QObject
 {
     Q_OBJECT
     Q_MOC_INCLUDE("TQFoundation/MailComposer.h")
 
 public:
-    /// How the user was done with a mail.
+    /// How the user finished a mail.
     enum class MailComposeResult { cancelled, saved, sent, failed };
     Q_ENUM(MailComposeResult)
 
-    /// A controller of \a view, which is not owned and may go away at any time. Without a view it is a mere link of the
-    /// chain, for a screen that the host shows by itself.
+    /// Makes a controller of \a view, which is not owned and may be destroyed at any time. A controller without a view
+    /// stands for a screen that the host shows itself.
     explicit ViewController(QQuickItem *view = nullptr);
     ~ViewController() override;
 
-    /// What it shows; not owned, null where it was made without a view or the view has gone.
+    /// The item that it shows; not owned, null if it was made without one or the item was destroyed.
     QQuickItem *view() const { return m_view; }
 
-    /// The controller that this one presents; null where it presents none.
+    /// The controller that this one presents; null if it presents none.
     std::shared_ptr<ViewController> presentedViewController() const { return m_presented; }
 
-    /// Shows \a next over everything in this controller's window. Does nothing for null, where this controller already
-    /// presents one, and where \a next is presented elsewhere or comes before this one in its chain.
+    /// Shows \a next over everything in this controller's window and shares its ownership. Does nothing if \a next is
+    /// null, is presented already or comes before this controller in its chain, or if this controller presents one.
     void present(std::shared_ptr<ViewController> next);
 
-    /// Takes away what this controller presents, with all that lies on top of that; a controller that presents nothing
-    /// takes itself away. Does nothing for a root that presents nothing.
+    /// Removes the controller that this one presents and all controllers above it; a controller that presents none
+    /// removes itself. Does nothing for a root that presents none.
     void dismiss();
 
-    /// The root controller of \a window; null for null and for a window that is not one of Qt Quick.
+    /// The root controller of \a window, whose view is by default its content item. Null if \a window is null, not a
+    /// QQuickWindow or being destroyed.
     static std::shared_ptr<ViewController> rootOf(QWindow *window);
 
-    /// Makes \a root the root controller of \a window, or one that is made anew where it is null.
+    /// Makes \a root the root controller of \a window; if it is null, rootOf() makes a new one. Does nothing if
+    /// \a window is null. The window shares the ownership of its root.
     static void setRoot(QQuickWindow *window, const std::shared_ptr<ViewController> &root);
 
-    /// What a mail composer tells its delegate, which any controller can be, when the user is done; \a error says in
-    /// words what went wrong, and is empty where nothing did. Whatever the result, the composer is dismissed, also
-    /// where another controller presented it. Nothing is shown or kept.
+    /// Called by \a controller, a mail composer, on its delegate when the user has finished the mail. \a error
+    /// describes a failure for the user and is empty if there was none. Dismisses the composer, whatever the result and
+    /// whoever presented it; shows and stores nothing.
     Q_INVOKABLE virtual void mailComposeController(TQFoundation::MailComposer *controller,
                                                    TQFoundation::ViewController::MailComposeResult result,
                                                    const QString &error);
 
 protected:
-    /// Puts the view on the screen: on top of all that \a window shows, which is null where the presenting controller
-    /// is in no window.
+    /// Shows the view above everything in \a window, which is null if the presenting controller is in no window.
     virtual void appear(QQuickWindow *window);
 
-    /// Takes the view off the screen.
+    /// Removes the view from its window.
     virtual void disappear();
 
 private:

@@ -82,7 +82,7 @@ Window {
         onNextButtonChanged: nextGuide()
         onBackgroundColorChanged: nextGuide()
         onShownAreaChanged: nextGuide()
-        onImpactOccurred: nextGuide()
+        onTapped: nextGuide()
 
         Text {
             id: label

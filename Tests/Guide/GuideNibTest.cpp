@@ -44,7 +44,7 @@ QRectF sceneRect(const QQuickItem *item)
     return item->mapRectToScene({0, 0, item->width(), item->height()});
 }
 
-// The part of the paragraph's page that scrolls.
+// The Flickable that contains the label.
 QQuickItem *scroller(const TQGuideView &guide)
 {
     QQuickItem *item = guide.guideLabel();
@@ -69,9 +69,9 @@ protected:
     static QString longText() { return QStringLiteral("The quick brown fox jumps over the lazy dog. ").repeated(40); }
 };
 
-// Legible.
+// Colors.
 
-TEST_F(GuideNib, TextAndArrowAreLegibleOnEveryTintInLightAndDark)
+TEST_F(GuideNib, HasLegibleColorsOnEveryTint)
 {
     for (const Appearance appearance : {Appearance::light, Appearance::dark}) {
         setAppearance(appearance);
@@ -89,16 +89,16 @@ TEST_F(GuideNib, TextAndArrowAreLegibleOnEveryTintInLightAndDark)
     }
 }
 
-TEST_F(GuideNib, FollowsTheAppearanceWhileItIsShown)
+TEST_F(GuideNib, FollowsAppearanceWhileShown)
 {
     setAppearance(Appearance::light);
     const auto guide = TQGuideView::initFromNib(Color::label(), {QStringLiteral("Text")}, nullptr);
-    EXPECT_EQ(shownColor(guide->guideLabel()), (Rgba{1, 1, 1})) << "white on a black ground";
+    EXPECT_EQ(shownColor(guide->guideLabel()), (Rgba{1, 1, 1})) << "white on a black background";
     setAppearance(Appearance::dark);
     EXPECT_EQ(shownColor(guide->guideLabel()), (Rgba{0, 0, 0}));
 }
 
-TEST_F(GuideNib, PaintsTheWholeOverlayInItsColorAsOpaqueAsThatIs)
+TEST_F(GuideNib, PaintsWholeOverlayWithOpacityOfItsColor)
 {
     window.setColor(Qt::white);
     const auto guide = TQGuideView::initFromNib(Rgba{1, 0, 0}, {QStringLiteral("Text")}, nullptr);
@@ -108,12 +108,12 @@ TEST_F(GuideNib, PaintsTheWholeOverlayInItsColorAsOpaqueAsThatIs)
     guide->setBackgroundColor(Rgba{1, 0, 0, 0.2F});
     const QColor seen = window.grabWindow().pixelColor(2, 2);
     EXPECT_NEAR(seen.green(), 204, 2);
-    EXPECT_EQ(shownColor(guide->guideLabel()), (Rgba{0, 0, 0})) << "and what shines through counts for the text";
+    EXPECT_EQ(shownColor(guide->guideLabel()), (Rgba{0, 0, 0})) << "the translucent background counts as light";
 }
 
-// Room.
+// Layout.
 
-TEST_F(GuideNib, TheButtonIsALargeTargetInsideTheWindow)
+TEST_F(GuideNib, KeepsLargeButtonInsideWindow)
 {
     for (const QSize size : {QSize(320, 568), QSize(390, 844), QSize(820, 1180), QSize(1280, 800), QSize(320, 240)}) {
         const auto guide = shownIn(size, longText());
@@ -121,19 +121,19 @@ TEST_F(GuideNib, TheButtonIsALargeTargetInsideTheWindow)
         EXPECT_GE(button.width(), 44);
         EXPECT_GE(button.height(), 44);
         EXPECT_TRUE(QRectF(QPointF(), QSizeF(size)).contains(button)) << size.width();
-        EXPECT_LE(sceneRect(scroller(*guide)).bottom(), button.top()) << "the text does not run under it";
+        EXPECT_LE(sceneRect(scroller(*guide)).bottom(), button.top()) << "the text stays above the button";
         guide->setParentItem(nullptr);
     }
 }
 
-TEST_F(GuideNib, AParagraphThatFitsDoesNotScrollAndStandsInTheMiddle)
+TEST_F(GuideNib, CentersParagraphThatFits)
 {
     const auto guide = shownIn({390, 844}, QStringLiteral("Short."));
     EXPECT_FALSE(scroller(*guide)->property("interactive").toBool());
     EXPECT_NEAR(sceneRect(guide->guideLabel()).center().y(), sceneRect(scroller(*guide)).center().y(), 1);
 }
 
-TEST_F(GuideNib, AParagraphThatDoesNotFitScrollsByFingerWheelAndKeys)
+TEST_F(GuideNib, ScrollsLongParagraphByTouchWheelAndKeys)
 {
     const auto guide = shownIn({320, 480}, longText());
     QQuickItem *const page = scroller(*guide);
@@ -143,7 +143,7 @@ TEST_F(GuideNib, AParagraphThatDoesNotFitScrollsByFingerWheelAndKeys)
     QTest::keyClick(&window, Qt::Key_End);
     const double end = page->property("contentY").toDouble();
     EXPECT_NEAR(end, page->property("contentHeight").toDouble() - page->height(), 1);
-    EXPECT_LE(sceneRect(guide->guideLabel()).bottom(), sceneRect(page).bottom()) << "the last line can be read";
+    EXPECT_LE(sceneRect(guide->guideLabel()).bottom(), sceneRect(page).bottom()) << "the last line is visible";
     QTest::keyClick(&window, Qt::Key_Home);
     EXPECT_EQ(page->property("contentY").toDouble(), 0);
     for (const Qt::Key key : {Qt::Key_Down, Qt::Key_PageDown}) {
@@ -171,7 +171,7 @@ TEST_F(GuideNib, AParagraphThatDoesNotFitScrollsByFingerWheelAndKeys)
     EXPECT_FALSE(platform->calls.contains(QStringLiteral("softImpact()")));
 }
 
-TEST_F(GuideNib, TheNextParagraphStartsAtItsTop)
+TEST_F(GuideNib, StartsNextParagraphAtTop)
 {
     const auto guide = shownIn({320, 480}, longText());
     QTest::keyClick(&window, Qt::Key_End);
@@ -180,7 +180,7 @@ TEST_F(GuideNib, TheNextParagraphStartsAtItsTop)
     EXPECT_EQ(scroller(*guide)->property("contentY").toDouble(), 0);
 }
 
-TEST_F(GuideNib, TwiceTheTextSizeIsShownTwiceAsLargeAndStillFits)
+TEST_F(GuideNib, FitsTwiceTheTextSize)
 {
     const auto guide = shownIn({320, 568}, longText());
     const double before = guide->guideLabel()->property("font").value<QFont>().pixelSize();
@@ -194,7 +194,7 @@ TEST_F(GuideNib, TwiceTheTextSizeIsShownTwiceAsLargeAndStillFits)
     EXPECT_TRUE(QRectF(0, 0, 320, 568).contains(sceneRect(large->nextButton())));
 }
 
-TEST_F(GuideNib, IsWholeInWindowsThatAreResizedAtEveryTextSize)
+TEST_F(GuideNib, KeepsLayoutWholeInResizedWindows)
 {
     const QSize sizes[] = {{320, 568}, {1280, 800}, {390, 844}, {240, 240}, {820, 1180}};
     for (const double points : {9.0, 18.0}) {
@@ -216,7 +216,7 @@ TEST_F(GuideNib, IsWholeInWindowsThatAreResizedAtEveryTextSize)
     }
 }
 
-TEST_F(GuideNib, LinesStayReadableInAWideWindow)
+TEST_F(GuideNib, LimitsLineLengthInWideWindow)
 {
     const auto guide = shownIn({2560, 1440}, longText());
     const double size = guide->guideLabel()->property("font").value<QFont>().pixelSize();
@@ -224,9 +224,9 @@ TEST_F(GuideNib, LinesStayReadableInAWideWindow)
     EXPECT_NEAR(sceneRect(guide->guideLabel()).center().x(), 1280, 1);
 }
 
-TEST_F(GuideNib, ContentStaysInThePartThatTheHostShows)
+TEST_F(GuideNib, KeepsContentInsideResizedWindow)
 {
-    // As large as the screen, in a window that is smaller and grows.
+    // A small window on a larger screen grows.
     platform->bounds = {1000, 900};
     window.resize(390, 500);
     const auto guide = shown({longText()});
@@ -241,7 +241,7 @@ TEST_F(GuideNib, ContentStaysInThePartThatTheHostShows)
     EXPECT_EQ(guide->size(), QSizeF(1000, 900));
 }
 
-TEST_F(GuideNib, ContentStaysInsideAHostThatClips)
+TEST_F(GuideNib, KeepsContentInsideClippingHost)
 {
     platform->scenes = {};
     QQuickItem host(window.contentItem());
@@ -255,11 +255,11 @@ TEST_F(GuideNib, ContentStaysInsideAHostThatClips)
     EXPECT_EQ(guide->shownArea(), QRectF(0, 0, 200, 150));
     host.setPosition({-100, 60});
     window.grabWindow();
-    EXPECT_EQ(guide->shownArea(), QRectF(100, 0, 100, 150)) << "the part that is out of the window does not count";
+    EXPECT_EQ(guide->shownArea(), QRectF(100, 0, 100, 150)) << "only the part inside the window counts";
     guide->setParentItem(nullptr);
 }
 
-TEST_F(GuideNib, InAWindowThatHasTheWholeScreenContentStaysClearOfTheSystemsBars)
+TEST_F(GuideNib, KeepsContentClearOfSystemBars)
 {
     QScreen *screen = window.screen();
     const QRect whole = screen->geometry();
@@ -279,7 +279,7 @@ TEST_F(GuideNib, InAWindowThatHasTheWholeScreenContentStaysClearOfTheSystemsBars
     EXPECT_EQ(guide->shownArea(), QRectF(QPointF(), whole.size()));
 }
 
-TEST_F(GuideNib, IsMirroredWhereTheLanguageRunsFromTheRight)
+TEST_F(GuideNib, MirrorsLayoutForRightToLeftLanguages)
 {
     useLanguage("en");
     const auto left = shownIn({390, 844}, QStringLiteral("Text"));
@@ -293,7 +293,7 @@ TEST_F(GuideNib, IsMirroredWhereTheLanguageRunsFromTheRight)
 
 // The button.
 
-TEST_F(GuideNib, TheButtonsLookDoesNotChangeWhileItIsOff)
+TEST_F(GuideNib, KeepsButtonLookWhileDisabled)
 {
     const auto guide = shownIn({390, 700}, QStringLiteral("Text"));
     const QRect place = sceneRect(guide->nextButton()).toAlignedRect();
@@ -302,7 +302,7 @@ TEST_F(GuideNib, TheButtonsLookDoesNotChangeWhileItIsOff)
     EXPECT_EQ(window.grabWindow().copy(place), on);
 }
 
-TEST_F(GuideNib, TheButtonShowsThatTheKeyboardIsUsed)
+TEST_F(GuideNib, ShowsKeyboardFocusOnButton)
 {
     const auto guide = shownIn({390, 700}, QStringLiteral("Text"));
     const auto isMarked = [&] { return guide->nextButton()->property("visualFocus").toBool(); };
@@ -311,7 +311,7 @@ TEST_F(GuideNib, TheButtonShowsThatTheKeyboardIsUsed)
     EXPECT_TRUE(isMarked());
 }
 
-TEST_F(GuideNib, HasNoOtherControlThanTheButton)
+TEST_F(GuideNib, HasOneControl)
 {
     const auto guide = made(paragraphs(3));
     const QList<QQuickItem *> items = guide->findChildren<QQuickItem *>();
@@ -320,18 +320,18 @@ TEST_F(GuideNib, HasNoOtherControlThanTheButton)
               1);
 }
 
-// Hostile paragraphs.
+// Untrusted paragraphs.
 
-TEST_F(GuideNib, MarkupIsShownAsItStands)
+TEST_F(GuideNib, ShowsMarkupAsPlainText)
 {
     const QString markup = QStringLiteral("<h1>a</h1><img src=\"http://127.0.0.1:9/x.png\"><a href=\"x\">b</a>&lt;");
     const auto guide = shownIn({390, 844}, markup);
     EXPECT_EQ(textOf(*guide), markup);
     EXPECT_EQ(guide->guideLabel()->property("textFormat").toInt(), static_cast<int>(Qt::PlainText));
-    EXPECT_GT(guide->guideLabel()->property("implicitWidth").toDouble(), 390) << "every character takes its room";
+    EXPECT_GT(guide->guideLabel()->property("implicitWidth").toDouble(), 390) << "every character has a width";
 }
 
-TEST_F(GuideNib, NulsBidiControlsAndHalfCharactersAreNotMoreThanText)
+TEST_F(GuideNib, ShowsHostileCharactersAsText)
 {
     const QString hostile = QStringLiteral("a") + QChar::Null + QChar(0x202E) + QStringLiteral("b") + QChar(0xD800)
         + QStringLiteral("c") + QChar(0x2066) + QStringLiteral("\r\n\u2028\u2029d") + QChar(0xFFFF);
@@ -340,7 +340,7 @@ TEST_F(GuideNib, NulsBidiControlsAndHalfCharactersAreNotMoreThanText)
     EXPECT_TRUE(guide->nextButton()->isEnabled());
 }
 
-TEST_F(GuideNib, AHugeParagraphIsShownAndCanBeLeft)
+TEST_F(GuideNib, ShowsAndLeavesHugeParagraph)
 {
     const QString huge = QStringLiteral("All work and no play. ").repeated((1 << 20) / 22);
     const auto guide = shownIn({390, 844}, huge);
@@ -352,7 +352,7 @@ TEST_F(GuideNib, AHugeParagraphIsShownAndCanBeLeft)
     EXPECT_EQ(textOf(*guide), QStringLiteral("Second"));
 }
 
-TEST_F(GuideNib, AnEmptyParagraphIsAPageToo)
+TEST_F(GuideNib, ShowsEmptyParagraph)
 {
     const auto guide = shownIn({390, 844}, QString());
     EXPECT_EQ(textOf(*guide), QString());
@@ -361,9 +361,9 @@ TEST_F(GuideNib, AnEmptyParagraphIsAPageToo)
     EXPECT_EQ(textOf(*guide), QStringLiteral("Second"));
 }
 
-// For assistive technology.
+// Assistive technology.
 
-TEST_F(GuideNib, EachParagraphIsAnnounced)
+TEST_F(GuideNib, AnnouncesEachParagraph)
 {
     const ScreenReader reader;
     const auto guide = shown(paragraphs(3));
@@ -371,17 +371,17 @@ TEST_F(GuideNib, EachParagraphIsAnnounced)
     clock.pass(600);
     guide->nextGuide();
     clock.pass(390);
-    EXPECT_EQ(reader.alerts(), paragraphs(1)) << "not before it shows";
+    EXPECT_EQ(reader.alerts(), paragraphs(1)) << "not before the text changes";
     clock.pass(410);
     EXPECT_EQ(reader.alerts(), paragraphs(2));
     guide->nextGuide();
     clock.pass(800);
     guide->nextGuide();
     clock.pass(600);
-    EXPECT_EQ(reader.alerts(), paragraphs(3)) << "the end is none";
+    EXPECT_EQ(reader.alerts(), paragraphs(3)) << "the end is not announced";
 }
 
-TEST_F(GuideNib, HasNamesAndRolesForAssistiveTechnology)
+TEST_F(GuideNib, HasAccessibleNamesAndRoles)
 {
     const ScreenReader reader;
     const auto guide = shown(paragraphs(2));
@@ -396,7 +396,7 @@ TEST_F(GuideNib, HasNamesAndRolesForAssistiveTechnology)
     EXPECT_TRUE(button->state().focused);
 }
 
-TEST_F(GuideNib, AssistiveTechnologyFindsTheParagraphAndTheButton)
+TEST_F(GuideNib, ExposesParagraphAndButtonInAccessibleTree)
 {
     const ScreenReader reader;
     const auto guide = shown(paragraphs(2));
@@ -405,7 +405,7 @@ TEST_F(GuideNib, AssistiveTechnologyFindsTheParagraphAndTheButton)
               "Dialog '' focused\n StaticText 'Paragraph 0' focusable read only\n Button 'Next' focusable focused");
 }
 
-TEST_F(GuideNib, AssistiveTechnologyCanPressTheButton)
+TEST_F(GuideNib, PressesButtonByAccessibleAction)
 {
     const ScreenReader reader;
     const auto guide = shown(paragraphs(2));
@@ -417,13 +417,13 @@ TEST_F(GuideNib, AssistiveTechnologyCanPressTheButton)
     press();
     EXPECT_FALSE(guide->nextButton()->isEnabled());
     press();
-    EXPECT_EQ(platform->calls.count(QStringLiteral("softImpact()")), 1) << "but not while it is off";
+    EXPECT_EQ(platform->calls.count(QStringLiteral("softImpact()")), 1) << "not while the button is disabled";
     clock.pass(800);
     press();
     EXPECT_EQ(completed, 1);
 }
 
-TEST_F(GuideNib, TheButtonsNameIsTranslated)
+TEST_F(GuideNib, TranslatesButtonName)
 {
     useLanguage("zh-CN");
     EXPECT_EQ(TQGuideView::nextButtonName(), QStringLiteral("下一步"));

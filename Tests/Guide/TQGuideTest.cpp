@@ -11,7 +11,7 @@ namespace {
 using Testing::keyScene;
 using Testing::QmlWindow;
 
-// What an app that is written in QML writes.
+// A host written in QML.
 constexpr char host[] = R"(
 Item {
     id: root
@@ -33,7 +33,7 @@ Item {
 }
 )";
 
-class GuideOfAQmlHost : public testing::Test
+class TQGuide : public testing::Test
 {
 protected:
     static TQGuideView *guideIn(const QQuickItem *item)
@@ -50,7 +50,7 @@ protected:
     std::unique_ptr<QmlWindow> app = std::make_unique<QmlWindow>(host);
 };
 
-TEST_F(GuideOfAQmlHost, AsksBuildsAndShowsIt)
+TEST_F(TQGuide, ShowsGuideFromQml)
 {
     EXPECT_EQ(app->item->property("asked"), QVariant(true));
     platform->scenes = keyScene(&app->window);
@@ -71,7 +71,7 @@ TEST_F(GuideOfAQmlHost, AsksBuildsAndShowsIt)
     EXPECT_FALSE(TQGuideView::shouldShowGuide());
 }
 
-TEST_F(GuideOfAQmlHost, TellsOfAChangeOnlyWhenItIsOne)
+TEST_F(TQGuide, EmitsChangesOnlyForNewValues)
 {
     auto *guide = app->item->property("guide").value<QObject *>();
     const QStringList descriptions{QStringLiteral("One"), QStringLiteral("Two")};
@@ -87,13 +87,13 @@ TEST_F(GuideOfAQmlHost, TellsOfAChangeOnlyWhenItIsOne)
     EXPECT_EQ(app->item->property("changes"), QVariant(2));
 }
 
-TEST_F(GuideOfAQmlHost, HandsTheFallbacksOn)
+TEST_F(TQGuide, PassesFallbacksOn)
 {
     QMetaObject::invokeMethod(app->item, "startHere");
     EXPECT_TRUE(guideIn(app->item));
 }
 
-TEST_F(GuideOfAQmlHost, IsHeldByItsHostAndNotByTheGarbageCollector)
+TEST_F(TQGuide, KeepsOverlayFromGarbageCollector)
 {
     platform->scenes = keyScene(&app->window);
     QMetaObject::invokeMethod(app->item, "start");
@@ -104,7 +104,7 @@ TEST_F(GuideOfAQmlHost, IsHeldByItsHostAndNotByTheGarbageCollector)
     EXPECT_TRUE(guide);
 }
 
-TEST_F(GuideOfAQmlHost, OutlivesTheObjectThatShowedIt)
+TEST_F(TQGuide, LeavesOverlayAfterItsOwnDestruction)
 {
     platform->scenes = keyScene(&app->window);
     QMetaObject::invokeMethod(app->item, "start");
@@ -119,7 +119,7 @@ TEST_F(GuideOfAQmlHost, OutlivesTheObjectThatShowedIt)
     EXPECT_FALSE(TQGuideView::shouldShowGuide());
 }
 
-TEST_F(GuideOfAQmlHost, GoesWithItsHostAndTheHostsEngine)
+TEST_F(TQGuide, OverlayIsDestroyedWithHostEngine)
 {
     platform->scenes = keyScene(&app->window);
     QMetaObject::invokeMethod(app->item, "start");

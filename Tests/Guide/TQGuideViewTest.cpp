@@ -1,7 +1,6 @@
 #include "DeathTest.h"
-#include "GuideHost.h"
+#include "RecordingGuideView.h"
 
-#include <QtQml/qqml.h>
 #include <QtQuick/qquickitem.h>
 
 #include <cmath>
@@ -12,118 +11,34 @@ namespace TQFoundation {
 namespace {
 
 using Testing::NibBundle;
+using Testing::RecordingGuideView;
 using Testing::trapSignal;
 
 const QString flag = QStringLiteral("KeyOfDidShowGuide");
 
-/// An overlay that writes down how it is used, and lets a test set what is protected.
-class ProbeGuideView : public TQGuideView
-{
-    Q_OBJECT
+using TQGuideViewFlag = Testing::GuideHost;
+using TQGuideViewFactory = Testing::RecordingGuideHost;
+using TQGuideViewOwnership = Testing::GuideHost;
 
-public:
-    using TQGuideView::TQGuideView;
-
-    static QStringList &log()
-    {
-        static QStringList *const calls = new QStringList;
-        return *calls;
-    }
-
-    QQuickItem *guideLabel() const override { return note("guideLabel"), TQGuideView::guideLabel(); }
-    QQuickItem *nextButton() const override { return note("nextButton"), TQGuideView::nextButton(); }
-    std::int64_t index() const override { return note("index"), TQGuideView::index(); }
-    void updateIndex(const std::function<void(std::int64_t &)> &change) override
-    {
-        note("updateIndex");
-        TQGuideView::updateIndex(change);
-    }
-    QStringList descriptions() const override { return note("descriptions"), TQGuideView::descriptions(); }
-    void setDescriptions(const QStringList &descriptions) override
-    {
-        note("setDescriptions");
-        TQGuideView::setDescriptions(descriptions);
-    }
-    std::function<void()> completeClosure() const override
-    {
-        return note("completeClosure"), TQGuideView::completeClosure();
-    }
-    void setCompleteClosure(const std::function<void()> &closure) override
-    {
-        note("setCompleteClosure");
-        TQGuideView::setCompleteClosure(closure);
-    }
-
-    using TQGuideView::setIndex;
-    using TQGuideView::updateCompleteClosure;
-    using TQGuideView::updateDescriptions;
-
-private:
-    static void note(const char *call) { log() += QLatin1String(call); }
-};
-
-QByteArray probeNib(const QByteArray &outlets = "guideLabel: label; nextButton: button")
-{
-    return "import QtQuick\nimport TQFoundationTests\nProbeGuideView { " + outlets
-        + "\nText { id: label }\nItem { id: button } }";
-}
-
-class Guide : public Testing::GuideHost
-{
-protected:
-    std::shared_ptr<ProbeGuideView> probe(const QStringList &texts, const QByteArray &nib = probeNib())
-    {
-        static const int type [[maybe_unused]] =
-            qmlRegisterType<ProbeGuideView>("TQFoundationTests", 1, 0, "ProbeGuideView");
-        const NibBundle bundle(nib);
-        platform->root = bundle.root();
-        const auto guide = std::dynamic_pointer_cast<ProbeGuideView>(made(texts));
-        EXPECT_TRUE(guide);
-        return guide;
-    }
-
-    std::shared_ptr<ProbeGuideView> shownProbe(const QStringList &texts)
-    {
-        const auto guide = probe(texts);
-        guide->showGuide();
-        return guide;
-    }
-};
-
-// The height at which the curve with the control points (0.42, 0) and (0.58, 1) passes the given share of its width.
-double easeInOut(double progress)
-{
-    double low = 0;
-    double high = 1;
-    for (int halving = 0; halving < 60; ++halving) {
-        const double t = (low + high) / 2;
-        const double x = 3 * (1 - t) * (1 - t) * t * 0.42 + 3 * (1 - t) * t * t * 0.58 + t * t * t;
-        (x < progress ? low : high) = t;
-    }
-    return 3 * (1 - low) * low * low + low * low * low;
-}
-
-// Whether it is shown: what is stored.
-
-TEST_F(Guide, ShowsWhereNothingIsStored)
+TEST_F(TQGuideViewFlag, ShowsGuideIfNothingIsStored)
 {
     EXPECT_TRUE(TQGuideView::shouldShowGuide());
-    EXPECT_EQ(platform->calls, QStringList(QStringLiteral("userDefault(KeyOfDidShowGuide)"))) << "and writes nothing";
+    EXPECT_EQ(platform->calls, QStringList(QStringLiteral("userDefault(KeyOfDidShowGuide)"))) << "writes nothing";
 }
 
-TEST_F(Guide, ShowsWhereFalseIsStored)
+TEST_F(TQGuideViewFlag, ShowsGuideIfFalseIsStored)
 {
     platform->defaults[flag] = false;
     EXPECT_TRUE(TQGuideView::shouldShowGuide());
 }
 
-TEST_F(Guide, DoesNotShowWhereTrueIsStored)
+TEST_F(TQGuideViewFlag, HidesGuideIfTrueIsStored)
 {
     platform->defaults[flag] = true;
     EXPECT_FALSE(TQGuideView::shouldShowGuide());
 }
 
-TEST_F(Guide, ShowsWhereAStringIsStored)
+TEST_F(TQGuideViewFlag, ShowsGuideIfAStringIsStored)
 {
     for (const char *text : {"true", "1", "YES", ""}) {
         platform->defaults[flag] = QLatin1String(text);
@@ -131,7 +46,7 @@ TEST_F(Guide, ShowsWhereAStringIsStored)
     }
 }
 
-TEST_F(Guide, OfNumbersOnlyOneCountsAsTrue)
+TEST_F(TQGuideViewFlag, CountsOnlyTheNumberOneAsTrue)
 {
     for (const QVariant &one :
          {QVariant(1), QVariant(1U), QVariant(1LL), QVariant(1ULL), QVariant(1.0), QVariant(1.0F)}) {
@@ -145,7 +60,7 @@ TEST_F(Guide, OfNumbersOnlyOneCountsAsTrue)
     }
 }
 
-TEST_F(Guide, ShowsWhereAnythingElseIsStored)
+TEST_F(TQGuideViewFlag, ShowsGuideIfAnotherTypeIsStored)
 {
     for (const QVariant &other : {QVariant(QByteArray("true")), QVariant(QVariantList{true}),
                                   QVariant(QStringList{QStringLiteral("true")}), QVariant(QChar(u'1'))}) {
@@ -154,13 +69,11 @@ TEST_F(Guide, ShowsWhereAnythingElseIsStored)
     }
 }
 
-// The factory.
-
-TEST_F(Guide, TheFactoryTakesItsStepsInOrder)
+TEST_F(TQGuideViewFactory, TakesItsStepsInOrder)
 {
-    ProbeGuideView::log().clear();
-    const auto guide = probe(paragraphs(2));
-    EXPECT_EQ(ProbeGuideView::log(),
+    RecordingGuideView::log().clear();
+    const auto guide = recording(paragraphs(2));
+    EXPECT_EQ(RecordingGuideView::log(),
               (QStringList{QStringLiteral("setDescriptions"), QStringLiteral("setCompleteClosure")}));
     EXPECT_EQ(platform->calls, (QStringList{QStringLiteral("screenBounds()"), QStringLiteral("screenBounds()")}))
         << "width and height are read separately";
@@ -168,11 +81,11 @@ TEST_F(Guide, TheFactoryTakesItsStepsInOrder)
     EXPECT_EQ(guide->index(), 0);
     EXPECT_EQ(guide->opacity(), 1);
     EXPECT_EQ(guide->parentItem(), nullptr);
-    EXPECT_EQ(textOf(*guide), QString()) << "the label is not touched";
+    EXPECT_EQ(textOf(*guide), QString()) << "the label does not change";
     EXPECT_TRUE(guide->nextButton()->isEnabled());
 }
 
-TEST_F(Guide, TheFrameIsTheScreensAtTheTimeOfTheFactoryCall)
+TEST_F(TQGuideViewFactory, SetsCurrentScreenSizeOnce)
 {
     platform->bounds = {1234.5, 777};
     const auto guide = made(paragraphs(1));
@@ -183,17 +96,17 @@ TEST_F(Guide, TheFrameIsTheScreensAtTheTimeOfTheFactoryCall)
     window.resize(500, 300);
     clock.pass(100);
     EXPECT_EQ(guide->position(), QPointF(0, 0));
-    EXPECT_EQ(guide->size(), QSizeF(1234.5, 777)) << "nothing resizes it later";
+    EXPECT_EQ(guide->size(), QSizeF(1234.5, 777)) << "the size does not change later";
 }
 
-TEST_F(Guide, EachFactoryCallLoadsTheNibOfTheLibrarysBundleAnew)
+TEST_F(TQGuideViewFactory, LoadsNibAtEachCall)
 {
-    const auto guide = probe(paragraphs(1));
+    const auto guide = recording(paragraphs(1));
     platform->root = QStringLiteral(":/qt-project.org/imports/TQFoundation");
-    EXPECT_FALSE(std::dynamic_pointer_cast<ProbeGuideView>(made(paragraphs(1))));
+    EXPECT_FALSE(std::dynamic_pointer_cast<RecordingGuideView>(made(paragraphs(1))));
 }
 
-TEST_F(Guide, TheNibsObjectIsAnOverlayWithItsOutletsAndActionInTheMetaObject)
+TEST_F(TQGuideViewFactory, ExposesOutletsAndActionInMetaObject)
 {
     const auto guide = made(paragraphs(1));
     for (const char *outlet : {"guideLabel", "nextButton"}) {
@@ -207,18 +120,18 @@ TEST_F(Guide, TheNibsObjectIsAnOverlayWithItsOutletsAndActionInTheMetaObject)
     EXPECT_TRUE(guide->nextButton()->isEnabled());
 }
 
-TEST_F(Guide, OutletsAreWeak)
+TEST_F(TQGuideViewFactory, KeepsOutletsWeak)
 {
-    const auto guide = probe(paragraphs(1));
+    const auto guide = recording(paragraphs(1));
     delete guide->guideLabel();
     delete guide->nextButton();
     EXPECT_EQ(guide->guideLabel(), nullptr);
     EXPECT_EQ(guide->nextButton(), nullptr);
 }
 
-TEST_F(Guide, PropertiesCanBeChangedInPlace)
+TEST_F(TQGuideViewFactory, ChangesPropertiesInPlace)
 {
-    const auto guide = probe(paragraphs(1));
+    const auto guide = recording(paragraphs(1));
     guide->updateIndex([](std::int64_t &index) { index += 5; });
     EXPECT_EQ(guide->index(), 5);
     guide->updateDescriptions([](QStringList &texts) { texts += QStringLiteral("More"); });
@@ -231,7 +144,7 @@ TEST_F(Guide, PropertiesCanBeChangedInPlace)
     EXPECT_EQ(guide->nextButton(), nullptr);
 }
 
-TEST_F(Guide, ANibThatIsMissingOrBrokenOrOfAnotherClassStopsTheProcess)
+TEST_F(TQGuideViewFactory, StopsProcessIfNibIsUnusable)
 {
     platform->root = QStringLiteral(":/NoSuchBundle");
     EXPECT_EXIT(made(paragraphs(1)), testing::KilledBySignal(trapSignal), "");
@@ -243,400 +156,7 @@ TEST_F(Guide, ANibThatIsMissingOrBrokenOrOfAnotherClassStopsTheProcess)
     }
 }
 
-// The steps.
-
-TEST_F(Guide, OfOneParagraphEndsOnTheFirstTap)
-{
-    const auto guide = shown(paragraphs(1));
-    clock.pass(600);
-    click(guide->nextButton());
-    EXPECT_EQ(platform->defaults.value(flag), QVariant(true));
-    EXPECT_EQ(completed, 1);
-    EXPECT_EQ(guide->opacity(), 1);
-    clock.pass(590);
-    EXPECT_TRUE(guide->parentItem());
-    EXPECT_EQ(textOf(*guide), QStringLiteral("Paragraph 0"));
-    clock.pass(10);
-    EXPECT_EQ(guide->opacity(), 0);
-    EXPECT_EQ(guide->parentItem(), nullptr);
-    EXPECT_EQ(textOf(*guide), QStringLiteral("Paragraph 0")) << "the text never changes";
-    EXPECT_FALSE(guide->nextButton()->isEnabled()) << "the button is never enabled again";
-}
-
-TEST_F(Guide, OfThreeParagraphsChangesTheTextTwiceAndThenEnds)
-{
-    const auto guide = shown(paragraphs(3));
-    clock.pass(600);
-    for (int tap = 1; tap <= 2; ++tap) {
-        const QString before = QStringLiteral("Paragraph %1").arg(tap - 1);
-        const QString after = QStringLiteral("Paragraph %1").arg(tap);
-        EXPECT_EQ(textOf(*guide), before);
-        EXPECT_TRUE(guide->nextButton()->isEnabled());
-        click(guide->nextButton());
-        EXPECT_FALSE(guide->nextButton()->isEnabled());
-        clock.pass(390);
-        EXPECT_EQ(textOf(*guide), before);
-        clock.pass(10);
-        EXPECT_EQ(textOf(*guide), after);
-        clock.pass(390);
-        EXPECT_FALSE(guide->nextButton()->isEnabled());
-        clock.pass(10);
-        EXPECT_TRUE(guide->nextButton()->isEnabled());
-        EXPECT_TRUE(TQGuideView::shouldShowGuide());
-        EXPECT_EQ(completed, 0);
-    }
-    click(guide->nextButton());
-    EXPECT_EQ(completed, 1);
-    EXPECT_EQ(textOf(*guide), QStringLiteral("Paragraph 2"));
-    clock.pass(600);
-    EXPECT_EQ(guide->parentItem(), nullptr);
-}
-
-TEST_F(Guide, TheIndexCountsUpRightAfterATapBeforeTheNewTextShows)
-{
-    const auto guide = probe(paragraphs(3));
-    guide->showGuide();
-    guide->nextGuide();
-    EXPECT_EQ(guide->index(), 1);
-    EXPECT_EQ(textOf(*guide), QStringLiteral("Paragraph 0"));
-    clock.pass(800);
-    guide->nextGuide();
-    EXPECT_EQ(guide->index(), 2);
-    EXPECT_EQ(textOf(*guide), QStringLiteral("Paragraph 1"));
-}
-
-TEST_F(Guide, FadesByTheEaseInOutCurve)
-{
-    EXPECT_NEAR(easeInOut(0.5), 0.5, 1e-9);
-    const auto guide = shown(paragraphs(2));
-    QList<double> fadeIn{guide->opacity()};
-    for (int moment = 0; moment < 4; ++moment) {
-        clock.pass(200);
-        fadeIn += guide->opacity();
-    }
-    const QList<double> expected{0, easeInOut(1.0 / 3), easeInOut(2.0 / 3), 1, 1};
-    for (int moment = 0; moment < 5; ++moment)
-        EXPECT_NEAR(fadeIn[moment], expected[moment], 1e-3) << moment;
-
-    guide->nextGuide();
-    QList<double> change{guide->guideLabel()->opacity()};
-    for (int moment = 0; moment < 4; ++moment) {
-        clock.pass(200);
-        change += guide->guideLabel()->opacity();
-    }
-    const QList<double> expectedChange{1, 0.5, 0, 0.5, 1};
-    for (int moment = 0; moment < 5; ++moment)
-        EXPECT_NEAR(change[moment], expectedChange[moment], 1e-3) << moment;
-    EXPECT_EQ(guide->opacity(), 1) << "only the label changes";
-
-    guide->nextGuide();
-    QList<double> fadeOut{guide->opacity()};
-    for (int moment = 0; moment < 4; ++moment) {
-        clock.pass(200);
-        fadeOut += guide->opacity();
-    }
-    const QList<double> expectedOut{1, easeInOut(2.0 / 3), easeInOut(1.0 / 3), 0, 0};
-    for (int moment = 0; moment < 5; ++moment)
-        EXPECT_NEAR(fadeOut[moment], expectedOut[moment], 1e-3) << moment;
-}
-
-TEST_F(Guide, AStepTowardsTheNextParagraphTakesItsOrder)
-{
-    const auto guide = probe(paragraphs(2));
-    guide->showGuide();
-    clock.pass(600);
-    platform->calls.clear();
-    QObject::connect(guide->nextButton(), &QQuickItem::enabledChanged, guide.get(), [&] {
-        platform->calls += guide->TQGuideView::nextButton()->isEnabled() ? QStringLiteral("on") : QStringLiteral("off");
-    });
-    QObject::connect(guide->guideLabel(), SIGNAL(textChanged(QString)), guide.get(), SIGNAL(backgroundColorChanged()));
-    QObject::connect(guide.get(), &TQGuideView::backgroundColorChanged, guide.get(),
-                     [&] { platform->calls += QStringLiteral("text"); });
-    QObject::connect(guide->guideLabel(), &QQuickItem::opacityChanged, guide.get(), [&] {
-        const double opacity = guide->TQGuideView::guideLabel()->opacity();
-        if (opacity == 0 || opacity == 1)
-            platform->calls += QStringLiteral("label %1").arg(opacity);
-    });
-    ProbeGuideView::log().clear();
-    guide->nextGuide();
-    EXPECT_EQ(ProbeGuideView::log().mid(0, 5),
-              (QStringList{QStringLiteral("nextButton"), QStringLiteral("updateIndex"), QStringLiteral("index"),
-                           QStringLiteral("descriptions"), QStringLiteral("guideLabel")}));
-    clock.pass(800);
-    EXPECT_EQ(platform->calls,
-              (QStringList{QStringLiteral("softImpact()"), QStringLiteral("off"), QStringLiteral("label 0"),
-                           QStringLiteral("text"), QStringLiteral("label 1"), QStringLiteral("on")}));
-}
-
-TEST_F(Guide, TheLastStepTakesItsOrder)
-{
-    const auto guide = probe(paragraphs(1));
-    guide->showGuide();
-    clock.pass(600);
-    platform->calls.clear();
-    QObject::connect(guide->nextButton(), &QQuickItem::enabledChanged, guide.get(),
-                     [&] { platform->calls += QStringLiteral("off"); });
-    QObject::connect(guide.get(), &QQuickItem::opacityChanged, guide.get(), [&] {
-        if (!platform->calls.contains(QStringLiteral("fades")))
-            platform->calls += QStringLiteral("fades");
-    });
-    QObject::connect(guide.get(), &QQuickItem::parentChanged, guide.get(),
-                     [&] { platform->calls += QStringLiteral("removed"); });
-    guide->nextGuide();
-    clock.pass(600);
-    EXPECT_EQ(platform->calls,
-              (QStringList{QStringLiteral("softImpact()"), QStringLiteral("off"),
-                           QStringLiteral("setUserDefault(KeyOfDidShowGuide, true)"), QStringLiteral("completeClosure"),
-                           QStringLiteral("fades"), QStringLiteral("removed")}));
-}
-
-TEST_F(Guide, TheFlagIsAlreadyStoredWhileTheOverlayFadesOut)
-{
-    const auto guide = shown(paragraphs(1));
-    clock.pass(600);
-    guide->nextGuide();
-    clock.pass(300);
-    EXPECT_TRUE(guide->parentItem());
-    EXPECT_FALSE(TQGuideView::shouldShowGuide());
-}
-
-TEST_F(Guide, TheClosureRunsBeforeTheOverlayStartsToFade)
-{
-    TQGuideView *fading = nullptr;
-    double opacity = 0;
-    bool stored = false;
-    const auto guide = TQGuideView::initFromNib(Color::label(), paragraphs(1), [&] {
-        opacity = fading->opacity();
-        stored = !TQGuideView::shouldShowGuide();
-    });
-    fading = guide.get();
-    guide->showGuide();
-    clock.pass(600);
-    guide->nextGuide();
-    EXPECT_EQ(opacity, 1);
-    EXPECT_TRUE(stored);
-}
-
-TEST_F(Guide, AMissingClosureIsSkipped)
-{
-    const auto guide = TQGuideView::initFromNib(Color::label(), paragraphs(1), nullptr);
-    guide->showGuide();
-    guide->nextGuide();
-    clock.pass(600);
-    EXPECT_EQ(guide->parentItem(), nullptr);
-    EXPECT_FALSE(TQGuideView::shouldShowGuide());
-}
-
-TEST_F(Guide, TheClosureIsKeptAfterItHasRun)
-{
-    const auto guide = probe(paragraphs(1));
-    guide->showGuide();
-    guide->nextGuide();
-    EXPECT_TRUE(guide->completeClosure());
-}
-
-TEST_F(Guide, ACallFromCodeWithAnySenderIsATap)
-{
-    for (const QVariant &sender : {QVariant(), QVariant(7), QVariant(QStringLiteral("text"))}) {
-        const auto guide = shown(paragraphs(2));
-        platform->calls.clear();
-        guide->nextGuide(sender);
-        EXPECT_EQ(platform->calls, QStringList(QStringLiteral("softImpact()")));
-        EXPECT_FALSE(guide->nextButton()->isEnabled());
-        clock.pass(800);
-        EXPECT_EQ(textOf(*guide), QStringLiteral("Paragraph 1"));
-        EXPECT_TRUE(guide->nextButton()->isEnabled());
-        guide->setParentItem(nullptr);
-    }
-    const auto guide = shown(paragraphs(2));
-    ASSERT_TRUE(QMetaObject::invokeMethod(guide.get(), "nextGuide", Q_ARG(QVariant, QVariant::fromValue(&window))));
-    clock.pass(800);
-    EXPECT_EQ(textOf(*guide), QStringLiteral("Paragraph 1"));
-}
-
-TEST_F(Guide, EachTapGivesOneSoftImpactAndOnePulse)
-{
-    const auto guide = shown(paragraphs(3));
-    int pulses = 0;
-    QObject::connect(guide.get(), &TQGuideView::impactOccurred, guide.get(), [&] { ++pulses; });
-    double smallest = 1;
-    QObject::connect(guide->nextButton(), &QQuickItem::scaleChanged, guide.get(),
-                     [&] { smallest = std::min(smallest, guide->nextButton()->scale()); });
-    for (int tap = 1; tap <= 3; ++tap) {
-        guide->nextGuide();
-        EXPECT_EQ(platform->calls.count(QStringLiteral("softImpact()")), tap);
-        EXPECT_EQ(pulses, tap);
-        clock.pass(400);
-        EXPECT_NEAR(smallest, 0.9, 0.02);
-        EXPECT_EQ(guide->nextButton()->scale(), 1) << "and the button is itself again";
-        smallest = 1;
-        clock.pass(400);
-    }
-}
-
-TEST_F(Guide, TheButtonAloneTakesTaps)
-{
-    const auto guide = shown(paragraphs(2));
-    clock.pass(600);
-    QTest::mouseClick(&window, Qt::LeftButton, {}, {5, 5});
-    click(guide->guideLabel());
-    EXPECT_FALSE(platform->calls.contains(QStringLiteral("softImpact()")));
-}
-
-TEST_F(Guide, TapsAreIgnoredWhileTheTextChangesAndWhileItFadesOut)
-{
-    const auto guide = shown(paragraphs(2));
-    clock.pass(600);
-    for (int tap = 0; tap < 4; ++tap) {
-        click(guide->nextButton());
-        QTest::keyClick(&window, Qt::Key_Return);
-        clock.pass(100);
-    }
-    EXPECT_EQ(platform->calls.count(QStringLiteral("softImpact()")), 1);
-    clock.pass(400);
-    click(guide->nextButton());
-    clock.pass(100);
-    click(guide->nextButton());
-    EXPECT_EQ(platform->calls.count(QStringLiteral("softImpact()")), 2);
-    EXPECT_EQ(completed, 1);
-}
-
-TEST_F(Guide, ATapDuringTheFadeInAdvancesAtOnce)
-{
-    const auto guide = shown(paragraphs(2));
-    clock.pass(300);
-    EXPECT_NEAR(guide->opacity(), 0.5, 1e-3);
-    click(guide->nextButton());
-    EXPECT_FALSE(guide->nextButton()->isEnabled());
-    clock.pass(300);
-    EXPECT_EQ(guide->opacity(), 1) << "the fade-in goes on";
-    clock.pass(500);
-    EXPECT_EQ(textOf(*guide), QStringLiteral("Paragraph 1"));
-}
-
-TEST_F(Guide, AGuideThatEndsDuringTheFadeInFadesOutFromWhereItStands)
-{
-    const auto guide = shown(paragraphs(1));
-    clock.pass(300);
-    guide->nextGuide();
-    double highest = 0;
-    QObject::connect(guide.get(), &QQuickItem::opacityChanged, guide.get(),
-                     [&] { highest = std::max(highest, guide->opacity()); });
-    clock.pass(590);
-    EXPECT_LE(highest, 0.5) << "the fade-in has lost the overlay";
-    EXPECT_TRUE(guide->parentItem());
-    clock.pass(10);
-    EXPECT_EQ(guide->parentItem(), nullptr);
-}
-
-TEST_F(Guide, ATapPastTheEndFromCodeStopsTheProcess)
-{
-    EXPECT_EXIT(
-        {
-            const auto guide = shown(paragraphs(1));
-            guide->nextGuide();
-            clock.pass(600);
-            guide->nextGuide();
-            clock.pass(390);
-            std::fprintf(stderr, "still there");
-            clock.pass(10);
-        },
-        testing::KilledBySignal(trapSignal), "still there");
-}
-
-TEST_F(Guide, CallsThatPushTheIndexPastTheEndDuringAChangeStopTheProcess)
-{
-    EXPECT_EXIT(
-        {
-            const auto guide = shown(paragraphs(2));
-            clock.pass(600);
-            guide->nextGuide();
-            guide->nextGuide();
-            std::fprintf(stderr, "still there");
-            clock.pass(400);
-        },
-        testing::KilledBySignal(trapSignal), "still there");
-}
-
-TEST_F(Guide, TwoCallsDuringOneChangeShowTheParagraphAsItThenStands)
-{
-    const auto guide = shown(paragraphs(4));
-    clock.pass(600);
-    guide->nextGuide();
-    clock.pass(200);
-    guide->nextGuide();
-    clock.pass(200);
-    EXPECT_EQ(textOf(*guide), QStringLiteral("Paragraph 2")) << "the first completion comes at its time";
-    clock.pass(400);
-    EXPECT_TRUE(guide->nextButton()->isEnabled());
-    clock.pass(200);
-    EXPECT_EQ(guide->guideLabel()->opacity(), 1);
-}
-
-TEST_F(Guide, AnIndexThatOverflowsStopsTheProcess)
-{
-    const auto guide = probe(paragraphs(1));
-    guide->setIndex(std::numeric_limits<std::int64_t>::max());
-    EXPECT_EXIT(guide->nextGuide(), testing::KilledBySignal(trapSignal), "");
-}
-
-TEST_F(Guide, AnIndexBelowTheParagraphsStopsTheProcess)
-{
-    const auto guide = probe(paragraphs(1));
-    guide->setIndex(-1);
-    EXPECT_EXIT(guide->showGuide(), testing::KilledBySignal(trapSignal), "");
-}
-
-TEST_F(Guide, AnOutletThatWasNeverConnectedStopsTheProcess)
-{
-    const auto withoutButton = probe(paragraphs(2), probeNib("guideLabel: label"));
-    withoutButton->showGuide();
-    EXPECT_EXIT(withoutButton->nextGuide(), testing::KilledBySignal(trapSignal), "");
-    const auto withoutLabel = probe(paragraphs(2), probeNib("nextButton: button"));
-    EXPECT_EXIT(withoutLabel->nextGuide(), testing::KilledBySignal(trapSignal), "");
-    EXPECT_EXIT(withoutLabel->showGuide(), testing::KilledBySignal(trapSignal), "");
-}
-
-TEST_F(Guide, ALabelThatGoesDuringItsFadeOutStopsTheProcess)
-{
-    const auto guide = shownProbe(paragraphs(2));
-    guide->nextGuide();
-    clock.pass(200);
-    delete guide->guideLabel();
-    EXPECT_EXIT(clock.pass(200), testing::KilledBySignal(trapSignal), "");
-}
-
-TEST_F(Guide, ALabelThatGoesDuringItsFadeInIsNotMissed)
-{
-    const auto guide = shownProbe(paragraphs(2));
-    guide->nextGuide();
-    clock.pass(600);
-    delete guide->guideLabel();
-    clock.pass(200);
-    EXPECT_TRUE(guide->nextButton()->isEnabled());
-}
-
-TEST_F(Guide, AButtonThatGoesDuringAChangeStopsTheProcess)
-{
-    const auto guide = shownProbe(paragraphs(2));
-    guide->nextGuide();
-    clock.pass(600);
-    delete guide->nextButton();
-    EXPECT_EXIT(clock.pass(200), testing::KilledBySignal(trapSignal), "");
-}
-
-TEST_F(Guide, TheLastTapNeedsNoLabel)
-{
-    const auto guide = shownProbe(paragraphs(1));
-    delete guide->guideLabel();
-    guide->nextGuide();
-    clock.pass(600);
-    EXPECT_EQ(guide->parentItem(), nullptr);
-}
-
-// Ownership.
-
-TEST_F(Guide, TheHostHoldsTheOverlayAndLetsItGoWhenItEnds)
+TEST_F(TQGuideViewOwnership, HostKeepsOverlayUntilGuideEnds)
 {
     std::weak_ptr<TQGuideView> guide = shown(paragraphs(1));
     clock.pass(700);
@@ -648,7 +168,7 @@ TEST_F(Guide, TheHostHoldsTheOverlayAndLetsItGoWhenItEnds)
     EXPECT_TRUE(guide.expired());
 }
 
-TEST_F(Guide, AnOverlayWithoutAHostLivesUntilItsAnimationHasEnded)
+TEST_F(TQGuideViewOwnership, AnimationKeepsOverlayWithoutHost)
 {
     platform->scenes = {};
     std::weak_ptr<TQGuideView> guide = shown(paragraphs(1));
@@ -658,7 +178,7 @@ TEST_F(Guide, AnOverlayWithoutAHostLivesUntilItsAnimationHasEnded)
     EXPECT_TRUE(guide.expired());
 }
 
-TEST_F(Guide, AnimationsHoldTheOverlayWhenItsHostGoes)
+TEST_F(TQGuideViewOwnership, AnimationsKeepOverlayAfterHostIsDestroyed)
 {
     auto host = std::make_unique<QQuickWindow>();
     platform->scenes = Testing::keyScene(host.get());
@@ -675,7 +195,7 @@ TEST_F(Guide, AnimationsHoldTheOverlayWhenItsHostGoes)
     EXPECT_TRUE(guide.expired());
 }
 
-TEST_F(Guide, AClosureMayDestroyTheHost)
+TEST_F(TQGuideViewOwnership, ClosureMayDestroyHost)
 {
     auto host = std::make_unique<QQuickWindow>();
     platform->scenes = Testing::keyScene(host.get());
@@ -691,7 +211,7 @@ TEST_F(Guide, AClosureMayDestroyTheHost)
     EXPECT_TRUE(observed.expired());
 }
 
-TEST_F(Guide, IsDestroyedInItsTurnWhenItsOwnButtonEndsIt)
+TEST_F(TQGuideViewOwnership, DefersDeletionDuringButtonHandler)
 {
     TQGuideView *raw = nullptr;
     {
@@ -709,7 +229,7 @@ TEST_F(Guide, IsDestroyedInItsTurnWhenItsOwnButtonEndsIt)
     EXPECT_TRUE(guide.isNull());
 }
 
-TEST_F(Guide, SurvivesTheWindowWhoseAppStillHoldsIt)
+TEST_F(TQGuideViewOwnership, SurvivesItsWindow)
 {
     auto host = std::make_unique<QQuickWindow>();
     platform->scenes = Testing::keyScene(host.get());
@@ -723,7 +243,7 @@ TEST_F(Guide, SurvivesTheWindowWhoseAppStillHoldsIt)
     EXPECT_EQ(completed, 1);
 }
 
-TEST_F(Guide, AnOverlayThatNobodyAdoptedMayGoAtAnyMoment)
+TEST_F(TQGuideViewOwnership, MayBeDestroyedWithoutSharedOwner)
 {
     auto guide = std::make_unique<TQGuideView>();
     QQuickItem label;
@@ -735,5 +255,3 @@ TEST_F(Guide, AnOverlayThatNobodyAdoptedMayGoAtAnyMoment)
 
 } // namespace
 } // namespace TQFoundation
-
-#include "TQGuideViewTest.moc"

@@ -1,12 +1,7 @@
-#include "Scenes.h"
-
 #include <TQFoundation/Color.h>
-#include <TQFoundation/Platform.h>
 #include <TQFoundation/TQApp.h>
 
 #include <QtCore/qdebug.h>
-#include <QtCore/qmetaobject.h>
-#include <QtCore/qregularexpression.h>
 
 #include <gtest/gtest.h>
 
@@ -46,33 +41,6 @@ TEST(Values, WritingOneLeavesTheStreamAsItWas)
 TEST(Values, AForcedAppIsWrittenAndStopsNothing)
 {
     EXPECT_TRUE(written(TQApp(static_cast<TQApp::Case>(99))).startsWith(QStringLiteral("TQApp(")));
-}
-
-TEST(Values, AScenesStateHasItsName)
-{
-    EXPECT_STREQ(QMetaEnum::fromType<ActivationState>().valueToKey(static_cast<int>(ActivationState::background)),
-                 "background");
-}
-
-TEST(Values, AScenesWindowsAreWritten)
-{
-    QWindow window;
-    const Scene scene = Testing::scene(ActivationState::foregroundActive, {&window}, &window);
-    static const QRegularExpression expected(QStringLiteral(
-        R"(\AScene\(.*foregroundActive, isWindowScene, .*SceneWindow\(QWindow\(0x[0-9a-f]+\), isKey\).*\)\z)"));
-    EXPECT_TRUE(expected.match(written(scene)).hasMatch()) << written(scene).toStdString();
-    EXPECT_EQ(written(SceneWindow{}), QStringLiteral("SceneWindow(QWindow(0x0))"));
-}
-
-TEST(Values, ScenesAreEqualWhenEverythingInThemIs)
-{
-    QWindow window;
-    QWindow other;
-    const Scene scene = Testing::scene(ActivationState::foregroundActive, {&window}, &window);
-    EXPECT_EQ(scene, Testing::scene(ActivationState::foregroundActive, {&window}, &window));
-    EXPECT_NE(scene, Testing::scene(ActivationState::background, {&window}, &window));
-    EXPECT_NE(scene, Testing::scene(ActivationState::foregroundActive, {&window}));
-    EXPECT_NE(scene, Testing::scene(ActivationState::foregroundActive, {&other}, &other));
 }
 
 } // namespace

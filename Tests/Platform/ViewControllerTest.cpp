@@ -17,7 +17,7 @@ Controller controller(QQuickItem *view = nullptr)
     return std::make_shared<ViewController>(view);
 }
 
-TEST(ViewController, EachWindowHasOneRootWhoseViewIsItsContent)
+TEST(ViewController, GivesEachWindowOneRoot)
 {
     QQuickWindow one;
     QQuickWindow other;
@@ -28,14 +28,14 @@ TEST(ViewController, EachWindowHasOneRootWhoseViewIsItsContent)
     EXPECT_NE(ViewController::rootOf(&other), root);
 }
 
-TEST(ViewController, AWindowThatIsNotOfQtQuickHasNoRoot)
+TEST(ViewController, GivesOtherWindowsNoRoot)
 {
     QWindow window;
     EXPECT_EQ(ViewController::rootOf(&window), nullptr);
     EXPECT_EQ(ViewController::rootOf(nullptr), nullptr);
 }
 
-TEST(ViewController, AHostMaySetItsOwnRoot)
+TEST(ViewController, UsesRootOfHost)
 {
     QQuickWindow window;
     const Controller own = controller();
@@ -46,7 +46,7 @@ TEST(ViewController, AHostMaySetItsOwnRoot)
     ViewController::setRoot(nullptr, own);
 }
 
-TEST(ViewController, AWindowTakesItsRootAndWhatThatPresentsAlong)
+TEST(ViewController, IsReleasedWithItsWindow)
 {
     std::weak_ptr<ViewController> root;
     std::weak_ptr<ViewController> presented;
@@ -61,7 +61,7 @@ TEST(ViewController, AWindowTakesItsRootAndWhatThatPresentsAlong)
     EXPECT_TRUE(presented.expired());
 }
 
-TEST(ViewController, PresentingShowsTheViewOverEverythingAndDismissingTakesItAway)
+TEST(ViewController, ShowsViewOnTopUntilDismissed)
 {
     Testing::QmlWindow host("Item { Rectangle { z: 5 } }");
     QQuickItem view;
@@ -78,7 +78,7 @@ TEST(ViewController, PresentingShowsTheViewOverEverythingAndDismissingTakesItAwa
     EXPECT_EQ(view.parentItem(), nullptr);
 }
 
-TEST(ViewController, AControllerWithoutAViewPassesTheWindowOn)
+TEST(ViewController, PresentsInWindowOfNearestViewBelow)
 {
     QQuickWindow window;
     QQuickItem view;
@@ -89,7 +89,7 @@ TEST(ViewController, AControllerWithoutAViewPassesTheWindowOn)
     EXPECT_EQ(view.window(), &window);
 }
 
-TEST(ViewController, DismissingTakesAwayAllThatLiesOnTop)
+TEST(ViewController, DismissesAllControllersAbove)
 {
     QQuickWindow window;
     QQuickItem views[3];
@@ -106,12 +106,12 @@ TEST(ViewController, DismissingTakesAwayAllThatLiesOnTop)
     EXPECT_EQ(second->presentedViewController(), nullptr);
     for (const QQuickItem &view : views)
         EXPECT_EQ(view.parentItem(), nullptr);
-    // And each can be presented anew.
+    // Each of them can be presented again.
     third->present(first);
     EXPECT_EQ(third->presentedViewController(), first);
 }
 
-TEST(ViewController, RefusesWhatCannotBePresented)
+TEST(ViewController, RefusesUnpresentableControllers)
 {
     const Controller root = controller();
     const Controller first = controller();
@@ -129,7 +129,7 @@ TEST(ViewController, RefusesWhatCannotBePresented)
     EXPECT_EQ(first->presentedViewController(), nullptr) << "the chain has no cycle";
 }
 
-TEST(ViewController, OutlivesItsViewAndItsPresenter)
+TEST(ViewController, OutlivesItsViewAndPresenter)
 {
     auto view = std::make_unique<QQuickItem>();
     const Controller next = controller(view.get());

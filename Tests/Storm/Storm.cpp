@@ -218,7 +218,7 @@ void World::makeGuide(int paragraphs)
         expect(platform->defaults.value(flag).toBool(), "the flag is stored before the app is told");
     });
     guide->view = guide->held.get();
-    QObject::connect(guide->held.get(), &TQGuideView::impactOccurred, guide->held.get(), [this, guide] {
+    QObject::connect(guide->held.get(), &TQGuideView::tapped, guide->held.get(), [this, guide] {
         expect(guide->mayTap(), "no tap counts while the button is off");
         ++guide->taps;
         ++tally.taps;

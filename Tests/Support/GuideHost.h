@@ -16,7 +16,7 @@
 
 namespace TQFoundation::Testing {
 
-/// A library's bundle that holds one nib.
+/// Temporary library bundle whose guide nib is the given QML. Exists as long as this object.
 class NibBundle
 {
 public:
@@ -34,7 +34,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// An app that shows a guide: a window that is key, a platform that writes everything down, time by hand.
+/// Host of a guide: an active key window, a recording platform and an animation clock that the test advances.
 class GuideHost : public testing::Test
 {
 protected:
@@ -48,6 +48,7 @@ protected:
         platform->scenes = keyScene(&window);
     }
 
+    // A guide that is not shown; it counts and records the call of its closure.
     std::shared_ptr<TQGuideView> made(const QStringList &paragraphs)
     {
         return TQGuideView::initFromNib(Color::systemBlue(), paragraphs, [this] {

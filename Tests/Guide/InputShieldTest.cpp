@@ -14,64 +14,64 @@ namespace {
 using Testing::keyScene;
 using Testing::QmlWindow;
 
-// A host that counts all that reaches it, everywhere in its window and by every way that Qt Quick knows.
-constexpr char listening[] = R"(
+// Records every event that its items, handlers, shortcuts and popup receive.
+constexpr char recordingHost[] = R"(
 import QtQuick.Controls
 Item {
     id: root
-    property string heard
+    property string received
     property alias editor: editor
     property alias popup: popup
-    function hear(what: string) { heard += what + " "; }
+    function record(event: string) { received += event + " "; }
     width: 390; height: 700
     focus: true
-    Keys.onPressed: hear("key")
-    Keys.onReleased: hear("keyUp")
-    HoverHandler { onHoveredChanged: root.hear("hover"); onPointChanged: root.hear("hoverPoint") }
-    TapHandler { onPressedChanged: root.hear("tap") }
-    PointHandler { onActiveChanged: root.hear("point") }
-    HoverHandler { parent: root.parent; onHoveredChanged: root.hear("windowHover") }
-    TapHandler { parent: root.parent; onPressedChanged: root.hear("windowTap") }
-    WheelHandler { onWheel: root.hear("wheel") }
-    PinchHandler { onActiveChanged: root.hear("pinch") }
+    Keys.onPressed: record("key")
+    Keys.onReleased: record("keyUp")
+    HoverHandler { onHoveredChanged: root.record("hover"); onPointChanged: root.record("hoverPoint") }
+    TapHandler { onPressedChanged: root.record("tap") }
+    PointHandler { onActiveChanged: root.record("point") }
+    HoverHandler { parent: root.parent; onHoveredChanged: root.record("windowHover") }
+    TapHandler { parent: root.parent; onPressedChanged: root.record("windowTap") }
+    WheelHandler { onWheel: root.record("wheel") }
+    PinchHandler { onActiveChanged: root.record("pinch") }
     Shortcut {
         sequences: ["Ctrl+S", "Escape", "Return", "F5", "Ctrl+Tab"]
         context: Qt.ApplicationShortcut
-        onActivated: root.hear("shortcut")
+        onActivated: root.record("shortcut")
     }
     MouseArea {
         width: 200; height: parent.height
         hoverEnabled: true
         acceptedButtons: Qt.AllButtons
-        onPressed: root.hear("press")
-        onReleased: root.hear("release")
-        onPositionChanged: root.hear("move")
-        onDoubleClicked: root.hear("double")
-        onContainsMouseChanged: root.hear("contains")
-        onWheel: root.hear("areaWheel")
+        onPressed: root.record("press")
+        onReleased: root.record("release")
+        onPositionChanged: root.record("move")
+        onDoubleClicked: root.record("double")
+        onContainsMouseChanged: root.record("contains")
+        onWheel: root.record("areaWheel")
     }
     MultiPointTouchArea {
         anchors.fill: parent
         mouseEnabled: false
-        onTouchUpdated: root.hear("touch")
-        onCanceled: root.hear("cancel")
+        onTouchUpdated: root.record("touch")
+        onCanceled: root.record("cancel")
     }
-    DropArea { anchors.fill: parent; onEntered: root.hear("drag"); onDropped: root.hear("drop") }
-    TextField { id: editor; onTextEdited: root.hear("edit") }
-    Button { y: 100; focusPolicy: Qt.TabFocus; onClicked: root.hear("click"); onActiveFocusChanged: root.hear("focus") }
+    DropArea { anchors.fill: parent; onEntered: root.record("drag"); onDropped: root.record("drop") }
+    TextField { id: editor; onTextEdited: root.record("edit") }
+    Button { y: 100; focusPolicy: Qt.TabFocus; onClicked: root.record("click"); onActiveFocusChanged: root.record("focus") }
     Popup {
         id: popup
         x: 20; y: 200; width: 100; height: 100
-        onAboutToHide: root.hear("hide")
-        Overlay.onPressed: root.hear("overlay")
+        onAboutToHide: root.record("hide")
+        Overlay.onPressed: root.record("overlay")
     }
 }
 )";
 
-class GuideInput : public testing::Test
+class InputShield : public testing::Test
 {
 protected:
-    GuideInput() { platform->scenes = keyScene(&host.window); }
+    InputShield() { platform->scenes = keyScene(&host.window); }
 
     std::shared_ptr<TQGuideView> shown(int paragraphs = 3)
     {
@@ -83,12 +83,12 @@ protected:
         return guide;
     }
 
-    // What the host has heard since it was last asked.
-    QString heard()
+    // The events that the host received since the last call.
+    QString received()
     {
         QCoreApplication::processEvents();
-        const QString all = host.item->property("heard").toString();
-        host.item->setProperty("heard", QString());
+        const QString all = host.item->property("received").toString();
+        host.item->setProperty("received", QString());
         return all;
     }
 
@@ -104,8 +104,8 @@ protected:
         QCoreApplication::sendEvent(&host.window, &event);
     }
 
-    // Everything that a user can do with a pointer at a place.
-    void pointAt(QPoint place)
+    // Sends every kind of mouse, wheel and touch event at \a place.
+    void sendPointerEvents(QPoint place)
     {
         QTest::mouseMove(&host.window, place);
         QTest::mouseMove(&host.window, place + QPoint(3, 3));
@@ -118,14 +118,14 @@ protected:
         QTest::touchEvent(&host.window, touchScreen).release(0, place).release(1, place);
     }
 
-    // As the system does when a gesture of its own begins.
+    // Sends the TouchCancel with which a system takes over a gesture.
     void cancelTouches()
     {
         QWindowSystemInterface::handleTouchCancelEvent<QWindowSystemInterface::SynchronousDelivery>(&host.window,
                                                                                                     touchScreen);
     }
 
-    void type()
+    void sendKeys()
     {
         for (const Qt::Key key : {Qt::Key_A, Qt::Key_Escape, Qt::Key_Back, Qt::Key_Tab, Qt::Key_F5, Qt::Key_Left,
                                   Qt::Key_PageDown, Qt::Key_Menu})
@@ -139,112 +139,112 @@ protected:
     QPointingDevice *touchScreen = QTest::createTouchDevice();
     Testing::InstalledRecordingPlatform platform;
     Testing::AnimationClock clock;
-    QmlWindow host{listening, {390, 700}};
+    QmlWindow host{recordingHost, {390, 700}};
 };
 
-TEST_F(GuideInput, WithoutAGuideTheHostHearsAllOfIt)
+TEST_F(InputShield, LeavesHostInputAloneWithoutGuide)
 {
     for (const QPoint place : places())
-        pointAt(place);
-    const QString pointed = heard();
+        sendPointerEvents(place);
+    const QString pointed = received();
     for (const char *what :
          {"hover", "tap", "point", "windowHover", "windowTap", "press", "double", "areaWheel", "wheel", "touch"})
         EXPECT_TRUE(pointed.contains(QLatin1String(what))) << what;
-    type();
-    const QString typed = heard();
+    sendKeys();
+    const QString typed = received();
     for (const char *what : {"key", "keyUp", "shortcut", "focus"})
         EXPECT_TRUE(typed.contains(QLatin1String(what))) << what;
 }
 
-TEST_F(GuideInput, FromAddingOnNoPointerReachesTheHost)
+TEST_F(InputShield, BlocksPointersFromAddingOn)
 {
     const auto guide = shown();
-    static_cast<void>(heard());
+    static_cast<void>(received());
     for (const QPoint place : places())
-        pointAt(place);
-    EXPECT_EQ(heard(), QString()) << "while it is still transparent";
+        sendPointerEvents(place);
+    EXPECT_EQ(received(), QString()) << "while the overlay is still transparent";
     clock.pass(600);
     for (const QPoint place : places())
-        pointAt(place);
-    EXPECT_EQ(heard(), QString());
+        sendPointerEvents(place);
+    EXPECT_EQ(received(), QString());
     EXPECT_EQ(taps(), 0);
 }
 
-TEST_F(GuideInput, FromAddingOnNoKeyReachesTheHost)
+TEST_F(InputShield, BlocksKeysFromAddingOn)
 {
     const auto guide = shown();
-    static_cast<void>(heard());
-    type();
-    EXPECT_EQ(heard(), QString());
-    EXPECT_EQ(taps(), 0) << "and none of these is a tap";
+    static_cast<void>(received());
+    sendKeys();
+    EXPECT_EQ(received(), QString());
+    EXPECT_EQ(taps(), 0) << "none of these keys is a tap";
 }
 
-TEST_F(GuideInput, NothingReachesTheHostWhileTheButtonIsOff)
+TEST_F(InputShield, BlocksHostInputWhileButtonIsDisabled)
 {
     const auto guide = shown();
     clock.pass(600);
     guide->nextGuide();
-    static_cast<void>(heard());
+    static_cast<void>(received());
     const QPointF middle = guide->nextButton()->mapToScene({30, 30});
-    pointAt(middle.toPoint());
+    sendPointerEvents(middle.toPoint());
     for (const QPoint place : places())
-        pointAt(place);
-    type();
+        sendPointerEvents(place);
+    sendKeys();
     QTest::keyClick(&host.window, Qt::Key_Return);
     QTest::keyClick(&host.window, Qt::Key_Space);
-    EXPECT_EQ(heard(), QString());
+    EXPECT_EQ(received(), QString());
     EXPECT_EQ(taps(), 1);
 }
 
-TEST_F(GuideInput, NothingReachesTheHostUntilTheOverlayIsRemoved)
+TEST_F(InputShield, BlocksHostInputUntilRemoved)
 {
     const auto guide = shown(1);
     clock.pass(600);
     guide->nextGuide();
     clock.pass(590);
-    static_cast<void>(heard());
-    pointAt({195, 120});
-    type();
-    EXPECT_EQ(heard(), QString());
+    static_cast<void>(received());
+    sendPointerEvents({195, 120});
+    sendKeys();
+    EXPECT_EQ(received(), QString());
     clock.pass(10);
-    pointAt({195, 120});
-    EXPECT_NE(heard(), QString());
-    type();
-    EXPECT_NE(heard(), QString());
+    sendPointerEvents({195, 120});
+    EXPECT_NE(received(), QString());
+    sendKeys();
+    EXPECT_NE(received(), QString());
 }
 
-TEST_F(GuideInput, NothingReachesTheHostBesideAnOverlayThatIsSmallerThanTheWindow)
+TEST_F(InputShield, BlocksHostInputBesideSmallOverlay)
 {
     platform->bounds = {100, 100};
     const auto guide = shown();
     clock.pass(600);
-    static_cast<void>(heard());
-    pointAt({300, 500});
-    type();
-    EXPECT_EQ(heard(), QString());
+    static_cast<void>(received());
+    sendPointerEvents({300, 500});
+    sendKeys();
+    EXPECT_EQ(received(), QString());
 }
 
-TEST_F(GuideInput, AnOverlayInAViewLeavesTheRestOfTheWindowToTheHost)
+TEST_F(InputShield, LeavesInputOutsideOfItsViewAlone)
 {
     platform->scenes = {};
     platform->bounds = {100, 100};
     auto guide = TQGuideView::initFromNib(Color::systemBlue(), {QStringLiteral("Text")}, nullptr);
     guide->showGuide(nullptr, host.item);
     clock.pass(600);
-    static_cast<void>(heard());
+    static_cast<void>(received());
     QTest::mouseClick(&host.window, Qt::LeftButton, {}, {50, 20});
-    EXPECT_EQ(heard(), QString());
+    EXPECT_EQ(received(), QString());
     QTest::mouseClick(&host.window, Qt::LeftButton, {}, {300, 500});
-    EXPECT_NE(heard(), QString());
+    EXPECT_NE(received(), QString());
     QTest::touchEvent(&host.window, touchScreen).press(0, {300, 500});
     QTest::touchEvent(&host.window, touchScreen).release(0, {300, 500});
-    EXPECT_TRUE(heard().contains(QLatin1String("touch")));
+    EXPECT_TRUE(received().contains(QLatin1String("touch")));
     QTest::touchEvent(&host.window, touchScreen).press(0, {300, 500});
     cancelTouches();
-    EXPECT_TRUE(heard().contains(QLatin1String("cancel")));
+    EXPECT_TRUE(received().contains(QLatin1String("cancel")));
 }
 
-TEST_F(GuideInput, NoPopupClosesUnderneath)
+TEST_F(InputShield, KeepsPopupsBelowOpen)
 {
     popup()->setProperty("closePolicy", 0x01 | 0x04 | 0x10); // a press or release outside, Escape
     for (const bool modal : {false, true}) {
@@ -253,39 +253,39 @@ TEST_F(GuideInput, NoPopupClosesUnderneath)
         clock.pass(500);
         const auto guide = shown(1);
         clock.pass(600);
-        pointAt({5, 5});
-        static_cast<void>(heard()); // that the pointer has left
+        sendPointerEvents({5, 5});
+        static_cast<void>(received()); // that the pointer has left
         for (const QPoint place : places())
-            pointAt(place);
-        type();
-        EXPECT_EQ(heard(), QString());
+            sendPointerEvents(place);
+        sendKeys();
+        EXPECT_EQ(received(), QString());
         EXPECT_TRUE(popup()->property("visible").toBool());
         guide->nextGuide();
         clock.pass(600);
         QTest::mouseClick(&host.window, Qt::LeftButton, {}, {380, 600});
         clock.pass(500);
-        EXPECT_FALSE(popup()->property("visible").toBool()) << "afterwards it closes as before";
-        EXPECT_TRUE(heard().contains(QLatin1String("overlay"))) << "and its layer sees all that happens";
+        EXPECT_FALSE(popup()->property("visible").toBool()) << "the popup closes again after the guide";
+        EXPECT_TRUE(received().contains(QLatin1String("overlay"))) << "its overlay receives events again";
     }
 }
 
-TEST_F(GuideInput, APopupThatOpensLaterIsShieldedToo)
+TEST_F(InputShield, BlocksPopupThatOpensLater)
 {
     const auto guide = shown(1);
     clock.pass(600);
     popup()->setProperty("modal", true);
     QMetaObject::invokeMethod(popup(), "open");
     clock.pass(500);
-    static_cast<void>(heard());
-    pointAt({380, 600});
-    type();
-    EXPECT_EQ(heard(), QString());
+    static_cast<void>(received());
+    sendPointerEvents({380, 600});
+    sendKeys();
+    EXPECT_EQ(received(), QString());
     EXPECT_TRUE(popup()->property("visible").toBool());
     QTest::keyClick(&host.window, Qt::Key_Return);
-    EXPECT_EQ(taps(), 1) << "and the button still has the keyboard";
+    EXPECT_EQ(taps(), 1) << "the button keeps the focus";
 }
 
-TEST_F(GuideInput, AScrollingHostCannotTakeOverADrag)
+TEST_F(InputShield, KeepsDragFromHostFlickable)
 {
     const QmlWindow scrolling("Flickable { width: 390; height: 200; contentWidth: 2000; contentHeight: 2000; "
                               "pressDelay: 50; Item { objectName: \"content\"; width: 2000; height: 2000 } }");
@@ -302,66 +302,64 @@ TEST_F(GuideInput, AScrollingHostCannotTakeOverADrag)
     EXPECT_EQ(scrolling.item->property("contentY"), QVariant(0.0));
 }
 
-TEST_F(GuideInput, AGestureThatIsUnderWayEnds)
+TEST_F(InputShield, EndsGestureInProgress)
 {
     for (const int x : {100, 300}) {
         QTest::mousePress(&host.window, Qt::LeftButton, {}, {x, 300});
         const auto guide = shown();
-        static_cast<void>(heard());
+        static_cast<void>(received());
         QTest::mouseMove(&host.window, {x, 350});
         QTest::mouseRelease(&host.window, Qt::LeftButton, {}, {x, 350});
-        const QString all = heard();
+        const QString all = received();
         for (const char *what : {"move", "release", "click"})
             EXPECT_FALSE(all.contains(QLatin1String(what))) << what;
         guide->setParentItem(nullptr);
     }
 }
 
-TEST_F(GuideInput, ADragFromAnotherAppIsNotTakenAndDoesNotReachTheHost)
+TEST_F(InputShield, RejectsDragFromAnotherApp)
 {
     const auto guide = shown();
-    static_cast<void>(heard());
+    static_cast<void>(received());
     QMimeData data;
     data.setText(QStringLiteral("dragged"));
     QDragEnterEvent enter({195, 300}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&host.window, &enter);
     QDropEvent drop(QPointF(195, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&host.window, &drop);
-    EXPECT_EQ(heard(), QString());
+    EXPECT_EQ(received(), QString());
 }
 
-TEST_F(GuideInput, AStylusIsAPointerLikeAnyOther)
+TEST_F(InputShield, TreatsStylusAsPointer)
 {
     const auto guide = shown();
     clock.pass(600);
-    static_cast<void>(heard());
+    static_cast<void>(received());
     const QPointingDevice stylus(QStringLiteral("stylus"), 7, QInputDevice::DeviceType::Stylus,
                                  QPointingDevice::PointerType::Pen, QInputDevice::Capability::Position, 1, 1);
     for (const QEvent::Type type : {QEvent::TabletPress, QEvent::TabletMove, QEvent::TabletRelease}) {
         QTabletEvent event(type, &stylus, {195, 300}, {195, 300}, 1, 0, 0, 0, 0, 0, Qt::NoModifier, Qt::LeftButton,
                            Qt::LeftButton);
         QCoreApplication::sendEvent(&host.window, &event);
-        EXPECT_FALSE(event.isAccepted()) << "so that it comes again as a mouse event";
+        EXPECT_FALSE(event.isAccepted()) << "Qt sends it again as a mouse event";
     }
-    EXPECT_EQ(heard(), QString());
+    EXPECT_EQ(received(), QString());
 }
 
-TEST_F(GuideInput, AGestureOfATouchpadDoesNotReachTheHost)
+TEST_F(InputShield, BlocksTouchpadGestures)
 {
     const auto guide = shown();
-    static_cast<void>(heard());
+    static_cast<void>(received());
     const QPointingDevice touchpad(QStringLiteral("touchpad"), 8, QInputDevice::DeviceType::TouchPad,
                                    QPointingDevice::PointerType::Finger, QInputDevice::Capability::Position, 2, 1);
     for (const Qt::NativeGestureType type : {Qt::BeginNativeGesture, Qt::ZoomNativeGesture, Qt::EndNativeGesture}) {
         QNativeGestureEvent event(type, &touchpad, 2, {195, 300}, {195, 300}, {195, 300}, 0.5, {});
         QCoreApplication::sendEvent(&host.window, &event);
     }
-    EXPECT_EQ(heard(), QString());
+    EXPECT_EQ(received(), QString());
 }
 
-// What the guide itself listens to.
-
-TEST_F(GuideInput, TheButtonTakesAClickATouchAndItsKeys)
+TEST_F(InputShield, LetsButtonAcceptClickTouchAndKeys)
 {
     const auto guide = shown(6);
     clock.pass(600);
@@ -380,7 +378,7 @@ TEST_F(GuideInput, TheButtonTakesAClickATouchAndItsKeys)
     }
 }
 
-TEST_F(GuideInput, OfTwoFingersTheFirstIsThePointer)
+TEST_F(InputShield, UsesFirstOfTwoTouchPoints)
 {
     const auto guide = shown();
     clock.pass(600);
@@ -390,7 +388,7 @@ TEST_F(GuideInput, OfTwoFingersTheFirstIsThePointer)
     EXPECT_EQ(taps(), 1);
 }
 
-TEST_F(GuideInput, ATouchThatTheSystemTakesAwayIsNoTap)
+TEST_F(InputShield, CancelsPressAtTouchCancel)
 {
     const auto guide = shown();
     clock.pass(600);
@@ -403,10 +401,10 @@ TEST_F(GuideInput, ATouchThatTheSystemTakesAwayIsNoTap)
     EXPECT_EQ(taps(), 0);
     QTest::touchEvent(&host.window, touchScreen).press(0, middle);
     QTest::touchEvent(&host.window, touchScreen).release(0, middle);
-    EXPECT_EQ(taps(), 1) << "and the next one is";
+    EXPECT_EQ(taps(), 1) << "the next touch is a tap";
 }
 
-TEST_F(GuideInput, AKeyThatIsHeldCountsOnce)
+TEST_F(InputShield, CountsHeldKeyOnce)
 {
     const auto guide = shown(6);
     clock.pass(600);
@@ -424,7 +422,7 @@ TEST_F(GuideInput, AKeyThatIsHeldCountsOnce)
     }
 }
 
-TEST_F(GuideInput, TheFocusIsTakenAndGivenBack)
+TEST_F(InputShield, TakesFocusAndRestoresIt)
 {
     editor()->forceActiveFocus();
     ASSERT_TRUE(editor()->hasActiveFocus());
@@ -438,11 +436,11 @@ TEST_F(GuideInput, TheFocusIsTakenAndGivenBack)
     EXPECT_EQ(editor()->property("text"), QVariant(QStringLiteral("a")));
 }
 
-TEST_F(GuideInput, TheFocusIsKept)
+TEST_F(InputShield, KeepsFocusInside)
 {
     const auto guide = shown(2);
     editor()->forceActiveFocus();
-    EXPECT_TRUE(guide->nextButton()->hasActiveFocus()) << "a host cannot take it";
+    EXPECT_TRUE(guide->nextButton()->hasActiveFocus()) << "the host cannot take the focus";
     for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Tab}) {
         QTest::keyClick(&host.window, key);
         EXPECT_TRUE(guide->nextButton()->hasActiveFocus());
@@ -451,10 +449,10 @@ TEST_F(GuideInput, TheFocusIsKept)
     clock.pass(400);
     QTest::keyClick(&host.window, Qt::Key_Tab);
     clock.pass(400);
-    EXPECT_TRUE(guide->nextButton()->hasActiveFocus()) << "the button has it again as soon as it is on";
+    EXPECT_TRUE(guide->nextButton()->hasActiveFocus()) << "the button has the focus once it is enabled";
 }
 
-TEST_F(GuideInput, AFocusThatHasGoneIsNotGivenBack)
+TEST_F(InputShield, ToleratesDestroyedFocusItem)
 {
     auto *gone = new QQuickItem(host.item);
     gone->forceActiveFocus();
@@ -465,7 +463,7 @@ TEST_F(GuideInput, AFocusThatHasGoneIsNotGivenBack)
     EXPECT_EQ(guide->parentItem(), nullptr);
 }
 
-TEST_F(GuideInput, TheLaterOfTwoGuidesHasTheKeyboardAndGivesItToTheEarlier)
+TEST_F(InputShield, HandsFocusFromLaterToEarlierGuide)
 {
     const auto first = shown(1);
     const auto second = shown(1);
@@ -475,17 +473,17 @@ TEST_F(GuideInput, TheLaterOfTwoGuidesHasTheKeyboardAndGivesItToTheEarlier)
     clock.pass(600);
     EXPECT_EQ(second->parentItem(), nullptr);
     EXPECT_TRUE(first->nextButton()->hasActiveFocus());
-    static_cast<void>(heard());
-    type();
-    EXPECT_EQ(heard(), QString());
+    static_cast<void>(received());
+    sendKeys();
+    EXPECT_EQ(received(), QString());
     QTest::keyClick(&host.window, Qt::Key_Return);
     clock.pass(600);
     EXPECT_EQ(first->parentItem(), nullptr);
-    type();
-    EXPECT_NE(heard(), QString());
+    sendKeys();
+    EXPECT_NE(received(), QString());
 }
 
-TEST_F(GuideInput, AGuideThatOutlivesItsWindowTakesTheFocusOfTheNext)
+TEST_F(InputShield, TakesFocusOfNextWindow)
 {
     auto window = std::make_unique<QQuickWindow>();
     window->show();
@@ -505,18 +503,18 @@ TEST_F(GuideInput, AGuideThatOutlivesItsWindowTakesTheFocusOfTheNext)
     EXPECT_EQ(host.window.activeFocusItem(), guide->nextButton());
 }
 
-TEST_F(GuideInput, AGuideThatMovesToAnotherWindowFreesTheFirst)
+TEST_F(InputShield, FreesWindowThatGuideLeaves)
 {
     QQuickWindow other;
     other.resize(200, 200);
     const auto guide = shown(2);
     platform->scenes = keyScene(&other);
     guide->showGuide();
-    static_cast<void>(heard());
-    pointAt({195, 300});
-    EXPECT_NE(heard(), QString());
-    type();
-    EXPECT_NE(heard(), QString());
+    static_cast<void>(received());
+    sendPointerEvents({195, 300});
+    EXPECT_NE(received(), QString());
+    sendKeys();
+    EXPECT_NE(received(), QString());
 }
 
 } // namespace

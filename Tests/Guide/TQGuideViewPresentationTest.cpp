@@ -16,10 +16,10 @@ using Testing::QmlWindow;
 using Testing::scene;
 using Testing::trapSignal;
 
-class GuidePresentation : public Testing::GuideHost
+class TQGuideViewPresentation : public Testing::GuideHost
 {
 protected:
-    // Where a guide of one paragraph goes that is shown with the given fallbacks.
+    // The parent of a guide that is shown with the given fallbacks.
     QQuickItem *hostChosen(QQuickWindow *inWindow, QQuickItem *orInView)
     {
         guide = made(paragraphs(1));
@@ -32,14 +32,14 @@ protected:
     std::shared_ptr<TQGuideView> guide;
 };
 
-// Which host it goes to.
+// Choice of the host.
 
-TEST_F(GuidePresentation, TheKeyWindowOfTheActiveSceneComesBeforeTheArguments)
+TEST_F(TQGuideViewPresentation, PrefersKeyWindowToArguments)
 {
     EXPECT_EQ(hostChosen(&other, &view), window.contentItem());
 }
 
-TEST_F(GuidePresentation, WithoutAnActiveSceneItGoesIntoTheGivenWindow)
+TEST_F(TQGuideViewPresentation, UsesGivenWindowWithoutActiveScene)
 {
     for (const ActivationState state :
          {ActivationState::foregroundInactive, ActivationState::background, ActivationState::unattached}) {
@@ -50,34 +50,34 @@ TEST_F(GuidePresentation, WithoutAnActiveSceneItGoesIntoTheGivenWindow)
     EXPECT_EQ(hostChosen(&other, &view), other.contentItem());
 }
 
-TEST_F(GuidePresentation, WithoutAnActiveSceneAndAGivenWindowItGoesIntoTheGivenView)
+TEST_F(TQGuideViewPresentation, UsesGivenViewWithoutActiveScene)
 {
     platform->scenes = {};
     EXPECT_EQ(hostChosen(nullptr, &view), &view);
 }
 
-TEST_F(GuidePresentation, WithAnActiveSceneWithoutAKeyWindowTheArgumentsCount)
+TEST_F(TQGuideViewPresentation, UsesArgumentsWithoutKeyWindow)
 {
     platform->scenes = {scene(ActivationState::foregroundActive, {&window})};
     EXPECT_EQ(hostChosen(&other, &view), other.contentItem());
     EXPECT_EQ(hostChosen(nullptr, &view), &view);
 }
 
-TEST_F(GuidePresentation, TheSearchStopsAtTheFirstActiveScene)
+TEST_F(TQGuideViewPresentation, SearchesFirstActiveSceneOnly)
 {
     platform->scenes = {scene(ActivationState::foregroundActive, {&window}),
                         scene(ActivationState::foregroundActive, {&other}, &other)};
     EXPECT_EQ(hostChosen(nullptr, &view), &view);
 }
 
-TEST_F(GuidePresentation, AKeyWindowThatIsNotOfQtQuickCountsAsNone)
+TEST_F(TQGuideViewPresentation, UsesArgumentsIfKeyWindowIsNotQuick)
 {
     QWindow plain;
     platform->scenes = keyScene(&plain);
     EXPECT_EQ(hostChosen(&other, nullptr), other.contentItem());
 }
 
-TEST_F(GuidePresentation, WithoutAnyHostItIsAddedNowhereAndStillFades)
+TEST_F(TQGuideViewPresentation, FadesInWithoutHost)
 {
     platform->scenes = {};
     EXPECT_EQ(hostChosen(nullptr, nullptr), nullptr);
@@ -88,7 +88,7 @@ TEST_F(GuidePresentation, WithoutAnyHostItIsAddedNowhereAndStillFades)
     EXPECT_EQ(guide->parentItem(), nullptr);
 }
 
-TEST_F(GuidePresentation, OfTwoWindowsTheKeyOneHostsItWhicheverComesFirst)
+TEST_F(TQGuideViewPresentation, UsesKeyWindowInAnyOrder)
 {
     for (QQuickWindow *key : {&window, &other}) {
         platform->scenes = {scene(ActivationState::foregroundActive, {&window, &other}, key)};
@@ -96,9 +96,9 @@ TEST_F(GuidePresentation, OfTwoWindowsTheKeyOneHostsItWhicheverComesFirst)
     }
 }
 
-// The call.
+// Effects of the call.
 
-TEST_F(GuidePresentation, RightAfterTheCallTheTextShowsAndTheOverlayIsTransparentAndLaterOpaque)
+TEST_F(TQGuideViewPresentation, ShowsTextAtOnceAndFadesIn)
 {
     const auto shownGuide = shown(paragraphs(2));
     EXPECT_EQ(textOf(*shownGuide), QStringLiteral("Paragraph 0"));
@@ -110,7 +110,7 @@ TEST_F(GuidePresentation, RightAfterTheCallTheTextShowsAndTheOverlayIsTransparen
     EXPECT_EQ(shownGuide->opacity(), 1);
 }
 
-TEST_F(GuidePresentation, TakesItsStepsInOrder)
+TEST_F(TQGuideViewPresentation, TakesItsStepsInOrder)
 {
     guide = made(paragraphs(1));
     platform->calls.clear();
@@ -133,7 +133,7 @@ TEST_F(GuidePresentation, TakesItsStepsInOrder)
                            QStringLiteral("added"), QStringLiteral("fading"), QStringLiteral("opaque")}));
 }
 
-TEST_F(GuidePresentation, WithoutParagraphsStopsTheProcessBeforeItIsAdded)
+TEST_F(TQGuideViewPresentation, StopsProcessWithoutParagraphs)
 {
     EXPECT_EXIT(
         {
@@ -145,7 +145,7 @@ TEST_F(GuidePresentation, WithoutParagraphsStopsTheProcessBeforeItIsAdded)
         testing::KilledBySignal(trapSignal), "^$");
 }
 
-TEST_F(GuidePresentation, WithoutALabelStopsTheProcess)
+TEST_F(TQGuideViewPresentation, StopsProcessWithoutLabel)
 {
     const NibBundle bundle("import TQFoundation\nTQGuideView {}");
     platform->root = bundle.root();
@@ -153,7 +153,7 @@ TEST_F(GuidePresentation, WithoutALabelStopsTheProcess)
     EXPECT_EXIT(guide->showGuide(), testing::KilledBySignal(trapSignal), "");
 }
 
-TEST_F(GuidePresentation, KeepsItsFrameInTheHostsCoordinates)
+TEST_F(TQGuideViewPresentation, KeepsFrameInHostCoordinates)
 {
     platform->scenes = {};
     view.setParentItem(window.contentItem());
@@ -165,7 +165,7 @@ TEST_F(GuidePresentation, KeepsItsFrameInTheHostsCoordinates)
     EXPECT_EQ(guide->mapToScene({0, 0}), QPointF(40, 50));
 }
 
-TEST_F(GuidePresentation, ASecondCallTakesTheSameStepsAgain)
+TEST_F(TQGuideViewPresentation, RepeatsStepsAtSecondCall)
 {
     const auto shownGuide = shown(paragraphs(3));
     clock.pass(600);
@@ -174,13 +174,13 @@ TEST_F(GuidePresentation, ASecondCallTakesTheSameStepsAgain)
     platform->scenes = keyScene(&other);
     shownGuide->showGuide();
     EXPECT_EQ(shownGuide->opacity(), 0);
-    EXPECT_EQ(textOf(*shownGuide), QStringLiteral("Paragraph 1")) << "the one that the guide has come to";
+    EXPECT_EQ(textOf(*shownGuide), QStringLiteral("Paragraph 1")) << "the current paragraph";
     EXPECT_EQ(shownGuide->parentItem(), other.contentItem());
     clock.pass(600);
     EXPECT_EQ(shownGuide->opacity(), 1);
 }
 
-TEST_F(GuidePresentation, ASecondCallDuringTheFadeInStartsItAnew)
+TEST_F(TQGuideViewPresentation, RestartsFadeInAtSecondCall)
 {
     const auto shownGuide = shown(paragraphs(1));
     clock.pass(300);
@@ -192,21 +192,21 @@ TEST_F(GuidePresentation, ASecondCallDuringTheFadeInStartsItAnew)
     EXPECT_EQ(shownGuide->opacity(), 1);
 }
 
-TEST_F(GuidePresentation, ATapThatEndsTheGuideWhileASecondCallIsFadingItInRemovesIt)
+TEST_F(TQGuideViewPresentation, StopsProcessIfShownAfterEnd)
 {
     const auto shownGuide = shown(paragraphs(1));
     clock.pass(600);
     shownGuide->nextGuide();
     clock.pass(300);
     platform->scenes = keyScene(&other);
-    EXPECT_EXIT(shownGuide->showGuide(), testing::KilledBySignal(trapSignal), "") << "no paragraph to show any more";
+    EXPECT_EXIT(shownGuide->showGuide(), testing::KilledBySignal(trapSignal), "") << "the index is past the end";
     clock.pass(300);
     EXPECT_EQ(shownGuide->parentItem(), nullptr);
 }
 
-// On top.
+// Stacking order.
 
-TEST_F(GuidePresentation, LiesOnTopOfAllItsSiblings)
+TEST_F(TQGuideViewPresentation, CoversAllSiblings)
 {
     QQuickItem high(window.contentItem());
     high.setZ(5e7);
@@ -216,7 +216,7 @@ TEST_F(GuidePresentation, LiesOnTopOfAllItsSiblings)
     EXPECT_GT(shownGuide->z(), later.z());
 }
 
-TEST_F(GuidePresentation, LiesOnTopOfSiblingsWhoseOrderCannotBeRaised)
+TEST_F(TQGuideViewPresentation, CoversSiblingsWithInfiniteZ)
 {
     QQuickItem highest(window.contentItem());
     highest.setZ(std::numeric_limits<double>::infinity());
@@ -224,7 +224,7 @@ TEST_F(GuidePresentation, LiesOnTopOfSiblingsWhoseOrderCannotBeRaised)
     EXPECT_EQ(window.contentItem()->childItems().last(), shownGuide.get());
 }
 
-TEST_F(GuidePresentation, LiesOnTopOfAnOpenPopup)
+TEST_F(TQGuideViewPresentation, CoversOpenPopup)
 {
     const QmlWindow host(
         "import QtQuick.Controls\nItem { width: 300; height: 300; Popup { visible: true; modal: true } }");
@@ -232,20 +232,20 @@ TEST_F(GuidePresentation, LiesOnTopOfAnOpenPopup)
     guide = made(paragraphs(1));
     guide->showGuide();
     const QList<QQuickItem *> siblings = host.window.contentItem()->childItems();
-    ASSERT_GE(siblings.size(), 3) << "the host's item, the layer of its popups, the overlay";
+    ASSERT_GE(siblings.size(), 3) << "the host's item, the popup overlay, the guide";
     for (const QQuickItem *sibling : siblings) {
         EXPECT_TRUE(sibling == guide.get() || sibling->z() < guide->z());
     }
 }
 
-TEST_F(GuidePresentation, ALaterGuideLiesOnTopOfAnEarlierOne)
+TEST_F(TQGuideViewPresentation, CoversEarlierGuide)
 {
     const auto first = shown(paragraphs(1));
     const auto second = shown(paragraphs(1));
     EXPECT_GT(second->z(), first->z());
 }
 
-TEST_F(GuidePresentation, InsideItselfItCannotBeShown)
+TEST_F(TQGuideViewPresentation, RefusesItselfAsHost)
 {
     platform->scenes = {};
     guide = made(paragraphs(1));

@@ -20,7 +20,7 @@ constexpr Rgba green{0, 1, 0};
 class TQRandomBackgroundViewTest : public testing::Test
 {
 protected:
-    // The view of a background, or null if it has made none yet.
+    // The view of a background, or null before it is made.
     static AnimationView *viewIn(const QQuickItem *background)
     {
         const QList<QQuickItem *> children = background->childItems();

@@ -36,7 +36,7 @@ using Darkness = std::function<double(int x, int y)>;
 
 /// Compares an image of \a path, two points wide and black with an opacity of 0.2 on white, with Cairo's. Returns the
 /// pixels that differ by more than 8 of 255, or by more than 20 near a line end, a corner or a bend with a radius of
-/// less than two points; empty if there are none. Pixels near a line end inside such a bend are ignored, because
+/// less than two points; empty if no pixel does. Pixels near a line end inside such a bend are ignored, because
 /// libraries differ in the coverage of its inner side.
 std::string differences(const Path &path, double strokeEnd, double scale, int width, int height, const Darkness &shown);
 

@@ -10,7 +10,7 @@ namespace TQFoundation::Testing {
 class Layout
 {
 public:
-    /// Returns one message for each layout error among the visible items below \a page; empty if there are none. Each
+    /// Returns one message for each layout error among the visible items below \a page; empty if all is well. Each
     /// control and text must lie in the window or in a Flickable that can scroll to it. No two may overlap, and no text
     /// may be elided or clipped.
     static QStringList flawsOf(const QQuickItem *page)
@@ -32,7 +32,7 @@ public:
         return true;
     }
 
-    /// Returns the popup that contains \a part, or null if there is none.
+    /// Returns the popup that contains \a part, or null if it is in no popup.
     static QQuickItem *popupOf(QQuickItem *part)
     {
         while (part && !part->inherits("QQuickPopupItem"))

@@ -13,7 +13,7 @@ sources = $(shell find Sources Example Tests Fuzzers Benchmarks -name '*.cpp' -o
 units = $(shell find Sources Example -name '*.cpp')
 
 # The tests of what needs no toolkit.
-plain = DriftPath.*:DriftRanges.*:TransitPoints.*:ControlPoint.*:ShuffledDistribution.*:SplitMix64.*:Layer.*:TickGrid.*:$\
+plain = DriftPath.*:DriftRanges.*:TransitPoints.*:ControlPoint.*:ShuffledDistribution.*:SplitMix64.*:ShapeLayer.*:TickGrid.*:$\
 	StrokeGeometry.*:StrokeMask.*
 
 help:

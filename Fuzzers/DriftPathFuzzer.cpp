@@ -1,5 +1,5 @@
-// The wandering line over arbitrary screens and draws, against its formulas in arithmetic that is wide enough for all
-// of them. Where those leave 64 bits or divide by zero the process would stop, so such inputs are passed over.
+// Compares the drift path of arbitrary screens and draws with the same formulas in 128-bit arithmetic. Inputs for which
+// the library stops the process (overflow, division by zero) are skipped.
 
 #include "DriftPath.h"
 #include "Require.h"
@@ -18,13 +18,14 @@ namespace {
 
 __extension__ using Wide = __int128;
 
+/// Thrown if the library would stop the process.
 struct Stops
 {};
 
-/// One draw: what was asked for and what was answered.
+/// One draw of a random integer.
 struct Draw
 {
-    char source; ///< p, n, P, N for the four long-lived ones, f for a fresh one
+    char source; ///< p, n, P, N for positiveX, negativeX, positiveY, negativeY; f for a fresh source
     IntegerRange range;
     std::int64_t value;
 
@@ -53,18 +54,19 @@ std::int64_t scaled(std::int64_t value, std::int64_t by, std::int64_t over)
     return narrow(Wide(product) / over);
 }
 
-/// Answers of the random source: taken from the input the first time, and the same when they are asked for again.
-struct Answers
+/// Values of all draws in their order, from the fuzzer's input.
+struct Values
 {
-    std::vector<std::int64_t> values;
+    std::vector<std::int64_t> list;
 
+    /// Maps the value of draw \a index into \a range.
     std::int64_t at(std::size_t index, const IntegerRange &range) const
     {
-        const std::int64_t wanted = index < values.size() ? values[index] : 0;
+        const std::int64_t value = index < list.size() ? list[index] : 0;
         const Wide count = Wide(range.highest) - range.lowest + 1;
         if (count <= 0)
             throw Stops();
-        return static_cast<std::int64_t>(range.lowest + ((Wide(wanted) % count) + count) % count);
+        return static_cast<std::int64_t>(range.lowest + ((Wide(value) % count) + count) % count);
     }
 };
 
@@ -75,18 +77,16 @@ struct Line
     std::vector<Draw> draws;
 };
 
-/// The formulas as they are written down.
-class Worked
+/// The expected line, computed by the documented formulas.
+class Expected
 {
 public:
-    Worked(const DriftScreen &screen, std::uint32_t first, const Answers &answers)
-        : m_screen(screen),
-          m_answers(answers)
+    Expected(const DriftScreen &screen, std::uint32_t first, const Values &values) : m_screen(screen), m_values(values)
     {
-        w2 = integer(screen.width * 0.5);
-        h2 = integer(screen.height * 0.5);
-        wi = integer(screen.width);
-        hi = integer(screen.height);
+        halfWidth = integer(screen.width * 0.5);
+        halfHeight = integer(screen.height * 0.5);
+        width = integer(screen.width);
+        height = integer(screen.height);
         for (std::uint32_t slot = first; slot < first + 4; ++slot)
             line.points.push_back(transit(slot % 4));
         for (const std::size_t end : {1U, 1U, 2U, 2U, 3U, 3U, 0U, 0U})
@@ -100,13 +100,13 @@ private:
     {
         switch (source) {
         case 'p':
-            return draw(source, {w2, wi});
+            return draw(source, {halfWidth, width});
         case 'n':
-            return draw(source, {0, w2});
+            return draw(source, {0, halfWidth});
         case 'P':
-            return draw(source, {0, h2});
+            return draw(source, {0, halfHeight});
         default:
-            return draw(source, {h2, hi});
+            return draw(source, {halfHeight, height});
         }
     }
 
@@ -114,7 +114,7 @@ private:
     {
         if (range.lowest > range.highest)
             throw Stops();
-        const std::int64_t value = m_answers.at(line.draws.size(), range);
+        const std::int64_t value = m_values.at(line.draws.size(), range);
         line.draws.push_back({source, range, value});
         return value;
     }
@@ -123,43 +123,43 @@ private:
     {
         const bool isRight = slot < 2;
         const std::int64_t x = draw(isRight ? 'p' : 'n');
-        const std::int64_t rise = scaled(isRight ? narrow(Wide(x) - w2) : x, h2, w2);
+        const std::int64_t rise = scaled(isRight ? narrow(Wide(x) - halfWidth) : x, halfHeight, halfWidth);
         const bool isTop = slot == 0 || slot == 3;
-        return {double(x), double(narrow(isTop ? Wide(h2) - rise : Wide(h2) + rise))};
+        return {double(x), double(narrow(isTop ? Wide(halfHeight) - rise : Wide(halfHeight) + rise))};
     }
 
     Point control(Point end)
     {
-        const double halfW = m_screen.width * 0.5;
-        const double halfH = m_screen.height * 0.5;
+        const double middleX = m_screen.width * 0.5;
+        const double middleY = m_screen.height * 0.5;
         const auto around = [&](std::int64_t middle, std::int64_t reach) {
             return draw('f', {narrow(Wide(middle) - reach), narrow(Wide(middle) + reach)});
         };
-        if (end.x > halfW && end.y < halfH) {
+        if (end.x > middleX && end.y < middleY) {
             const std::int64_t y = draw('P');
-            return {double(around(w2, scaled(y, w2, h2))), double(y)};
+            return {double(around(halfWidth, scaled(y, halfWidth, halfHeight))), double(y)};
         }
-        if (end.x > halfW && end.y > halfH) {
+        if (end.x > middleX && end.y > middleY) {
             const std::int64_t x = draw('p');
-            return {double(x), double(around(h2, scaled(narrow(Wide(x) - w2), h2, w2)))};
+            return {double(x), double(around(halfHeight, scaled(narrow(Wide(x) - halfWidth), halfHeight, halfWidth)))};
         }
-        if (end.x < halfW && end.y > halfH) {
+        if (end.x < middleX && end.y > middleY) {
             const std::int64_t y = draw('N');
-            return {double(around(w2, scaled(y, w2, h2))), double(y)};
+            return {double(around(halfWidth, scaled(y, halfWidth, halfHeight))), double(y)};
         }
-        if (end.x < halfW && end.y < halfH) {
+        if (end.x < middleX && end.y < middleY) {
             const std::int64_t x = draw('n');
-            return {double(x), double(around(h2, scaled(x, h2, w2)))};
+            return {double(x), double(around(halfHeight, scaled(x, halfHeight, halfWidth)))};
         }
         return {};
     }
 
     DriftScreen m_screen;
-    const Answers &m_answers;
-    std::int64_t w2 = 0;
-    std::int64_t h2 = 0;
-    std::int64_t wi = 0;
-    std::int64_t hi = 0;
+    const Values &m_values;
+    std::int64_t halfWidth = 0;
+    std::int64_t halfHeight = 0;
+    std::int64_t width = 0;
+    std::int64_t height = 0;
 };
 
 double side(FuzzedDataProvider &data)
@@ -183,13 +183,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t siz
     FuzzedDataProvider data(bytes, size);
     const DriftScreen screen{side(data), side(data)};
     const auto first = data.ConsumeIntegralInRange<std::uint32_t>(0, 3);
-    Answers answers;
-    while (data.remaining_bytes() > 0 && answers.values.size() < 24)
-        answers.values.push_back(data.ConsumeIntegral<std::int64_t>());
+    Values values;
+    while (data.remaining_bytes() > 0 && values.list.size() < 24)
+        values.list.push_back(data.ConsumeIntegral<std::int64_t>());
 
     std::optional<Line> expected;
     try {
-        expected = Worked(screen, first, answers).line;
+        expected = Expected(screen, first, values).line;
     } catch (const Stops &) {
         return 0;
     }
@@ -197,7 +197,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t siz
     const DriftRanges ranges = driftRanges(screen);
     std::vector<Draw> draws;
     const auto draw = [&](char source, const IntegerRange &range) {
-        const std::int64_t value = answers.at(draws.size(), range);
+        const std::int64_t value = values.at(draws.size(), range);
         draws.push_back({source, range, value});
         return value;
     };
@@ -215,9 +215,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t siz
     require(draws == expected->draws);
     require(path.start == points[0] && path.isClosed && path.curves.size() == 4);
     for (std::size_t curve = 0; curve < 4; ++curve) {
-        const CubicCurve wanted{expected->controls[2 * curve], expected->controls[2 * curve + 1],
-                                points[(curve + 1) % 4]};
-        require(path.curves[curve] == wanted);
+        const CubicCurve expectedCurve{expected->controls[2 * curve], expected->controls[2 * curve + 1],
+                                       points[(curve + 1) % 4]};
+        require(path.curves[curve] == expectedCurve);
     }
     return 0;
 }

@@ -4,7 +4,7 @@
 
 namespace TQFoundation::Fuzzing {
 
-/// Ends a fuzzer with a finding unless \a holds.
+/// Aborts, which the fuzzer reports as a finding, unless \a holds.
 inline void require(bool holds)
 {
     if (!holds)

@@ -1,5 +1,5 @@
-// Draws from arbitrary ranges with arbitrary seeds: inside the range, and the same again for the same seed and from a
-// copy.
+// Draws from arbitrary ranges with arbitrary seeds. Every draw must lie in the range, and the same seed or a copy must
+// give the same draws.
 
 #include "Require.h"
 #include "ShuffledDistribution.h"

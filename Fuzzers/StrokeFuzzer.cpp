@@ -1,5 +1,5 @@
-// Strokes of arbitrary paths: every number finite, every part a stretch of the line, coverage never less than before
-// and never more than all, and nothing written outside the picture of a tile.
+// Strokes of arbitrary paths. All numbers must be finite, each part must cover a range of the arc length, coverage must
+// never decrease or exceed 100 %, and no pixel outside a tile's image may be written.
 
 #include "Require.h"
 #include "StrokeGeometry.h"
@@ -62,22 +62,22 @@ void checkMesh(const StrokeGeometry &stroke, double scale)
                 && std::ranges::all_of(vertex.length, [](float length) { return std::isfinite(length); }));
 }
 
-// The numbers of covered samples of each tile's pixels.
+// Returns the number of covered samples of each pixel, for each tile.
 std::map<std::uint64_t, std::vector<std::uint32_t>> painted(const StrokeMask &mask)
 {
     StrokeMask::Colors colors{};
     for (std::size_t count = 0; count < colors.size(); ++count)
         colors[count] = static_cast<std::uint32_t>(count);
-    std::map<std::uint64_t, std::vector<std::uint32_t>> pictures;
+    std::map<std::uint64_t, std::vector<std::uint32_t>> images;
     for (const auto &[place, tile] : mask.tiles()) {
         require(tile.width > 0 && tile.height > 0);
-        // Exactly as large as the tile, so that the address sanitizer sees a write beside it.
+        // Exactly as large as the tile, so that AddressSanitizer detects writes outside it.
         std::vector<std::uint32_t> pixels(static_cast<std::size_t>(tile.width) * static_cast<std::size_t>(tile.height));
         mask.paint(tile, colors, pixels.data(), tile.width);
         require(std::ranges::all_of(pixels, [](std::uint32_t count) { return count <= StrokeMask::samples; }));
-        pictures.emplace(place, std::move(pixels));
+        images.emplace(place, std::move(pixels));
     }
-    return pictures;
+    return images;
 }
 
 } // namespace
@@ -94,7 +94,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t siz
 
     const StrokeGeometry stroke = strokeGeometry(path, width);
     checkGeometry(stroke);
-    // Both are for thin lines, and the mask for such as long as a screen's; far larger ones would only take longer.
+    // Mesh and mask are made for thin lines of about a screen's length; larger inputs only take longer.
     if (width > 64)
         return 0;
     checkMesh(stroke, scale);

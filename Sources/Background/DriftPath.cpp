@@ -8,43 +8,48 @@
 namespace TQFoundation {
 namespace {
 
-constexpr std::int64_t least = std::numeric_limits<std::int64_t>::min();
-constexpr std::int64_t greatest = std::numeric_limits<std::int64_t>::max();
+constexpr std::int64_t minimum = std::numeric_limits<std::int64_t>::min();
+constexpr std::int64_t maximum = std::numeric_limits<std::int64_t>::max();
 
-// Signed 64-bit arithmetic in which what does not fit stops the process.
+// Checked arithmetic: a result that does not fit 64 bits stops the process.
 
-constexpr std::int64_t sum(std::int64_t a, std::int64_t b)
+constexpr std::int64_t checkedAdd(std::int64_t a, std::int64_t b)
 {
-    precondition(b >= 0 ? a <= greatest - b : a >= least - b);
+    precondition(b >= 0 ? a <= maximum - b : a >= minimum - b);
     return a + b;
 }
 
-constexpr std::int64_t difference(std::int64_t a, std::int64_t b)
+constexpr std::int64_t checkedSubtract(std::int64_t a, std::int64_t b)
 {
-    precondition(b >= 0 ? a >= least + b : a <= greatest + b);
+    precondition(b >= 0 ? a >= minimum + b : a <= maximum + b);
     return a - b;
 }
 
-constexpr std::int64_t quotient(std::int64_t a, std::int64_t b)
+constexpr std::int64_t checkedDivide(std::int64_t a, std::int64_t b)
 {
-    precondition(b != 0 && !(a == least && b == -1));
+    precondition(b != 0 && !(a == minimum && b == -1));
     return a / b;
 }
 
-constexpr std::int64_t product(std::int64_t a, std::int64_t b)
+constexpr std::int64_t checkedMultiply(std::int64_t a, std::int64_t b)
 {
     const auto wrapped = static_cast<std::int64_t>(static_cast<std::uint64_t>(a) * static_cast<std::uint64_t>(b));
-    precondition(b == 0 || quotient(wrapped, b) == a);
+    precondition(b == 0 || checkedDivide(wrapped, b) == a);
     return wrapped;
 }
 
-static_assert(product(least, 1) == least && product(-1, greatest) == -greatest && product(least, 0) == 0);
+static_assert(checkedMultiply(minimum, 1) == minimum && checkedMultiply(-1, maximum) == -maximum
+              && checkedMultiply(minimum, 0) == 0);
 
-// Truncates towards zero.
-std::int64_t integer(double value)
+std::int64_t scaled(std::int64_t value, std::int64_t numerator, std::int64_t denominator)
 {
-    constexpr double beyond = 0x1p63;
-    precondition(value >= -beyond && value < beyond);
+    return checkedDivide(checkedMultiply(value, numerator), denominator);
+}
+
+std::int64_t truncated(double value)
+{
+    constexpr double limit = 0x1p63;
+    precondition(value >= -limit && value < limit);
     return static_cast<std::int64_t>(value);
 }
 
@@ -56,8 +61,8 @@ Point point(std::int64_t x, std::int64_t y)
 struct Halves
 {
     explicit Halves(const DriftScreen &screen)
-        : width(integer(screen.width * 0.5)),
-          height(integer(screen.height * 0.5))
+        : width(truncated(screen.width * 0.5)),
+          height(truncated(screen.height * 0.5))
     {}
 
     std::int64_t width;
@@ -68,19 +73,18 @@ enum class Slot { topRight, bottomRight, bottomLeft, topLeft };
 
 Point transitPoint(Slot slot, const Halves &half, const RandomSource &random)
 {
-    const bool onTheRight = slot == Slot::topRight || slot == Slot::bottomRight;
-    const std::int64_t x = onTheRight ? random.positiveX() : random.negativeX();
-    const std::int64_t along = onTheRight ? difference(x, half.width) : x;
-    const std::int64_t rise = quotient(product(along, half.height), half.width);
-    const bool atTheTop = slot == Slot::topRight || slot == Slot::topLeft;
-    return point(x, atTheTop ? difference(half.height, rise) : sum(half.height, rise));
+    const bool isRight = slot == Slot::topRight || slot == Slot::bottomRight;
+    const std::int64_t x = isRight ? random.positiveX() : random.negativeX();
+    const std::int64_t along = isRight ? checkedSubtract(x, half.width) : x;
+    const std::int64_t rise = scaled(along, half.height, half.width);
+    const bool isTop = slot == Slot::topRight || slot == Slot::topLeft;
+    return point(x, isTop ? checkedSubtract(half.height, rise) : checkedAdd(half.height, rise));
 }
 
-// One draw from the middle, as far as the reach in both directions.
 std::int64_t drawAround(std::int64_t middle, std::int64_t reach, const RandomSource &random)
 {
-    const std::int64_t lowest = difference(middle, reach);
-    return random.fresh(lowest, sum(middle, reach))();
+    const std::int64_t lowest = checkedSubtract(middle, reach);
+    return random.fresh(lowest, checkedAdd(middle, reach))();
 }
 
 } // namespace
@@ -88,8 +92,10 @@ std::int64_t drawAround(std::int64_t middle, std::int64_t reach, const RandomSou
 DriftRanges driftRanges(const DriftScreen &screen)
 {
     const Halves half(screen);
-    return {
-        {half.width, integer(screen.width)}, {0, half.width}, {0, half.height}, {half.height, integer(screen.height)}};
+    return {{half.width, truncated(screen.width)},
+            {0, half.width},
+            {0, half.height},
+            {half.height, truncated(screen.height)}};
 }
 
 std::vector<Point> getTransitPoints(const DriftScreen &screen, const RandomSource &random)
@@ -116,21 +122,21 @@ Point getControlPoint(std::int64_t index, const std::vector<Point> &transitPoint
     const Halves half(screen);
     if (end.x == middleX || end.y == middleY)
         return {};
-    const bool onTheRight = end.x > middleX;
-    const bool atTheTop = end.y < middleY;
-    // Each quarter has a shape of its own; they are not meant to mirror each other.
-    if (onTheRight && !atTheTop) {
+    const bool isRight = end.x > middleX;
+    const bool isTop = end.y < middleY;
+    // The shapes differ from quarter to quarter on purpose.
+    if (isRight && !isTop) {
         const std::int64_t x = random.positiveX();
-        const std::int64_t reach = quotient(product(difference(x, half.width), half.height), half.width);
+        const std::int64_t reach = scaled(checkedSubtract(x, half.width), half.height, half.width);
         return point(x, drawAround(half.height, reach, random));
     }
-    if (!onTheRight && atTheTop) {
+    if (!isRight && isTop) {
         const std::int64_t x = random.negativeX();
-        const std::int64_t reach = quotient(product(x, half.height), half.width);
+        const std::int64_t reach = scaled(x, half.height, half.width);
         return point(x, drawAround(half.height, reach, random));
     }
-    const std::int64_t y = atTheTop ? random.positiveY() : random.negativeY();
-    const std::int64_t reach = quotient(product(y, half.width), half.height);
+    const std::int64_t y = isTop ? random.positiveY() : random.negativeY();
+    const std::int64_t reach = scaled(y, half.width, half.height);
     return point(drawAround(half.width, reach, random), y);
 }
 
@@ -142,7 +148,7 @@ Path driftPath(const std::vector<Point> &transitPoints, const DriftScreen &scree
         const auto control = [&] {
             return getControlPoint(static_cast<std::int64_t>(end), transitPoints, screen, random);
         };
-        // Braces keep the order of the draws.
+        // Braced initialisers are evaluated from left to right, which fixes the order of the draws.
         path.curves.push_back({control(), control(), transitPoints[end]});
     }
     return path;

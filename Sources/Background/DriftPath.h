@@ -8,14 +8,14 @@
 
 namespace TQFoundation {
 
-// The line that wanders over the screen: four points on a cycle around its centre, joined by curves. All of it counts
-// in whole points with 64-bit integers. A size that is not finite, a half of a side that is 0 when it is divided by,
-// and any overflow stop the process.
+// Geometry of one line of the animated background: a closed curve through four random points around the centre of the
+// screen. Coordinates are whole points, computed in checked signed 64-bit arithmetic. Overflow, division by zero and a
+// screen size that is not finite stop the process. Any thread.
 //
-// In the names of the sources x and y grow to the right and upwards, so that negative y is the lower half of the
-// screen.
+// The names of the random sources assume a y axis that points up: positive y is the upper half of the screen, where the
+// screen's own y coordinate is small.
 
-/// The screen that the line wanders over, in points.
+/// Size of the screen that the line is laid out for, in points.
 struct DriftScreen
 {
     double width = 0;
@@ -24,7 +24,7 @@ struct DriftScreen
     friend constexpr bool operator==(const DriftScreen &, const DriftScreen &) = default;
 };
 
-/// All integers from `lowest` to `highest`, both included.
+/// The integers from `lowest` to `highest`, both included.
 struct IntegerRange
 {
     std::int64_t lowest = 0;
@@ -33,51 +33,55 @@ struct IntegerRange
     friend constexpr bool operator==(const IntegerRange &, const IntegerRange &) = default;
 };
 
-/// What each of the long-lived sources draws from: the halves of the screen, which share the middle.
+/// The ranges of the four long-lived random sources: the halves of the screen. Both halves of an axis contain the
+/// middle.
 struct DriftRanges
 {
-    IntegerRange positiveX; ///< The right half.
-    IntegerRange negativeX; ///< The left half.
-    IntegerRange positiveY; ///< The upper half, where y is small.
-    IntegerRange negativeY; ///< The lower half.
+    IntegerRange positiveX; ///< Right half.
+    IntegerRange negativeX; ///< Left half.
+    IntegerRange positiveY; ///< Upper half.
+    IntegerRange negativeY; ///< Lower half.
 
     friend constexpr bool operator==(const DriftRanges &, const DriftRanges &) = default;
 };
 
-/// The ranges for \a screen. Halves and sides are truncated towards zero, each for itself.
+/// The ranges for \a screen. Each half and each side is truncated towards zero by itself.
 DriftRanges driftRanges(const DriftScreen &screen);
 
-/// Draws the next integer of a source.
+/// Returns the next random integer.
 using IntegerSource = std::function<std::int64_t()>;
 
-/// Where the random integers come from. Each function is called once for each draw.
+/// The random numbers that a line is made of. Each function is called once per draw.
 struct RandomSource
 {
-    std::function<std::uint32_t()> chooser; ///< 0 to 3, all equally likely: where the cycle begins.
-    IntegerSource positiveX; ///< Over the range of that name, as are the next three.
+    std::function<std::uint32_t()> chooser; ///< Uniform from 0 to 3: the slot that the cycle of points starts with.
+    IntegerSource positiveX; ///< Draws from the range of the same name, as do the next three.
     IntegerSource negativeX;
     IntegerSource positiveY;
     IntegerSource negativeY;
 
-    /// Makes a source over an inclusive range, for a single draw.
+    /// Makes a source over an inclusive range. It is used for one draw and dropped.
     std::function<IntegerSource(std::int64_t lowest, std::int64_t highest)> fresh;
 };
 
-/// Four points that a line passes through, clockwise as seen: top right, bottom right, bottom left, top left, starting
-/// with the one that the chooser names, and drawn in that order. Those on the right lie on the diagonals from the
-/// centre to the corners, those on the left on the lines that join the middles of the sides. (0, 0) four times, and
-/// nothing drawn, where the chooser leaves its range.
+/// Returns the four points that a line passes through, clockwise on the screen: top right, bottom right, bottom left,
+/// top left, rotated so that the slot named by the chooser comes first. They are drawn in that order.
+///
+/// Points on the right lie on the diagonals from the centre to the corners. Points on the left lie on the lines that
+/// join the midpoints of the screen's edges. If the chooser returns more than 3, all four points are (0, 0) and nothing
+/// else is drawn.
 std::vector<Point> getTransitPoints(const DriftScreen &screen, const RandomSource &random);
 
-/// A control point for the curve that ends at \a transitPoints[\a index], from a triangle or trapezium that belongs to
-/// that point's quarter of the screen; below left it may lie off the screen. One draw from a long-lived source and one
-/// from a fresh one. For a point that is exactly on the centre row or column it is (0, 0), and nothing is drawn. An
-/// index outside the points stops the process.
+/// Returns a control point for the curve that ends at \a transitPoints[\a index], from a triangle or trapezium that
+/// belongs to the quarter of the screen in which that point lies. In the lower left it may lie off the screen.
+///
+/// Draws once from a long-lived source and once from a fresh one. If the end point lies exactly on the centre row or
+/// column, the result is (0, 0) and nothing is drawn. An index outside the points stops the process.
 Point getControlPoint(std::int64_t index, const std::vector<Point> &transitPoints, const DriftScreen &screen,
                       const RandomSource &random);
 
-/// The closed line through the four \a transitPoints and back to the first. The control points are drawn in the order
-/// of the curves, two for each, both for the point where the curve ends. Fewer than four points stop the process.
+/// Returns the closed line through the four \a transitPoints. The control points are drawn in the order of the curves,
+/// two per curve, both for the point at which the curve ends. Fewer than four points stop the process.
 Path driftPath(const std::vector<Point> &transitPoints, const DriftScreen &screen, const RandomSource &random);
 
 } // namespace TQFoundation

@@ -9,8 +9,8 @@
 namespace TQFoundation {
 namespace {
 
-// The system is asked for randomness once: asking takes far longer than a draw.
-std::uint64_t unknownSeed()
+// Asks the system for entropy once per process: that takes far longer than a draw.
+std::uint64_t randomSeed()
 {
     static std::atomic<std::uint64_t> state = [] {
         std::random_device device;
@@ -22,12 +22,12 @@ std::uint64_t unknownSeed()
 } // namespace
 
 ShuffledDistribution::ShuffledDistribution(std::int64_t lowestValue, std::int64_t highestValue)
-    : ShuffledDistribution(lowestValue, highestValue, unknownSeed())
+    : ShuffledDistribution(lowestValue, highestValue, randomSeed())
 {}
 
 ShuffledDistribution::ShuffledDistribution(std::int64_t lowestValue, std::int64_t highestValue, std::uint64_t seed)
     : m_lowestValue(lowestValue),
-      m_highest(static_cast<std::uint64_t>(highestValue) - static_cast<std::uint64_t>(lowestValue)),
+      m_span(static_cast<std::uint64_t>(highestValue) - static_cast<std::uint64_t>(lowestValue)),
       m_engine(seed)
 {
     precondition(lowestValue <= highestValue);
@@ -35,7 +35,7 @@ ShuffledDistribution::ShuffledDistribution(std::int64_t lowestValue, std::int64_
 
 std::int64_t ShuffledDistribution::nextInt()
 {
-    std::uniform_int_distribution<std::uint64_t> uniform(0, m_highest);
+    std::uniform_int_distribution<std::uint64_t> uniform(0, m_span);
     std::uint64_t next = uniform(m_engine);
     if (m_previous && isNear(next, *m_previous))
         next = uniform(m_engine);
@@ -45,10 +45,10 @@ std::int64_t ShuffledDistribution::nextInt()
 
 bool ShuffledDistribution::isNear(std::uint64_t one, std::uint64_t other) const noexcept
 {
-    const std::uint64_t apart = std::max(one, other) - std::min(one, other);
-    // Around the ends there is one step more than the range has; for equal values of the whole range it wraps to 0.
-    const std::uint64_t aroundTheEnds = m_highest - apart + 1;
-    return std::min(apart, aroundTheEnds) <= m_highest / 8;
+    const std::uint64_t distance = std::max(one, other) - std::min(one, other);
+    // Wraps to 0 for equal values of the full 64-bit range, for which 0 is also the right distance.
+    const std::uint64_t distanceAroundTheEnds = m_span - distance + 1;
+    return std::min(distance, distanceAroundTheEnds) <= m_span / 8;
 }
 
 } // namespace TQFoundation

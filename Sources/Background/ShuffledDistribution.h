@@ -6,8 +6,8 @@
 
 namespace TQFoundation {
 
-/// A small random engine of 64 bits, for the distributions of the standard library. SplitMix64: Steele, Lea and Flood,
-/// "Fast Splittable Pseudorandom Number Generators", OOPSLA 2014.
+/// A 64-bit pseudorandom number generator for the distributions of the standard library: SplitMix64 by Steele, Lea and
+/// Flood, "Fast Splittable Pseudorandom Number Generators", OOPSLA 2014. Not suitable for cryptography.
 class SplitMix64
 {
 public:
@@ -22,7 +22,7 @@ public:
 
     static constexpr std::uint64_t step = 0x9e3779b97f4a7c15;
 
-    /// What is drawn in the state \a state: a one-to-one map.
+    /// Returns the number drawn in \a state. The map is one-to-one.
     static constexpr std::uint64_t mixed(std::uint64_t state) noexcept
     {
         state = (state ^ (state >> 30)) * 0xbf58476d1ce4e5b9;
@@ -34,32 +34,31 @@ private:
     std::uint64_t m_state;
 };
 
-/// Draws integers of an inclusive range, each as often as any other, in an order that keeps neighbours apart: a draw
-/// that comes near the one before it is made once more. Similar values in a row are thus unlikely, though none is ever
-/// ruled out.
+/// Draws uniformly from an inclusive range of integers while making runs of similar values unlikely.
 ///
-/// Near is within an eighth of the range, counted around its ends. How far one draw lies from the one before, around
-/// the ends, is then independent of where that one was, which is why every single draw is exactly uniform. Time and
-/// memory do not depend on the range. A plain value: a copy goes on as the original would. One thread at a time.
+/// A draw within an eighth of the range of the previous one, counted cyclically, is drawn again once; no value is ever
+/// excluded. The cyclic distance between two successive draws does not depend on the first of them, so each single draw
+/// is exactly uniform. Time and memory are constant. A value type: a copy continues the same sequence. One thread at a
+/// time.
 class ShuffledDistribution
 {
 public:
-    /// Over the integers from \a lowestValue to \a highestValue, in an order that no one knows. A lowest value above
-    /// the highest stops the process. Any thread.
+    /// Draws from \a lowestValue to \a highestValue in an unpredictable order. If the lowest value is greater than the
+    /// highest, the process stops. Any thread.
     ShuffledDistribution(std::int64_t lowestValue, std::int64_t highestValue);
 
-    /// The same in an order that depends on \a seed alone (and on the standard library).
+    /// Draws in an order that depends on \a seed alone (and on the standard library).
     ShuffledDistribution(std::int64_t lowestValue, std::int64_t highestValue, std::uint64_t seed);
 
+    /// Returns the next integer of the range.
     std::int64_t nextInt();
 
 private:
     bool isNear(std::uint64_t one, std::uint64_t other) const noexcept;
 
-    // Draws are kept as what they are above the lowest value.
     std::int64_t m_lowestValue;
-    std::uint64_t m_highest;
-    std::optional<std::uint64_t> m_previous;
+    std::uint64_t m_span; // the highest value minus the lowest
+    std::optional<std::uint64_t> m_previous; // minus the lowest value
     SplitMix64 m_engine;
 };
 

@@ -6,7 +6,7 @@ namespace TQFoundation {
 
 TQRandomBackgroundView::TQRandomBackgroundView(QQuickItem *parent) : TQRandomBackgroundView(Color(), parent) {}
 
-// The parent is set last: it may place the item, which wants the colour.
+// Sets the parent last: a parent in a window starts the background, which needs the colour.
 TQRandomBackgroundView::TQRandomBackgroundView(const Color &color, QQuickItem *parent) : m_color(color)
 {
     setParent(parent);

@@ -12,13 +12,13 @@ namespace TQFoundation {
 
 class AnimationView;
 
-/// The animated background as a host places it, in QML or C++, usually beneath its content:
-/// `TQRandomBackgroundView { anchors.fill: parent; color: TQApp.hazel.tintColor }`.
+/// Animated background of a screen: every ten seconds a new closed line draws itself and starts to fade. Placed in QML
+/// or C++, usually below the content: `TQRandomBackgroundView { anchors.fill: parent; color: TQApp.hazel.tintColor }`.
 ///
-/// The item makes one AnimationView, as large as itself, once it is complete and lies in a window; its ticking starts
-/// there and then. What is drawn is laid out for the whole screen, not for the item. Each later update, which is a new
-/// colour or another window, hands on the colour and disturbs nothing. Nothing stops the ticking, not even the end of
-/// the item. It takes no input and is not seen by assistive technology. Main thread only.
+/// As soon as the item is complete and in a window, it makes one AnimationView of its own size and starts its timer.
+/// The line is laid out for the whole screen, not for the item. Later changes of colour or window reach that view and
+/// do not restart it. Nothing stops the timer, not even destroying the item. The item accepts no input and has no
+/// accessible interface. GUI thread only.
 class TQFOUNDATION_EXPORT TQRandomBackgroundView : public QQuickItem
 {
     Q_OBJECT
@@ -26,23 +26,23 @@ class TQFOUNDATION_EXPORT TQRandomBackgroundView : public QQuickItem
     Q_PROPERTY(TQFoundation::Color color READ color WRITE setColor NOTIFY colorChanged REQUIRED FINAL)
 
 public:
-    /// A background without a colour yet, as QML makes it.
+    /// Makes a background with the colour `clear`, for QML, where `color` is a required property.
     explicit TQRandomBackgroundView(QQuickItem *parent = nullptr);
 
-    /// A background of \a color, as C++ makes it.
+    /// Makes a background of \a color, for C++.
     explicit TQRandomBackgroundView(const Color &color, QQuickItem *parent = nullptr);
     ~TQRandomBackgroundView() override;
 
-    /// The colour of the line, always drawn at alpha 0.2. A new one shows from the next tick on.
+    /// Colour of the line. Its alpha is replaced by 0.2.
     Color color() const { return m_color; }
-    /// Hands the colour on; the line that is being drawn keeps its own.
+    /// Sets the colour from the next tick on; the current line keeps its own.
     void setColor(const Color &color);
 
 Q_SIGNALS:
-    void colorChanged(); ///< It was given another colour.
+    void colorChanged(); ///< The colour has a new value.
 
 protected:
-    /// @{ What the toolkit tells the item. A class that overrides it passes it on.
+    /// @{ Qt Quick's event handlers. An override calls the base class.
     void componentComplete() override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
@@ -52,7 +52,7 @@ private:
     void updateView();
 
     Color m_color;
-    std::shared_ptr<AnimationView> m_view; // null until the item is placed
+    std::shared_ptr<AnimationView> m_view; // null until the item is complete and in a window
 };
 
 } // namespace TQFoundation

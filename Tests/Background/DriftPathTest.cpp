@@ -18,7 +18,7 @@ using Testing::trapSignal;
 constexpr DriftScreen phone{390, 844};
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-/// Answers what it is told, in that order, and writes down what it is asked for.
+/// Random source that returns prepared draws, 0 after the last one, and records which sources were asked.
 class Script
 {
 public:
@@ -57,14 +57,13 @@ private:
 
 using Log = std::vector<std::string>;
 
-// A point's control point, and what was drawn for it.
-struct Controlled
+struct ControlPoint
 {
     Point point;
-    Log log;
+    Log log; // the sources that were drawn from
 };
 
-Controlled control(const Point &end, const DriftScreen &screen, std::deque<std::int64_t> draws)
+ControlPoint control(const Point &end, const DriftScreen &screen, std::deque<std::int64_t> draws)
 {
     Script script(std::move(draws));
     const Point point = getControlPoint(0, {end}, screen, script.source);
@@ -73,26 +72,26 @@ Controlled control(const Point &end, const DriftScreen &screen, std::deque<std::
 
 // The ranges.
 
-TEST(DriftRanges, AreTheHalvesOfTheScreenWhichShareTheMiddle)
+TEST(DriftRanges, AreScreenHalvesSharingTheMiddle)
 {
     EXPECT_EQ(driftRanges(phone), (DriftRanges{{195, 390}, {0, 195}, {0, 422}, {422, 844}}));
 }
 
-TEST(DriftRanges, TruncateHalvesAndSidesEachForItself)
+TEST(DriftRanges, TruncateEachHalfAndSideSeparately)
 {
     EXPECT_EQ(driftRanges({375, 667}), (DriftRanges{{187, 375}, {0, 187}, {0, 333}, {333, 667}}));
     EXPECT_EQ(driftRanges({411.9, 3.98}), (DriftRanges{{205, 411}, {0, 205}, {0, 1}, {1, 3}}));
     EXPECT_EQ(driftRanges({-3.9, 1.5}), (DriftRanges{{-1, -3}, {0, -1}, {0, 0}, {0, 1}})) << "towards zero";
 }
 
-TEST(DriftRanges, ReachTheWholeOfSigned64Bits)
+TEST(DriftRanges, CoverAllOfSigned64Bits)
 {
     const double largest = 9223372036854774784.0; // the double just below 2^63
     EXPECT_EQ(driftRanges({largest, 2}).positiveX.highest, 9223372036854774784);
     EXPECT_EQ(driftRanges({-0x1p63, 2}).positiveX.highest, std::numeric_limits<std::int64_t>::min());
 }
 
-TEST(DriftRangesDeathTest, AScreenThatIsNotFiniteOrTooLargeStopsTheProcess)
+TEST(DriftRangesDeathTest, NonFiniteOrHugeScreenStopsProcess)
 {
     for (const double side :
          {std::numeric_limits<double>::quiet_NaN(), infinity, -infinity, 0x1p63, -0x1.0000000000001p63}) {
@@ -103,14 +102,14 @@ TEST(DriftRangesDeathTest, AScreenThatIsNotFiniteOrTooLargeStopsTheProcess)
 
 // The four points.
 
-TEST(TransitPoints, OfTheWorkedExample)
+TEST(TransitPoints, MatchTheWorkedExample)
 {
     const Script script({300, 250, 100, 50});
     const std::vector<Point> points{{300, 195}, {250, 541}, {100, 638}, {50, 314}};
     EXPECT_EQ(getTransitPoints(phone, script.source), points);
 }
 
-TEST(TransitPoints, AreDrawnInTheOrderOfTheSlotsAfterOneChoice)
+TEST(TransitPoints, AreDrawnInSlotOrderAfterOneChoice)
 {
     const std::array<Log, 4> orders{Log{"chooser", "positiveX", "positiveX", "negativeX", "negativeX"},
                                     Log{"chooser", "positiveX", "negativeX", "negativeX", "positiveX"},
@@ -123,7 +122,7 @@ TEST(TransitPoints, AreDrawnInTheOrderOfTheSlotsAfterOneChoice)
     }
 }
 
-TEST(TransitPoints, AreARotationOfOneCycleForEveryChoice)
+TEST(TransitPoints, AreRotationsOfOneCycleForEveryChoice)
 {
     const std::array<std::int64_t, 4> draws{300, 250, 100, 50};
     std::vector<Point> cycle = getTransitPoints(phone, Script({300, 250, 100, 50}).source);
@@ -153,7 +152,7 @@ TEST(TransitPoints, RunClockwiseOnTheScreen)
     }
 }
 
-TEST(TransitPoints, LieOnTheDiagonalsOnTheRightAndOnTheDiamondOnTheLeft)
+TEST(TransitPoints, LieOnRightDiagonalsAndLeftDiamond)
 {
     EXPECT_EQ(getTransitPoints(phone, Script({195, 195, 0, 0}).source),
               (std::vector<Point>{{195, 422}, {195, 422}, {0, 422}, {0, 422}}));
@@ -161,14 +160,14 @@ TEST(TransitPoints, LieOnTheDiagonalsOnTheRightAndOnTheDiamondOnTheLeft)
               (std::vector<Point>{{390, 0}, {390, 844}, {195, 844}, {195, 0}}));
 }
 
-TEST(TransitPoints, MultiplyBeforeTheyDivideAndTruncateTowardsZero)
+TEST(TransitPoints, MultiplyBeforeDividingAndTruncateTowardsZero)
 {
     // 1 * 422 / 195 is 2; -1 * 422 / 195 is -2, not -3.
     EXPECT_EQ(getTransitPoints(phone, Script({196, 194, 1, -1}).source),
               (std::vector<Point>{{196, 420}, {194, 420}, {1, 424}, {-1, 424}}));
 }
 
-TEST(TransitPoints, AreAllZeroAndNothingIsDrawnWhereTheChoiceLeavesItsRange)
+TEST(TransitPoints, AreZeroWithoutDrawsForInvalidChoice)
 {
     for (const std::uint32_t choice : {4U, 5U, std::numeric_limits<std::uint32_t>::max()}) {
         Script script({300, 250, 100, 50}, choice);
@@ -177,13 +176,13 @@ TEST(TransitPoints, AreAllZeroAndNothingIsDrawnWhereTheChoiceLeavesItsRange)
     }
 }
 
-TEST(TransitPointsDeathTest, AScreenLessThanTwoPointsWideStopsTheProcess)
+TEST(TransitPointsDeathTest, ScreenNarrowerThanTwoPointsStopsTheProcess)
 {
     EXPECT_EXIT(getTransitPoints({1.9, 844}, Script({}).source), testing::KilledBySignal(trapSignal), "");
     EXPECT_EXIT(getTransitPoints({0, 0}, Script({}).source), testing::KilledBySignal(trapSignal), "");
 }
 
-TEST(TransitPointsDeathTest, AScreenThatIsNotFiniteStopsTheProcess)
+TEST(TransitPointsDeathTest, NonFiniteScreenStopsTheProcess)
 {
     EXPECT_EXIT(getTransitPoints({390, infinity}, Script({}).source), testing::KilledBySignal(trapSignal), "");
     EXPECT_EXIT(getTransitPoints({std::numeric_limits<double>::quiet_NaN(), 844}, Script({}).source),
@@ -194,7 +193,7 @@ TEST(TransitPointsDeathTest, AnyOverflowStopsTheProcess)
 {
     constexpr std::int64_t least = std::numeric_limits<std::int64_t>::min();
     constexpr std::int64_t greatest = std::numeric_limits<std::int64_t>::max();
-    // The subtraction of the middle, the product, the division, and the last sum or difference, each alone.
+    // One case each: subtracting the middle, multiplying, dividing, and the last addition and subtraction.
     EXPECT_EXIT(getTransitPoints(phone, Script({least}).source), testing::KilledBySignal(trapSignal), "");
     EXPECT_EXIT(getTransitPoints(phone, Script({greatest}).source), testing::KilledBySignal(trapSignal), "");
     EXPECT_EXIT(getTransitPoints({-2, 2}, Script({0, 0, least, 0}).source), testing::KilledBySignal(trapSignal), "");
@@ -204,40 +203,40 @@ TEST(TransitPointsDeathTest, AnyOverflowStopsTheProcess)
 
 // Control points.
 
-TEST(ControlPoint, AboveRightOfTheWorkedExample)
+TEST(ControlPoint, UpperRightMatchesTheWorkedExample)
 {
     const auto [point, log] = control({300, 195}, phone, {100, 200});
     EXPECT_EQ(log, (Log{"positiveY", "149..241"}));
     EXPECT_EQ(point, (Point{200, 100}));
 }
 
-TEST(ControlPoint, BelowRightOfTheWorkedExample)
+TEST(ControlPoint, LowerRightMatchesTheWorkedExample)
 {
     const auto [point, log] = control({250, 541}, phone, {300, 200});
     EXPECT_EQ(log, (Log{"positiveX", "195..649"}));
     EXPECT_EQ(point, (Point{300, 200}));
 }
 
-TEST(ControlPoint, BelowLeftOfTheWorkedExample)
+TEST(ControlPoint, LowerLeftMatchesTheWorkedExample)
 {
     const auto [point, log] = control({100, 638}, phone, {700, -100});
     EXPECT_EQ(log, (Log{"negativeY", "-128..518"}));
     EXPECT_EQ(point, (Point{-100, 700}));
 }
 
-TEST(ControlPoint, AboveLeftOfTheWorkedExample)
+TEST(ControlPoint, UpperLeftMatchesTheWorkedExample)
 {
     const auto [point, log] = control({50, 314}, phone, {150, 98});
     EXPECT_EQ(log, (Log{"negativeX", "98..746"}));
     EXPECT_EQ(point, (Point{150, 98}));
 }
 
-TEST(ControlPoint, BelowLeftMayLieOffTheScreenOnBothSides)
+TEST(ControlPoint, LowerLeftMayLieOffScreen)
 {
     EXPECT_EQ(control({100, 638}, phone, {844}).log, (Log{"negativeY", "-195..585"}));
 }
 
-TEST(ControlPoint, OfTheOtherQuartersComesFromTrianglesWithTheirTipsOnTheScreen)
+TEST(ControlPoint, OtherQuartersDrawFromTrianglesOnScreen)
 {
     EXPECT_EQ(control({300, 195}, phone, {0}).log, (Log{"positiveY", "195..195"}));
     EXPECT_EQ(control({300, 195}, phone, {422}).log, (Log{"positiveY", "0..390"}));
@@ -247,7 +246,7 @@ TEST(ControlPoint, OfTheOtherQuartersComesFromTrianglesWithTheirTipsOnTheScreen)
     EXPECT_EQ(control({50, 314}, phone, {195}).log, (Log{"negativeX", "0..844"}));
 }
 
-TEST(ControlPoint, OnTheCentreColumnOrRowIsZeroAndNothingIsDrawn)
+TEST(ControlPoint, IsZeroOnCentreRowOrColumn)
 {
     for (const Point &end : {Point{195, 100}, Point{195, 700}, Point{100, 422}, Point{300, 422}, Point{195, 422}}) {
         const auto [point, log] = control(end, phone, {100, 100});
@@ -256,30 +255,30 @@ TEST(ControlPoint, OnTheCentreColumnOrRowIsZeroAndNothingIsDrawn)
     }
 }
 
-TEST(ControlPoint, OfARightHandPointDrawnInTheMiddleOfAnEvenScreenIsZero)
+TEST(ControlPoint, IsZeroForPointAtMiddleOfScreen)
 {
     const std::vector<Point> points = getTransitPoints(phone, Script({195, 195, 100, 50}).source);
     for (const std::int64_t index : {0, 1})
         EXPECT_EQ(getControlPoint(index, points, phone, Script({9, 9}).source), Point());
 }
 
-TEST(ControlPoint, OfALeftHandPointDrawnAtTheEdgeOfAnEvenScreenIsZero)
+TEST(ControlPoint, IsZeroForPointAtLeftEdge)
 {
     const std::vector<Point> points = getTransitPoints(phone, Script({300, 250, 0, 0}).source);
     for (const std::int64_t index : {2, 3})
         EXPECT_EQ(getControlPoint(index, points, phone, Script({9, 9}).source), Point());
 }
 
-TEST(ControlPoint, OfARightHandPointLeftOfTheMiddleOfAnOddScreenCountsAsLeftHand)
+TEST(ControlPoint, RightPointLeftOfMiddleCountsAsLeft)
 {
     constexpr DriftScreen odd{375, 667};
     const std::vector<Point> points = getTransitPoints(odd, Script({187, 187, 100, 50}).source);
-    ASSERT_EQ(points[0], (Point{187, 333})) << "a little left of 187.5 and above 333.5";
+    ASSERT_EQ(points[0], (Point{187, 333})) << "just left of 187.5 and just above 333.5";
     EXPECT_EQ(control(points[0], odd, {10, 0}).log.front(), "negativeX");
     EXPECT_EQ(control({187, 400}, odd, {400, 0}).log.front(), "negativeY");
 }
 
-TEST(ControlPointDeathTest, AnIndexOutsideThePointsStopsTheProcess)
+TEST(ControlPointDeathTest, IndexOutOfRangeStopsTheProcess)
 {
     const Script script({100, 100});
     const std::vector<Point> points{{300, 195}, {250, 541}, {100, 638}, {50, 314}};
@@ -289,9 +288,9 @@ TEST(ControlPointDeathTest, AnIndexOutsideThePointsStopsTheProcess)
     EXPECT_EXIT(getControlPoint(0, {}, phone, script.source), testing::KilledBySignal(trapSignal), "");
 }
 
-TEST(ControlPointDeathTest, AScreenWithAHalfOfZeroStopsTheProcess)
+TEST(ControlPointDeathTest, ZeroHalfOfScreenStopsTheProcess)
 {
-    // Each quarter divides by the half that its shape is measured against.
+    // One end point in each quarter.
     constexpr DriftScreen flat{390, 1.9};
     constexpr DriftScreen narrow{1.9, 844};
     EXPECT_EXIT(control({300, 0}, flat, {100}), testing::KilledBySignal(trapSignal), "");
@@ -308,13 +307,13 @@ TEST(ControlPointDeathTest, AnyOverflowStopsTheProcess)
         for (const Point &end : {Point{300, 195}, Point{250, 541}, Point{100, 638}, Point{50, 314}})
             EXPECT_EXIT(control(end, phone, {draw}), testing::KilledBySignal(trapSignal), "");
     }
-    // Where the reach itself still fits, the sum with the middle does not.
+    // The product fits, adding the middle overflows.
     EXPECT_EXIT(control({3, 0}, {4, 2}, {greatest / 2}), testing::KilledBySignal(trapSignal), "");
 }
 
 // The line.
 
-TEST(DriftPath, IsDrawnInAFixedOrder)
+TEST(DriftPath, DrawsRandomNumbersInFixedOrder)
 {
     Script script({300, 250, 100, 50});
     const std::vector<Point> points = getTransitPoints(phone, script.source);
@@ -324,16 +323,16 @@ TEST(DriftPath, IsDrawnInAFixedOrder)
                                               "negativeX", "positiveY", "positiveY"};
     Log longLived;
     for (std::size_t index = 0; index < script.log.size(); ++index) {
-        // After the points every second draw is one of a fresh source.
-        const bool fresh = index >= 5 && index % 2 == 0;
-        EXPECT_EQ(script.log[index].find("..") != std::string::npos, fresh) << script.log[index];
-        if (!fresh)
+        // After the four points, every second draw is from a fresh source.
+        const bool isFresh = index >= 5 && index % 2 == 0;
+        EXPECT_EQ(script.log[index].find("..") != std::string::npos, isFresh) << script.log[index];
+        if (!isFresh)
             longLived.push_back(script.log[index]);
     }
     EXPECT_EQ(longLived, Log(sources.begin(), sources.end()));
 }
 
-TEST(DriftPath, GoesThroughThePointsAndBackWithControlPointsOfEachEnd)
+TEST(DriftPath, PassesThroughPointsWithDrawnControlPoints)
 {
     const std::vector<Point> points{{300, 195}, {250, 541}, {100, 638}, {50, 314}};
     const Script script({300, 200, 310, 210, 700, -100, 710, -90, 150, 98, 160, 99, 100, 200, 110, 210});
@@ -347,7 +346,7 @@ TEST(DriftPath, GoesThroughThePointsAndBackWithControlPointsOfEachEnd)
                     true}));
 }
 
-TEST(DriftPath, TheSourcesOnTheXAxisGoOnFromPointsToControlPointsAndFromLineToLine)
+TEST(DriftPath, XSourcesContinueFromLineToLine)
 {
     std::int64_t right = 200;
     std::int64_t left = 50;
@@ -379,8 +378,8 @@ TEST(DriftPathDeathTest, FewerThanFourPointsStopTheProcess)
     EXPECT_EXIT(driftPath({}, phone, Script({}).source), testing::KilledBySignal(trapSignal), "");
 }
 
-// Against the same formulas in arithmetic that cannot overflow.
-TEST(DriftPath, AgreesWithWiderArithmeticOnAnyScreen)
+// The same formulas in arithmetic that cannot overflow.
+TEST(DriftPath, MatchesWiderArithmeticOnAnyScreen)
 {
     __extension__ using Wide = __int128;
     std::mt19937_64 engine(5);

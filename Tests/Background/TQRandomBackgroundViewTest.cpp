@@ -17,10 +17,10 @@ using Testing::QmlWindow;
 constexpr Rgba red{1, 0, 0};
 constexpr Rgba green{0, 1, 0};
 
-class RandomBackground : public testing::Test
+class TQRandomBackgroundViewTest : public testing::Test
 {
 protected:
-    // The view that a placed background shows, or null before.
+    // The view of a background, or null before it is made.
     static AnimationView *viewIn(const QQuickItem *background)
     {
         const QList<QQuickItem *> children = background->childItems();
@@ -34,7 +34,7 @@ protected:
         return view && view->shapeLayer() ? view->shapeLayer()->strokeColor : Rgba();
     }
 
-    static Rgba atAFifth(const Color &color)
+    static Rgba strokeColor(const Color &color)
     {
         Rgba drawn = color.resolved(Appearance::light);
         drawn.alpha = 0.2F;
@@ -46,25 +46,26 @@ protected:
     InstalledRecordingPlatform platform;
 };
 
-TEST_F(RandomBackground, InQmlHasItsColourBeforeItsFirstTick)
+TEST_F(TQRandomBackgroundViewTest, HasColorAtFirstTickInQml)
 {
     const QmlWindow host("TQRandomBackgroundView { color: TQApp.larch.tintColor }");
     ASSERT_TRUE(host.item);
-    EXPECT_EQ(drawnColor(viewIn(host.item)), atAFifth(TQApp::larch.tintColor()));
+    EXPECT_EQ(drawnColor(viewIn(host.item)), strokeColor(TQApp::larch.tintColor()));
     EXPECT_EQ(timersMade(), 1);
 }
 
-TEST_F(RandomBackground, InAWindowOfQmlHasItsColourBeforeItsFirstTickToo)
+TEST_F(TQRandomBackgroundViewTest, HasColorAtFirstTickInQmlWindow)
 {
-    // There it is in the window before its bindings are evaluated.
+    // Here the item is in the window before its bindings are evaluated.
     const QmlWindow host("Window { TQRandomBackgroundView { color: TQApp.larch.tintColor } }");
     const auto *window = qobject_cast<QQuickWindow *>(host.object.get());
     ASSERT_TRUE(window);
-    EXPECT_EQ(drawnColor(viewIn(window->contentItem()->childItems().constFirst())), atAFifth(TQApp::larch.tintColor()));
+    EXPECT_EQ(drawnColor(viewIn(window->contentItem()->childItems().constFirst())),
+              strokeColor(TQApp::larch.tintColor()));
     EXPECT_EQ(timersMade(), 1);
 }
 
-TEST_F(RandomBackground, InQmlCannotBeMadeWithoutAColour)
+TEST_F(TQRandomBackgroundViewTest, RequiresColorInQml)
 {
     QQmlEngine engine;
     QQmlComponent component(&engine);
@@ -75,16 +76,16 @@ TEST_F(RandomBackground, InQmlCannotBeMadeWithoutAColour)
     EXPECT_EQ(timersMade(), 0);
 }
 
-TEST_F(RandomBackground, InCppStartsWhereItIsPlaced)
+TEST_F(TQRandomBackgroundViewTest, StartsWithParentInWindow)
 {
     QQuickWindow window;
     TQRandomBackgroundView background(Color(red), window.contentItem());
     EXPECT_EQ(background.color(), Color(red));
     EXPECT_EQ(background.parentItem(), window.contentItem());
-    EXPECT_EQ(drawnColor(viewIn(&background)), atAFifth(red));
+    EXPECT_EQ(drawnColor(viewIn(&background)), strokeColor(red));
 }
 
-TEST_F(RandomBackground, MakesNothingBeforeItIsInAWindow)
+TEST_F(TQRandomBackgroundViewTest, MakesNoViewOutsideAWindow)
 {
     QQuickItem page;
     TQRandomBackgroundView background(Color(red), &page);
@@ -93,23 +94,23 @@ TEST_F(RandomBackground, MakesNothingBeforeItIsInAWindow)
     EXPECT_EQ(timersMade(), 0);
     QQuickWindow window;
     page.setParentItem(window.contentItem());
-    EXPECT_EQ(drawnColor(viewIn(&background)), atAFifth(green));
+    EXPECT_EQ(drawnColor(viewIn(&background)), strokeColor(green));
     EXPECT_EQ(timersMade(), 1);
 }
 
-TEST_F(RandomBackground, EveryPlacementHasAViewOfItsOwn)
+TEST_F(TQRandomBackgroundViewTest, EachInstanceHasItsOwnView)
 {
     const QmlWindow host("Item { TQRandomBackgroundView { color: TQApp.larch.tintColor }\n"
                          "TQRandomBackgroundView { color: TQApp.birch.tintColor } }");
     const QList<QQuickItem *> backgrounds = host.item->childItems();
     ASSERT_EQ(backgrounds.size(), 2);
     EXPECT_NE(viewIn(backgrounds[0]), viewIn(backgrounds[1]));
-    EXPECT_EQ(drawnColor(viewIn(backgrounds[0])), atAFifth(TQApp::larch.tintColor()));
-    EXPECT_EQ(drawnColor(viewIn(backgrounds[1])), atAFifth(TQApp::birch.tintColor()));
+    EXPECT_EQ(drawnColor(viewIn(backgrounds[0])), strokeColor(TQApp::larch.tintColor()));
+    EXPECT_EQ(drawnColor(viewIn(backgrounds[1])), strokeColor(TQApp::birch.tintColor()));
     EXPECT_EQ(timersMade(), 2);
 }
 
-TEST_F(RandomBackground, GivesItsViewWhateverSizeItHas)
+TEST_F(TQRandomBackgroundViewTest, ResizesItsView)
 {
     QQuickWindow window;
     TQRandomBackgroundView background(Color(red), window.contentItem());
@@ -123,7 +124,7 @@ TEST_F(RandomBackground, GivesItsViewWhateverSizeItHas)
     EXPECT_EQ(viewIn(&sized)->size(), QSizeF(30, 40));
 }
 
-TEST_F(RandomBackground, UpdatesMakeNoSecondTimerAndNoTick)
+TEST_F(TQRandomBackgroundViewTest, UpdatesDoNotRestartTheTimer)
 {
     QQuickWindow window;
     TQRandomBackgroundView background(Color(red), window.contentItem());
@@ -140,7 +141,7 @@ TEST_F(RandomBackground, UpdatesMakeNoSecondTimerAndNoTick)
     EXPECT_EQ(*view->shapeLayer(), line);
 }
 
-TEST_F(RandomBackground, ANewColourShowsOnlyAtTheNextTick)
+TEST_F(TQRandomBackgroundViewTest, NewColorAppliesFromNextTick)
 {
     const QmlWindow host("TQRandomBackgroundView { property bool other: false\n"
                          "color: other ? TQApp.birch.tintColor : TQApp.larch.tintColor }");
@@ -148,12 +149,12 @@ TEST_F(RandomBackground, ANewColourShowsOnlyAtTheNextTick)
     host.item->setProperty("other", true);
     EXPECT_EQ(view->color(), TQApp::birch.tintColor());
     platform->advance(9.9);
-    EXPECT_EQ(drawnColor(view), atAFifth(TQApp::larch.tintColor()));
+    EXPECT_EQ(drawnColor(view), strokeColor(TQApp::larch.tintColor()));
     platform->advance(0.2);
-    EXPECT_EQ(drawnColor(view), atAFifth(TQApp::birch.tintColor()));
+    EXPECT_EQ(drawnColor(view), strokeColor(TQApp::birch.tintColor()));
 }
 
-TEST_F(RandomBackground, TellsOfAColourOnlyWhenItIsNew)
+TEST_F(TQRandomBackgroundViewTest, EmitsColorChangedOnlyForNewColor)
 {
     TQRandomBackgroundView background{Color(red)};
     int changes = 0;
@@ -165,7 +166,7 @@ TEST_F(RandomBackground, TellsOfAColourOnlyWhenItIsNew)
     EXPECT_EQ(background.property("color").value<Color>(), Color(green));
 }
 
-TEST_F(RandomBackground, NothingStopsWhenItIsTakenOutOfItsWindow)
+TEST_F(TQRandomBackgroundViewTest, KeepsTickingOutsideAnyWindow)
 {
     QQuickWindow window;
     TQRandomBackgroundView background(Color(red), window.contentItem());
@@ -176,11 +177,11 @@ TEST_F(RandomBackground, NothingStopsWhenItIsTakenOutOfItsWindow)
     EXPECT_NE(*view->shapeLayer(), line);
     QQuickWindow other;
     background.setParentItem(other.contentItem());
-    EXPECT_EQ(viewIn(&background), view) << "it is still the same placement";
+    EXPECT_EQ(viewIn(&background), view) << "the item keeps its view";
     EXPECT_EQ(timersMade(), 1);
 }
 
-TEST_F(RandomBackground, ItsViewOutlivesItTheWindowAndTheEngine)
+TEST_F(TQRandomBackgroundViewTest, ViewOutlivesItemWindowAndEngine)
 {
     std::weak_ptr<AnimationView> view;
     {
@@ -197,7 +198,7 @@ TEST_F(RandomBackground, ItsViewOutlivesItTheWindowAndTheEngine)
     EXPECT_TRUE(view.expired());
 }
 
-TEST_F(RandomBackground, HoldsItsViewWhenTheTimerHasGone)
+TEST_F(TQRandomBackgroundViewTest, HoldsItsViewAfterTimerIsInvalidated)
 {
     std::weak_ptr<AnimationView> view;
     QQuickWindow window;
@@ -210,7 +211,7 @@ TEST_F(RandomBackground, HoldsItsViewWhenTheTimerHasGone)
     EXPECT_TRUE(view.expired());
 }
 
-TEST_F(RandomBackground, LetsThroughWhatTheUserDoes)
+TEST_F(TQRandomBackgroundViewTest, PassesInputToItemsBelow)
 {
     const QmlWindow host("MouseArea { property int taps: 0; width: 100; height: 100; onClicked: ++taps\n"
                          "TQRandomBackgroundView { anchors.fill: parent; color: TQApp.larch.tintColor } }");
@@ -218,15 +219,15 @@ TEST_F(RandomBackground, LetsThroughWhatTheUserDoes)
     EXPECT_EQ(host.item->property("taps"), QVariant(1));
 }
 
-TEST_F(RandomBackground, IsNotSeenByAssistiveTechnology)
+TEST_F(TQRandomBackgroundViewTest, HasNoAccessibleInterface)
 {
     QAccessible::setActive(true);
     QmlWindow host("Item { TQRandomBackgroundView { anchors.fill: parent; color: TQApp.larch.tintColor }\n"
-                   "Item { Accessible.role: Accessible.Button; Accessible.name: 'seen' } }");
+                   "Item { Accessible.role: Accessible.Button; Accessible.name: 'visible' } }");
     QAccessibleInterface *window = QAccessible::queryAccessibleInterface(&host.window);
     ASSERT_TRUE(window);
     ASSERT_EQ(window->childCount(), 1);
-    EXPECT_EQ(window->child(0)->text(QAccessible::Name), QStringLiteral("seen"));
+    EXPECT_EQ(window->child(0)->text(QAccessible::Name), QStringLiteral("visible"));
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-"""Outside hosts: installs the library to a clean prefix, moves the prefix, and builds and runs a host against that alone."""
+"""Builds and runs a host project against the installed library, whose prefix was moved after installing."""
 
 import os
 import pathlib
@@ -31,8 +31,8 @@ def compile_with_pkg_config(folder, prefix):
         f"-Wl,-rpath,{prefix}/lib")
 
 
-def stays(*command):
-    """A host shows its window until it is closed, so being alive and silent after its start is what passes."""
+def keeps_running(*command):
+    """Fails unless the host still runs and has printed nothing three seconds after its start."""
     with subprocess.Popen(list(map(str, command)), env=environment, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
                           text=True) as process:
         try:
@@ -41,12 +41,12 @@ def stays(*command):
         except subprocess.TimeoutExpired:
             process.terminate()
             if output := process.communicate()[0]:
-                sys.exit(f"{host.name} said: {output}")
+                sys.exit(f"{host.name} printed: {output}")
 
 
 with tempfile.TemporaryDirectory() as name:
     folder = pathlib.Path(name)
-    # No variable of the library's or of Qt's module path: a host needs none.
+    # A host needs no variables for library or QML import paths.
     environment = {key: value for key, value in os.environ.items() if not key.startswith(("QML", "LD_LIBRARY", "CMAKE_"))}
     environment.update(QT_QPA_PLATFORM="offscreen", QT_QUICK_BACKEND="software", HOME=name, XDG_CONFIG_HOME=name,
                        XDG_RUNTIME_DIR=name)
@@ -61,18 +61,18 @@ with tempfile.TemporaryDirectory() as name:
             sys.exit(f"qmllint: {lint.returncode} {lint.stdout} {lint.stderr}")
 
     if host.name == "QmlOnlyHost":
-        stays(tools / "qml", "-I", prefix / "lib/qml", host / "Main.qml")
+        keeps_running(tools / "qml", "-I", prefix / "lib/qml", host / "Main.qml")
     elif host.name == "FetchedHost":
         configure_and_build(binary, f"-DTQFOUNDATION_SOURCE_DIR={source}")
-        stays(binary / host.name)
+        keeps_running(binary / host.name)
     elif host.name == "CppHost":
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
-        stays(binary / host.name)
+        keeps_running(binary / host.name)
         compile_with_pkg_config(folder / "pkg-config", prefix)
-        stays(folder / "pkg-config" / host.name)
+        keeps_running(folder / "pkg-config" / host.name)
     elif host.name == "HostTests":
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
         run(binary / host.name, env=environment)
     else:
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
-        stays(binary / host.name)
+        keeps_running(binary / host.name)

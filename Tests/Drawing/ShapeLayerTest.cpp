@@ -10,7 +10,7 @@ namespace {
 
 using KeyPath = BasicAnimation::KeyPath;
 
-// The line of the background: it fades in, draws itself, and begins to fade out before the next one comes.
+// A layer with the animations of the background: fade in, stroke, and fade out.
 ShapeLayer line(double now)
 {
     ShapeLayer layer;
@@ -55,7 +55,7 @@ constexpr Moment timeline[] = {
     {20, 1, 1},
 };
 
-TEST(ShapeLayer, ShowsTheWholeTimelineOfABackgroundLine)
+TEST(ShapeLayer, PresentsTimelineOfBackgroundLine)
 {
     for (const double start : {0.0, 7.25, 86'400.125}) {
         const ShapeLayer layer = line(start);
@@ -67,21 +67,21 @@ TEST(ShapeLayer, ShowsTheWholeTimelineOfABackgroundLine)
     }
 }
 
-TEST(ShapeLayer, AnAnimationBeginsExactlyAtItsTime)
+TEST(ShapeLayer, AnimationBeginsExactlyAtItsBeginTime)
 {
     EXPECT_EQ(line(0).presentation(0), (Presentation{0, 0}));
     EXPECT_EQ(line(0).presentation(std::nextafter(0, -1)), (Presentation{1, 1}));
 }
 
-TEST(ShapeLayer, AnAnimationIsRemovedExactlyAtItsEnd)
+TEST(ShapeLayer, AnimationEndsExactlyAfterItsDuration)
 {
     ShapeLayer layer;
     layer.addAnimation({.keyPath = KeyPath::opacity, .fromValue = 0, .toValue = 0.5, .duration = 2}, 1);
     EXPECT_LT(layer.presentation(std::nextafter(3, 0)).opacity, 0.5 + 1e-9);
-    EXPECT_EQ(layer.presentation(3).opacity, 1) << "the layer's own again";
+    EXPECT_EQ(layer.presentation(3).opacity, 1) << "the model value again";
 }
 
-TEST(ShapeLayer, BeginsWhenAddedUnlessItSaysOtherwise)
+TEST(ShapeLayer, AnimationBeginsWhenAddedByDefault)
 {
     const ShapeLayer layer = line(5);
     ASSERT_EQ(layer.animations().size(), 3U);
@@ -90,7 +90,7 @@ TEST(ShapeLayer, BeginsWhenAddedUnlessItSaysOtherwise)
     EXPECT_EQ(layer.animations()[2].beginTime, 5 + 9.2);
 }
 
-TEST(ShapeLayer, AnimationsWithoutAKeyReplaceNone)
+TEST(ShapeLayer, AnimationWithoutKeyReplacesNone)
 {
     ShapeLayer layer;
     layer.addAnimation({.toValue = 0.25, .duration = 1}, 0);
@@ -98,16 +98,16 @@ TEST(ShapeLayer, AnimationsWithoutAKeyReplaceNone)
     EXPECT_EQ(layer.animations().size(), 2U);
 }
 
-TEST(ShapeLayer, OfSeveralAnimationsOfOneNumberTheLastAddedCounts)
+TEST(ShapeLayer, LastAddedAnimationOfAPropertyWins)
 {
     ShapeLayer layer;
     layer.addAnimation({.fromValue = 0.25, .toValue = 0.25, .duration = 4}, 0);
     layer.addAnimation({.fromValue = 0.5, .toValue = 0.5, .duration = 1}, 0);
     EXPECT_EQ(layer.presentation(0.5).opacity, 0.5);
-    EXPECT_EQ(layer.presentation(2).opacity, 0.25) << "once the last has ended, the one before";
+    EXPECT_EQ(layer.presentation(2).opacity, 0.25) << "the earlier one, after the last one ended";
 }
 
-TEST(ShapeLayer, AnAnimationReplacesTheOneWithItsKey)
+TEST(ShapeLayer, AnimationReplacesTheOneWithSameKey)
 {
     ShapeLayer layer;
     layer.addAnimation({.toValue = 1, .duration = 4, .key = "fade"}, 0);
@@ -118,7 +118,7 @@ TEST(ShapeLayer, AnAnimationReplacesTheOneWithItsKey)
     EXPECT_EQ(layer.animations()[1].beginTime, 1.0);
 }
 
-TEST(ShapeLayer, WithoutAnimationsItsModelIsDrawnAndNothingChanges)
+TEST(ShapeLayer, PresentsModelWithoutAnimations)
 {
     ShapeLayer layer;
     layer.model = {0.25, 0.75};
@@ -135,8 +135,8 @@ TEST(ShapeLayer, IsAnimatingUntilTheLastEnd)
         EXPECT_FALSE(layer.isAnimating(time)) << time;
 }
 
-// A frame that is drawn when isAnimating() is false stays right for good.
-TEST(ShapeLayer, ShowsItsModelOnceNothingAnimates)
+// A frame that is drawn when isAnimating() is false stays valid.
+TEST(ShapeLayer, PresentsModelOnceNothingAnimates)
 {
     std::mt19937_64 engine(4);
     std::uniform_real_distribution<double> starts(0, 1e7);
@@ -147,7 +147,7 @@ TEST(ShapeLayer, ShowsItsModelOnceNothingAnimates)
         const double duration = durations(engine);
         ShapeLayer layer;
         layer.addAnimation({.toValue = 0.5, .duration = duration}, start);
-        // Around the end, where rounding decides.
+        // Just before, at and just after the end, where rounding matters.
         const double end = start + duration;
         const double now = round % 3 == 0 ? end : std::nextafter(end, round % 3 == 1 ? 0.0 : 1e9);
         if (layer.isAnimating(now)) {
@@ -159,7 +159,7 @@ TEST(ShapeLayer, ShowsItsModelOnceNothingAnimates)
     }
 }
 
-TEST(ShapeLayer, IsAValue)
+TEST(ShapeLayer, CopiesAreIndependentValues)
 {
     const ShapeLayer layer = line(1);
     ShapeLayer copy = layer;

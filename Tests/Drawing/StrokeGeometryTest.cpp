@@ -37,7 +37,7 @@ bool covers(const StrokeGeometry &stroke, Point place)
     });
 }
 
-TEST(StrokeGeometry, AStraightLineIsOneStretch)
+TEST(StrokeGeometry, StraightLineIsOnePart)
 {
     const StrokeGeometry stroke = strokeGeometry(line({{10, 20}, {40, 20}}), 2);
     ASSERT_EQ(stroke.parts.size(), 1U);
@@ -50,16 +50,16 @@ TEST(StrokeGeometry, AStraightLineIsOneStretch)
     EXPECT_FALSE(covers(stroke, {20, 21.01}));
 }
 
-TEST(StrokeGeometry, ARightAngleGetsItsMitre)
+TEST(StrokeGeometry, RightAngleGetsMitreJoin)
 {
     const StrokeGeometry stroke = strokeGeometry(line({{0, 0}, {20, 0}, {20, 20}}), 2);
     EXPECT_EQ(joins(stroke), 1);
-    EXPECT_EQ(bends(stroke), 0) << "it is a corner";
+    EXPECT_EQ(bends(stroke), 0) << "a corner, not a bend";
     EXPECT_TRUE(covers(stroke, {20.99, -0.99}));
     EXPECT_FALSE(covers(stroke, {21.01, -0.99}));
 }
 
-TEST(StrokeGeometry, AHairpinIsRoundAllTheWayAround)
+TEST(StrokeGeometry, HairpinIsRoundAllAround)
 {
     const StrokeGeometry stroke = strokeGeometry({{0, 0}, {{{100, 0}, {100, 0.4}, {0, 0.4}}}, false}, 20);
     EXPECT_EQ(bends(stroke), joins(stroke));
@@ -74,7 +74,7 @@ TEST(StrokeGeometry, AHairpinIsRoundAllTheWayAround)
     }
 }
 
-TEST(StrokeGeometry, MitresEndWhereTheyWouldBeLongerThanTenWidths)
+TEST(StrokeGeometry, MitreLimitIsTenWidths)
 {
     // A mitre is as long as the width divided by the sine of half the angle between the lines.
     const double limit = 2 * std::asin(0.1);
@@ -83,30 +83,29 @@ TEST(StrokeGeometry, MitresEndWhereTheyWouldBeLongerThanTenWidths)
         const StrokeGeometry stroke = strokeGeometry(line({{0, 0}, {20, 0}, end}), 2);
         const Point tip{20 + 9.5 * std::cos(angle / 2), -9.5 * std::sin(angle / 2)};
         EXPECT_EQ(covers(stroke, tip), angle > limit);
-        EXPECT_TRUE(covers(stroke, {20 + 0.09 * std::cos(angle / 2), -0.09 * std::sin(angle / 2)}))
-            << "a bevel is left";
+        EXPECT_TRUE(covers(stroke, {20 + 0.09 * std::cos(angle / 2), -0.09 * std::sin(angle / 2)})) << "bevel join";
     }
 }
 
-TEST(StrokeGeometry, AClosedLineHasAJoinWhereItsEndsMeet)
+TEST(StrokeGeometry, ClosedPathHasJoinAtItsStart)
 {
     const std::vector<Point> square{{0, 0}, {20, 0}, {20, 20}, {0, 20}, {0, 0}};
     EXPECT_EQ(joins(strokeGeometry(line(square), 2)), 3);
     const StrokeGeometry closed = strokeGeometry(line(square, true), 2);
     EXPECT_EQ(joins(closed), 4);
     EXPECT_TRUE(closed.parts.back().isJoin());
-    EXPECT_EQ(closed.parts.back().from, closed.length) << "and it comes last";
+    EXPECT_EQ(closed.parts.back().from, closed.length) << "the join is the last part";
     EXPECT_TRUE(covers(closed, {-0.99, -0.99}));
 }
 
-TEST(StrokeGeometry, ClosingDrawsTheLineThatIsMissing)
+TEST(StrokeGeometry, ClosingAddsMissingSegment)
 {
     const StrokeGeometry stroke = strokeGeometry(line({{0, 0}, {30, 0}, {30, 40}}, true), 2);
     EXPECT_DOUBLE_EQ(stroke.length, 30 + 40 + 50);
     EXPECT_TRUE(covers(stroke, {15, 20}));
 }
 
-TEST(StrokeGeometry, PartsFollowOneAnotherWithoutAGap)
+TEST(StrokeGeometry, PartsAreContiguousAlongThePath)
 {
     std::mt19937_64 random(1);
     for (int round = 0; round < 100; ++round) {
@@ -121,7 +120,7 @@ TEST(StrokeGeometry, PartsFollowOneAnotherWithoutAGap)
     }
 }
 
-TEST(StrokeGeometry, LengthRunsAlongEachStretchFromItsStartToItsEnd)
+TEST(StrokeGeometry, LengthIncreasesAlongEachPart)
 {
     std::mt19937_64 random(3);
     for (const StrokePart &part : strokeGeometry(Testing::randomPath(random), 2).parts) {
@@ -134,27 +133,27 @@ TEST(StrokeGeometry, LengthRunsAlongEachStretchFromItsStartToItsEnd)
         EXPECT_NEAR(along.at(start), part.from, 1e-9);
         EXPECT_NEAR(along.at(end), part.to, 1e-9);
         EXPECT_NEAR(along.at({start.x - (end.y - start.y), start.y + (end.x - start.x)}), part.from, 1e-9)
-            << "and not across it";
+            << "constant across the stroke";
     }
 }
 
-TEST(StrokeGeometry, TheLengthIsThatOfTheCurve)
+TEST(StrokeGeometry, LengthIsArcLengthOfTheCurve)
 {
-    // A quarter of a circle, as well as one curve can be one.
+    // Approximates a quarter of a circle.
     constexpr double bend = 0.5522847498;
     const StrokeGeometry stroke =
         strokeGeometry({{100, 0}, {CubicCurve{{100, 100 * bend}, {100 * bend, 100}, {0, 100}}}}, 2);
     EXPECT_NEAR(stroke.length, 50 * std::numbers::pi, 0.05);
-    // Along the line too, not only as a whole.
+    // Also at the end of each part.
     for (const StrokePart &part : stroke.parts) {
         const Point end = part.end();
         EXPECT_NEAR(part.to, 100 * std::atan2(end.y, end.x), 0.05);
     }
 }
 
-TEST(StrokeGeometry, ACuspIsFilledAsByARoundPen)
+TEST(StrokeGeometry, CuspGetsRoundJoin)
 {
-    // It goes straight up to (50, 37.5) and back.
+    // The curve runs straight to (50, 37.5) and back.
     const StrokeGeometry stroke = strokeGeometry({{50, 0}, {CubicCurve{{50, 50}, {50, 50}, {50, 0}}}}, 2);
     EXPECT_NEAR(stroke.length, 75, 0.01);
     EXPECT_TRUE(covers(stroke, {50, 38.4}));
@@ -162,7 +161,7 @@ TEST(StrokeGeometry, ACuspIsFilledAsByARoundPen)
     EXPECT_FALSE(covers(stroke, {50.9, 38.3}));
 }
 
-TEST(StrokeGeometry, NothingIsDrawnOfALineWithoutLength)
+TEST(StrokeGeometry, PathWithoutLengthHasNoParts)
 {
     const Point place{10, 10};
     for (const Path &path :
@@ -173,7 +172,7 @@ TEST(StrokeGeometry, NothingIsDrawnOfALineWithoutLength)
     }
 }
 
-TEST(StrokeGeometry, ACurveWithoutLengthAmongOthersLeavesNoTrace)
+TEST(StrokeGeometry, ZeroLengthCurveIsIgnored)
 {
     Path path = line({{0, 0}, {20, 0}, {20, 20}}, true);
     const StrokeGeometry plain = strokeGeometry(path, 2);
@@ -184,7 +183,7 @@ TEST(StrokeGeometry, ACurveWithoutLengthAmongOthersLeavesNoTrace)
         EXPECT_EQ(withIt.parts[k].corners, plain.parts[k].corners);
 }
 
-TEST(StrokeGeometry, NothingIsDrawnOfWhatIsNoNumberOrOutOfReach)
+TEST(StrokeGeometry, NonFiniteOrHugeNumbersGiveNoParts)
 {
     const double infinity = std::numeric_limits<double>::infinity();
     const double nan = std::numeric_limits<double>::quiet_NaN();
@@ -201,8 +200,8 @@ TEST(StrokeGeometry, NothingIsDrawnOfWhatIsNoNumberOrOutOfReach)
     EXPECT_TRUE(strokeGeometry(line({{0, 0}, {20, 0}}), -1).parts.empty());
 }
 
-// Curves of every size, many of them degenerate.
-TEST(StrokeGeometry, AnyNumbersGiveFinitePartsOfABoundedCount)
+// Curves of all magnitudes, many of them degenerate.
+TEST(StrokeGeometry, AnyPathGivesFiniteAndBoundedParts)
 {
     std::mt19937_64 random(2);
     const std::array sizes{0.0, 1e-300, 1e-9, 1e-3, 1.0, 390.0, 1e6};
@@ -220,7 +219,7 @@ TEST(StrokeGeometry, AnyNumbersGiveFinitePartsOfABoundedCount)
         for (const StrokePart &part : stroke.parts) {
             for (const HalfPlane &edge : edges(part))
                 ASSERT_TRUE(std::isfinite(edge.x) && std::isfinite(edge.y) && std::isfinite(edge.offset));
-            // Around its own middle everything is within.
+            // The middle of a part is inside its edges.
             const Point middle{(part.corners[0].x + part.corners[1].x + part.corners[2].x) / 3,
                                (part.corners[0].y + part.corners[1].y + part.corners[2].y) / 3};
             for (const HalfPlane &edge : edges(part))

@@ -30,30 +30,30 @@ constexpr StrokeMask::Colors grays = [] {
     return colors;
 }();
 
-Coverage picture(const StrokeMask &mask, int width, int height)
+Coverage imageOf(const StrokeMask &mask, int width, int height)
 {
-    Coverage picture{width, height, std::vector<std::uint8_t>(static_cast<std::size_t>(width * height))};
+    Coverage image{width, height, std::vector<std::uint8_t>(static_cast<std::size_t>(width * height))};
     for (const auto &[place, tile] : mask.tiles()) {
         std::vector<std::uint32_t> pixels(static_cast<std::size_t>(tile.width * tile.height));
         mask.paint(tile, grays, pixels.data(), tile.width);
         for (int y = std::max(0, -tile.top); y < std::min(tile.height, height - tile.top); ++y) {
             for (int x = std::max(0, -tile.left); x < std::min(tile.width, width - tile.left); ++x) {
-                picture.pixels[static_cast<std::size_t>((tile.top + y) * width + tile.left + x)] =
+                image.pixels[static_cast<std::size_t>((tile.top + y) * width + tile.left + x)] =
                     static_cast<std::uint8_t>(pixels[static_cast<std::size_t>(y * tile.width + x)]);
             }
         }
     }
-    return picture;
+    return image;
 }
 
 Coverage drawn(const Path &path, double share, double scale, int width, int height)
 {
     StrokeMask mask = maskOf(path, scale);
     mask.drawUpTo(share * strokeGeometry(path, 2).length);
-    return picture(mask, width, height);
+    return imageOf(mask, width, height);
 }
 
-TEST(StrokeMask, CoversAsMuchOfAPixelAsTheLineDoes)
+TEST(StrokeMask, CoverageIsCoveredAreaOfEachPixel)
 {
     // From (2.25, 3.5) to (6.75, 5.5): a quarter of the first column, half of the first and last row.
     const Path path{{2.25, 4.5}, {CubicCurve{{2.25, 4.5}, {6.75, 4.5}, {6.75, 4.5}}}};
@@ -69,7 +69,7 @@ TEST(StrokeMask, CoversAsMuchOfAPixelAsTheLineDoes)
     }
 }
 
-TEST(StrokeMask, ACrossingIsAsDarkAsTheLine)
+TEST(StrokeMask, CrossingHasSameCoverageAsLine)
 {
     const Path path{{10, 10},
                     {{{10, 10}, {40, 40}, {40, 40}}, {{40, 40}, {40, 10}, {40, 10}}, {{40, 10}, {10, 40}, {10, 40}}}};
@@ -84,11 +84,11 @@ TEST(StrokeMask, ACrossingIsAsDarkAsTheLine)
         std::vector<std::uint32_t> pixels(static_cast<std::size_t>(tile.width * tile.height));
         mask.paint(tile, colors, pixels.data(), tile.width);
         for (const std::uint32_t pixel : pixels)
-            EXPECT_TRUE(pixel == 0 || pixel == 7) << "no pixel is covered more than wholly";
+            EXPECT_TRUE(pixel == 0 || pixel == 7) << "coverage never exceeds 100 %";
     }
 }
 
-TEST(StrokeMask, HasNoSeamsWithinTheLine)
+TEST(StrokeMask, HasNoSeamsBetweenParts)
 {
     std::mt19937_64 random(3);
     for (const double scale : {1.0, 1.5, 2.0, 3.0}) {
@@ -98,7 +98,7 @@ TEST(StrokeMask, HasNoSeamsWithinTheLine)
             const auto width = static_cast<int>(390 * scale);
             const auto height = static_cast<int>(844 * scale);
             const Coverage shown = drawn(path, 1, scale, width, height);
-            // Every pixel that lies wholly within the line around its middle.
+            // Pixels at the ends of parts lie entirely inside the line.
             for (const StrokePart &part : stroke.parts) {
                 const Point end = part.end();
                 const auto x = static_cast<int>(std::floor(end.x * scale));
@@ -111,7 +111,7 @@ TEST(StrokeMask, HasNoSeamsWithinTheLine)
     }
 }
 
-TEST(StrokeMask, GrowingInAnyStepsGivesTheSamePicture)
+TEST(StrokeMask, StepSizeDoesNotChangeTheImage)
 {
     std::mt19937_64 random(4);
     for (int round = 0; round < 10; ++round) {
@@ -125,12 +125,12 @@ TEST(StrokeMask, GrowingInAnyStepsGivesTheSamePicture)
         for (const StrokePart &part : strokeGeometry(path, 2).parts)
             byParts.drawUpTo(part.to);
         const std::vector<std::uint8_t> atOnce = drawn(path, 1, 2, 780, 1688).pixels;
-        EXPECT_EQ(picture(mask, 780, 1688).pixels, atOnce);
-        EXPECT_EQ(picture(byParts, 780, 1688).pixels, atOnce);
+        EXPECT_EQ(imageOf(mask, 780, 1688).pixels, atOnce);
+        EXPECT_EQ(imageOf(byParts, 780, 1688).pixels, atOnce);
     }
 }
 
-TEST(StrokeMask, DrawingLessThanIsDrawnChangesNothing)
+TEST(StrokeMask, DrawingLessThanBeforeChangesNothing)
 {
     std::mt19937_64 random(5);
     StrokeMask mask = maskOf(Testing::randomPath(random), 1);
@@ -144,7 +144,7 @@ TEST(StrokeMask, DrawingLessThanIsDrawnChangesNothing)
         EXPECT_FALSE(tile.isChanged);
 }
 
-TEST(StrokeMask, OnlyTheTilesThatGrowAreChanged)
+TEST(StrokeMask, MarksOnlyGrowingTilesAsChanged)
 {
     const Path path{{8, 8}, {CubicCurve{{8, 8}, {300, 8}, {300, 8}}}};
     StrokeMask mask = maskOf(path, 3);
@@ -156,7 +156,7 @@ TEST(StrokeMask, OnlyTheTilesThatGrowAreChanged)
         EXPECT_EQ(tile.isChanged, tile.x == (8 + 101) / StrokeMask::tilePoints) << tile.x;
 }
 
-TEST(StrokeMask, TilesLieOnWholePointsAndShareNoPixel)
+TEST(StrokeMask, TilesAreAlignedAndDoNotOverlap)
 {
     std::mt19937_64 random(6);
     for (const double scale : {1.0, 1.25, 1.5, 2.0, 2.75, 3.0}) {
@@ -174,7 +174,7 @@ TEST(StrokeMask, TilesLieOnWholePointsAndShareNoPixel)
     }
 }
 
-TEST(StrokeMask, KeepsNoMoreThanTheLineTouches)
+TEST(StrokeMask, MemoryIsProportionalToLineLength)
 {
     std::mt19937_64 random(7);
     for (int round = 0; round < 20; ++round) {
@@ -190,7 +190,7 @@ TEST(StrokeMask, KeepsNoMoreThanTheLineTouches)
     }
 }
 
-TEST(StrokeMask, WhatIsFarAwayCostsNothing)
+TEST(StrokeMask, IgnoresPartsFarOffScreen)
 {
     const Path path{{-1e6, -1e6}, {{{1e6, 0}, {0, 1e6}, {1e6, 1e6}}, {{2e6, 0}, {1e6, -1e6}, {390, 400}}}, true};
     StrokeMask mask = maskOf(path, 3);
@@ -201,11 +201,11 @@ TEST(StrokeMask, WhatIsFarAwayCostsNothing)
     EXPECT_TRUE(beyond.tiles().empty());
 }
 
-/// The line of the background beside that of another library.
-class AgainstCairo : public testing::TestWithParam<double>
+/// Compares the mask with a stroke drawn by Cairo, at one scale.
+class StrokeMaskAtScales : public testing::TestWithParam<double>
 {};
 
-TEST_P(AgainstCairo, NoPixelIsFarOff)
+TEST_P(StrokeMaskAtScales, NoPixelIsFarOffCairo)
 {
     const double scale = GetParam();
     const auto width = static_cast<int>(390 * scale);
@@ -217,7 +217,7 @@ TEST_P(AgainstCairo, NoPixelIsFarOff)
         StrokeMask mask = maskOf(path, scale);
         for (const double share : {0.06, 0.3, 0.55, 0.9, 1.0}) {
             mask.drawUpTo(share * stroke.length);
-            const Coverage shown = picture(mask, width, height);
+            const Coverage shown = imageOf(mask, width, height);
             EXPECT_EQ(Testing::differences(path, share, scale, width, height,
                                            [&](int x, int y) { return 0.2 * shown.at(x, y); }),
                       "")
@@ -226,7 +226,7 @@ TEST_P(AgainstCairo, NoPixelIsFarOff)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(AtScales, AgainstCairo, testing::Values(1, 1.25, 1.5, 2, 3),
+INSTANTIATE_TEST_SUITE_P(StrokeMask, StrokeMaskAtScales, testing::Values(1, 1.25, 1.5, 2, 3),
                          [](const auto &scale) { return std::to_string(std::lround(100 * scale.param)) + "Percent"; });
 
 } // namespace

@@ -11,11 +11,11 @@
 namespace TQFoundation {
 namespace {
 
-/// Draws a mesh as a graphics processor does, with what its shaders compute.
-class Drawing
+/// Software rasteriser for the mesh, with the arithmetic of its shaders.
+class Rasterizer
 {
 public:
-    Drawing(const StrokeMesh &mesh, double end, double scale, int width, int height)
+    Rasterizer(const StrokeMesh &mesh, double end, double scale, int width, int height)
         : m_scale(scale),
           m_end(end),
           m_width(width),
@@ -56,8 +56,7 @@ public:
 
     double covered(int x, int y) const { return m_covered[index(x, y)]; }
 
-    /// How often a pixel was painted.
-    int times(int x, int y) const { return m_times[index(x, y)]; }
+    int timesPainted(int x, int y) const { return m_times[index(x, y)]; }
 
 private:
     std::size_t index(int x, int y) const { return static_cast<std::size_t>(y * m_width + x); }
@@ -70,7 +69,7 @@ private:
         return (double{b.x} - a.x) * (place.y - a.y) - (double{b.y} - a.y) * (place.x - a.x);
     }
 
-    // The value of a quantity that is linear over a triangle.
+    // Interpolates a vertex attribute linearly over a triangle.
     template <typename Vertex, typename Quantity>
     static double at(const std::array<const Vertex *, 3> &corners, Point place, Quantity quantity)
     {
@@ -81,9 +80,9 @@ private:
             / area;
     }
 
-    // Whether a place on an edge belongs to the triangle: it does to exactly one of two neighbours.
+    // Fill rule: a point on an edge belongs to exactly one of the two triangles.
     template <typename Vertex>
-    static bool isOnItsSide(const Vertex &a, const Vertex &b, Point place)
+    static bool isInside(const Vertex &a, const Vertex &b, Point place)
     {
         const double side = cross(a, b, place);
         return side > 0 || (side == 0 && (b.y > a.y || (b.y == a.y && b.x < a.x)));
@@ -102,17 +101,17 @@ private:
             if (area < 0)
                 std::swap(corners[1], corners[2]);
             const auto [a, b, c] = corners;
-            const auto first_ = [&](double least, int limit) {
+            const auto pixel = [&](double least, int limit) {
                 return std::clamp(static_cast<int>(std::floor(least * m_scale)), 0, limit);
             };
-            const int left = first_(std::min({a->x, b->x, c->x}), m_width - 1);
-            const int right = first_(std::max({a->x, b->x, c->x}), m_width - 1);
-            const int top = first_(std::min({a->y, b->y, c->y}), m_height - 1);
-            const int bottom = first_(std::max({a->y, b->y, c->y}), m_height - 1);
+            const int left = pixel(std::min({a->x, b->x, c->x}), m_width - 1);
+            const int right = pixel(std::max({a->x, b->x, c->x}), m_width - 1);
+            const int top = pixel(std::min({a->y, b->y, c->y}), m_height - 1);
+            const int bottom = pixel(std::max({a->y, b->y, c->y}), m_height - 1);
             for (int y = top; y <= bottom; ++y) {
                 for (int x = left; x <= right; ++x) {
                     const Point place{(x + 0.5) / m_scale, (y + 0.5) / m_scale};
-                    if (!isOnItsSide(*a, *b, place) || !isOnItsSide(*b, *c, place) || !isOnItsSide(*c, *a, place))
+                    if (!isInside(*a, *b, place) || !isInside(*b, *c, place) || !isInside(*c, *a, place))
                         continue;
                     m_covered[index(x, y)] += shader(corners, place);
                     ++m_times[index(x, y)];
@@ -129,10 +128,10 @@ private:
     std::vector<int> m_times;
 };
 
-class MeshAtScales : public testing::TestWithParam<double>
+class StrokeMeshAtScales : public testing::TestWithParam<double>
 {};
 
-TEST_P(MeshAtScales, NoPixelIsFarOffWhatAnotherLibraryDraws)
+TEST_P(StrokeMeshAtScales, NoPixelIsFarOffCairo)
 {
     const double scale = GetParam();
     const auto width = static_cast<int>(390 * scale);
@@ -143,33 +142,34 @@ TEST_P(MeshAtScales, NoPixelIsFarOffWhatAnotherLibraryDraws)
         const StrokeGeometry stroke = strokeGeometry(path, 2);
         const StrokeMesh mesh = strokeMesh(stroke, scale);
         for (const double share : {0.06, 0.3, 0.55, 0.9, 1.0}) {
-            const Drawing drawing(mesh, share < 1 ? share * stroke.length : 2 * stroke.length, scale, width, height);
+            const Rasterizer rasterizer(mesh, share < 1 ? share * stroke.length : 2 * stroke.length, scale, width,
+                                        height);
             EXPECT_EQ(Testing::differences(path, share, scale, width, height,
-                                           [&](int x, int y) { return 51 * drawing.covered(x, y); }),
+                                           [&](int x, int y) { return 51 * rasterizer.covered(x, y); }),
                       "")
                 << "path " << round << " drawn to " << share;
         }
     }
 }
 
-TEST_P(MeshAtScales, NoPixelIsPaintedTwice)
+TEST_P(StrokeMeshAtScales, NoPixelIsPaintedTwice)
 {
     const double scale = GetParam();
     const auto width = static_cast<int>(390 * scale);
     const auto height = static_cast<int>(844 * scale);
     std::mt19937_64 random(13);
     for (int round = 0; round < 20; ++round) {
-        const Drawing drawing(strokeMesh(strokeGeometry(Testing::randomPath(random), 2), scale), 1e9, scale, width,
-                              height);
+        const Rasterizer rasterizer(strokeMesh(strokeGeometry(Testing::randomPath(random), 2), scale), 1e9, scale,
+                                    width, height);
         for (int y = 0; y < height; ++y) {
             for (int x = 0; x < width; ++x)
-                EXPECT_LE(drawing.times(x, y), 1) << "path " << round << " in " << x << ',' << y;
+                EXPECT_LE(rasterizer.timesPainted(x, y), 1) << "path " << round << " in " << x << ',' << y;
         }
     }
 }
 
-// All around the border of one of the mesh's squares.
-TEST_P(MeshAtScales, AnEndIsDrawnWhereverItLies)
+// Ends at many positions around the border of one square of the mesh.
+TEST_P(StrokeMeshAtScales, DrawsEndsAtAnyPosition)
 {
     const double scale = GetParam();
     const auto size = static_cast<int>(64 * scale);
@@ -177,9 +177,9 @@ TEST_P(MeshAtScales, AnEndIsDrawnWhereverItLies)
         for (double shift = -2; shift <= 10; shift += 0.125) {
             for (const Point end : {Point{32 + shift, 36}, Point{36, 32 + shift}}) {
                 const Path path{start, {CubicCurve{start, end, end}}};
-                const Drawing drawing(strokeMesh(strokeGeometry(path, 2), scale), 1e9, scale, size, size);
+                const Rasterizer rasterizer(strokeMesh(strokeGeometry(path, 2), scale), 1e9, scale, size, size);
                 EXPECT_EQ(Testing::differences(path, 1, scale, size, size,
-                                               [&](int x, int y) { return 51 * drawing.covered(x, y); }),
+                                               [&](int x, int y) { return 51 * rasterizer.covered(x, y); }),
                           "")
                     << start.x << ',' << start.y << " to " << end.x << ',' << end.y;
             }
@@ -187,7 +187,7 @@ TEST_P(MeshAtScales, AnEndIsDrawnWhereverItLies)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(StrokeMesh, MeshAtScales, testing::Values(1, 1.5, 2, 3),
+INSTANTIATE_TEST_SUITE_P(StrokeMesh, StrokeMeshAtScales, testing::Values(1, 1.5, 2, 3),
                          [](const auto &scale) { return std::to_string(std::lround(10 * scale.param)) + "Tenths"; });
 
 } // namespace

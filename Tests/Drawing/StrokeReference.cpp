@@ -15,7 +15,7 @@ Point between(Point a, Point b, double share)
     return {a.x + (b.x - a.x) * share, a.y + (b.y - a.y) * share};
 }
 
-// The start of a curve, up to the given value of its parameter.
+// The part of a curve up to a value of its parameter (De Casteljau).
 CubicCurve startOfCurve(Point start, const CubicCurve &curve, double parameter)
 {
     const Point a = between(start, curve.control1, parameter);
@@ -26,9 +26,9 @@ CubicCurve startOfCurve(Point start, const CubicCurve &curve, double parameter)
     return {a, ab, between(ab, bc, parameter)};
 }
 
-constexpr int steps = 4000; // of a curve whose length is measured
+constexpr int steps = 4000; // line segments that approximate a curve
 
-std::vector<double> lengths(Point start, const CubicCurve &curve)
+std::vector<double> arcLengths(Point start, const CubicCurve &curve)
 {
     std::vector<double> sums{0};
     Point former = start;
@@ -40,7 +40,7 @@ std::vector<double> lengths(Point start, const CubicCurve &curve)
     return sums;
 }
 
-// With the closing line as a curve.
+// Replaces the closing segment by a curve.
 Path withoutClosing(const Path &path)
 {
     Path open{path.start, path.curves, false};
@@ -50,7 +50,7 @@ Path withoutClosing(const Path &path)
     return open;
 }
 
-// The part of the path that has the given share of its length; an open line unless that is all.
+// The part of the path up to a share of its arc length. Open, unless it is the whole path.
 Path startOf(const Path &path, double strokeEnd)
 {
     if (strokeEnd >= 1)
@@ -60,7 +60,7 @@ Path startOf(const Path &path, double strokeEnd)
     double total = 0;
     Point place = whole.start;
     for (const CubicCurve &curve : whole.curves) {
-        measured.push_back(lengths(place, curve));
+        measured.push_back(arcLengths(place, curve));
         total += measured.back().back();
         place = curve.end;
     }
@@ -85,7 +85,7 @@ Path startOf(const Path &path, double strokeEnd)
     return part;
 }
 
-// Where a curve of two points bends with a radius of less than its width.
+// Appends the places at which a stroke that is two points wide bends with a radius of less than its width.
 void addNarrowBends(Point start, const CubicCurve &curve, std::vector<Point> &places)
 {
     Point former = start;
@@ -104,8 +104,8 @@ void addNarrowBends(Point start, const CubicCurve &curve, std::vector<Point> &pl
 
 struct Places
 {
-    std::vector<Point> corners; // where the curves join, and where the share of the length ends
-    std::vector<Point> bends; // of a radius of less than two points
+    std::vector<Point> corners; // ends of the curves and of the stroke
+    std::vector<Point> bends; // with a radius of less than two points
 
     static bool areNear(const std::vector<Point> &places, Point place, double distance)
     {
@@ -128,7 +128,7 @@ Places placesOf(const Path &path, double strokeEnd)
     return places;
 }
 
-// What of one pixel is covered, where Cairo's own steps are too coarse to tell: drawn sixteen times as large.
+// Coverage of one pixel, drawn sixteen times as large because Cairo's own steps are coarse.
 double enlarged(const Path &path, double strokeEnd, double scale, int x, int y)
 {
     const auto moved = [&](Point place) { return Point{place.x - x / scale, place.y - y / scale}; };
@@ -146,7 +146,7 @@ Path randomPath(std::mt19937_64 &random)
     const auto within = [&](double from, double to) {
         return std::uniform_real_distribution<double>(from, to)(random);
     };
-    // The quarters in the order of the line: top right, bottom right, bottom left, top left.
+    // Quarters in path order: top right, bottom right, bottom left, top left.
     const auto inQuarter = [&](int quarter) {
         const bool isRight = quarter < 2;
         const bool isTop = quarter == 0 || quarter == 3;

@@ -11,11 +11,11 @@
 namespace TQFoundation {
 namespace {
 
-/// An app whose guide lies over its background when something goes wrong.
-class Fault : public Testing::GuideHost
+/// An app that shows a guide over a background while a fault occurs.
+class FaultTolerance : public Testing::GuideHost
 {
 protected:
-    Fault()
+    FaultTolerance()
     {
         background->setParentItem(window.contentItem());
         background->setColor(Color::systemRed());
@@ -25,7 +25,7 @@ protected:
     std::shared_ptr<AnimationView> background = AnimationView::initWithFrame({0, 0, 390, 700});
 };
 
-TEST_F(Fault, AScreenThatIsUnpluggedChangesNothingForWhatIsShown)
+TEST_F(FaultTolerance, GuideAndBackgroundContinueWithoutScreen)
 {
     const auto guide = shown(paragraphs(2));
     clock.pass(600);
@@ -34,7 +34,7 @@ TEST_F(Fault, AScreenThatIsUnpluggedChangesNothingForWhatIsShown)
     platform->scenes = {};
     platform->advance(35);
     EXPECT_EQ(background->shapeLayer()->animations().front().beginTime, 30);
-    EXPECT_EQ(screenWidth(), 390) << "as it was first read";
+    EXPECT_EQ(screenWidth(), 390) << "the value that was read first";
     guide->nextGuide();
     clock.pass(800);
     guide->nextGuide();
@@ -43,7 +43,7 @@ TEST_F(Fault, AScreenThatIsUnpluggedChangesNothingForWhatIsShown)
     EXPECT_FALSE(guide->parentItem());
 }
 
-TEST_F(Fault, AGuideThatIsMadeWithoutAScreenIsEmptyButGoesOn)
+TEST_F(FaultTolerance, GuideMadeWithoutScreenIsEmptyButFinishes)
 {
     platform->bounds = {0, 0};
     platform->scenes = {};
@@ -60,7 +60,7 @@ TEST_F(Fault, AGuideThatIsMadeWithoutAScreenIsEmptyButGoesOn)
     EXPECT_FALSE(guide->parentItem());
 }
 
-TEST_F(Fault, WhatLosesItsWindowIsDrawnTheSameInAnother)
+TEST_F(FaultTolerance, ItemsLookTheSameAfterTheirWindowIsDestroyed)
 {
     auto first = std::make_unique<QQuickWindow>();
     QQuickWindow second;
@@ -74,7 +74,7 @@ TEST_F(Fault, WhatLosesItsWindowIsDrawnTheSameInAnother)
     background->setParentItem(first->contentItem());
     const auto guide = made(paragraphs(1));
     guide->showGuide(first.get());
-    // The background still shines through.
+    // Halfway through the fade-in, so that the background is visible through the guide.
     clock.pass(300);
     platform->advance(4.5);
     const QImage before = first->grabWindow();

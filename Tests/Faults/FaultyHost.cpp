@@ -22,24 +22,24 @@ namespace {
 
 void describe()
 {
-    const auto shown = [](const QString &text) { return text.toUtf8(); };
+    const auto bytes = [](const QString &text) { return text.toUtf8(); };
     std::printf("name=%s version=%s build=%s more=%s guide=%d screen=%gx%g@%g china=%d\n",
-                shown(TQApp::name()).constData(), shown(TQApp::version()).constData(),
-                shown(TQApp::buildNumber()).constData(), shown(TQMore::privacyText()).constData(),
+                bytes(TQApp::name()).constData(), bytes(TQApp::version()).constData(),
+                bytes(TQApp::buildNumber()).constData(), bytes(TQMore::privacyText()).constData(),
                 TQGuideView::shouldShowGuide(), screenWidth(), screenHeight(), screenScale(), isChn());
     std::fflush(stdout);
 }
 
-// Asks everything, with no more of an application than a service has.
-int withoutDisplay(int argc, char *argv[])
+// Reads everything with a QCoreApplication only, as a service would.
+int runWithoutDisplay(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     describe();
     return 0;
 }
 
-// Stores numbers as an app of the same name does beside it.
-int writing(int argc, char *argv[])
+// Stores settings while another process of the same app does so too.
+int storeSettings(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Faults"));
@@ -63,8 +63,8 @@ public:
     }
 };
 
-// Opens the filing site and says who shows it.
-int browsing(int argc, char *argv[])
+// Opens the filing site and prints whether the in-app browser or the system shows it.
+int openFilingSite(int argc, char *argv[])
 {
     QGuiApplication application(argc, argv);
     installPlatform(std::make_unique<PrintingPlatform>());
@@ -88,17 +88,17 @@ int browsing(int argc, char *argv[])
 
 } // namespace
 
-// A host that goes through its guide before a background and ends, whatever is wrong with the system. What it is told
-// to do on the way makes something go wrong.
+// A host that shows its guide over a background and ends after the last paragraph, whatever is wrong with the system.
+// Its first argument chooses another run or a fault that occurs meanwhile.
 int main(int argc, char *argv[])
 {
-    const auto isTold = [&](const char *word) { return argc > 1 && std::strcmp(argv[1], word) == 0; };
-    if (isTold("without-display"))
-        return withoutDisplay(argc, argv);
-    if (isTold("writing"))
-        return writing(argc, argv);
-    if (isTold("browsing"))
-        return browsing(argc, argv);
+    const auto isMode = [&](const char *word) { return argc > 1 && std::strcmp(argv[1], word) == 0; };
+    if (isMode("without-display"))
+        return runWithoutDisplay(argc, argv);
+    if (isMode("store-settings"))
+        return storeSettings(argc, argv);
+    if (isMode("open-filing-site"))
+        return openFilingSite(argc, argv);
 
     QGuiApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Faults"));
@@ -115,7 +115,7 @@ int main(int argc, char *argv[])
     guide->showGuide(&window);
     QTimer::singleShot(100, guide.get(), [&] { guide->nextGuide(); });
     QTimer::singleShot(1200, guide.get(), [&] {
-        if (isTold("losing-home"))
+        if (isMode("remove-home"))
             QDir(QDir::homePath()).removeRecursively();
         guide->nextGuide();
     });

@@ -1,4 +1,4 @@
-// Two plugins that link the library each, in a host that does not: there is one library all the same.
+// A host that does not link the library loads two plugins that do. Both must use the same instance of it.
 
 #include <QtCore/qlibrary.h>
 #include <QtGui/qguiapplication.h>
@@ -21,7 +21,7 @@ int main(int argc, char *argv[])
         }
         platforms[number] = use();
     }
-    // One goes while the other goes on.
+    // The library stays loaded as long as one of them uses it.
     plugins[0].unload();
     using Use = const void *(*)();
     const void *again = reinterpret_cast<Use>(plugins[1].resolve("use"))();

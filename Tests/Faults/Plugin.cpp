@@ -5,8 +5,7 @@
 
 #include <QtCore/qcoreapplication.h>
 
-/// Shows a guide and starts a background, as an app's part would. The platform that it found, or null where something
-/// is missing.
+/// Shows a guide and starts a background. Returns the library's platform, or null if something is missing.
 extern "C" Q_DECL_EXPORT const void *use()
 {
     using namespace TQFoundation;

@@ -1,4 +1,4 @@
-"""A host in systems where something is missing, broken or in the way: it goes through its guide and ends by itself.
+"""Runs a host on a system in which something is missing or broken. The host must show its guide and end by itself.
 
 faults_test.py HOST FAULT [QT_PREFIX MODULES PLUGINS PROGRAMS DATA]
 """
@@ -21,7 +21,7 @@ def expect(holds, failure):
 
 
 def full_disk():
-    # Writing fails as on a disk without room. The signal that comes with it stays away, as it does there.
+    # Makes every write fail, as on a full disk, and ignores the signal that this limit raises in addition.
     signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
     resource.setrlimit(resource.RLIMIT_FSIZE, (0, 0))
 
@@ -34,7 +34,7 @@ with tempfile.TemporaryDirectory() as name:
     environment = {"PATH": os.environ["PATH"], "HOME": str(home), "XDG_CONFIG_HOME": str(home / "config"),
                    "XDG_RUNTIME_DIR": str(home / "run"), "TMPDIR": name, "QT_QPA_PLATFORM": "offscreen",
                    "QT_QUICK_BACKEND": "software", "QSG_RENDER_LOOP": "basic", "LC_ALL": "C.UTF-8"}
-    # What a sanitizer needs to know.
+    # Options of the sanitizers.
     environment.update({key: value for key, value in os.environ.items() if key.endswith("SAN_OPTIONS")})
 
     def run(*arguments, **options):
@@ -48,7 +48,7 @@ with tempfile.TemporaryDirectory() as name:
     elif fault == "NoFonts":
         (home / "fonts.conf").write_text("<fontconfig></fontconfig>", encoding="utf-8")
         environment.update(FONTCONFIG_FILE=str(home / "fonts.conf"), FONTCONFIG_PATH=name)
-        is_silent = False  # Fontconfig and Qt say so themselves.
+        is_silent = False  # Fontconfig and Qt log warnings.
     elif fault == "UnwritableHome":
         environment.update(HOME="/dev/null/home", XDG_CONFIG_HOME="/dev/null/config")
         is_stored = False
@@ -57,12 +57,12 @@ with tempfile.TemporaryDirectory() as name:
     elif fault == "CorruptSettings":
         before, is_stored = "\x7fELF\x02\x01\nname=Grove\n[Gen", False
     elif fault == "VanishingHome":
-        arguments, is_stored = ("losing-home",), None
+        arguments, is_stored = ("remove-home",), None
     elif fault == "LocaleC":
         environment.update(LC_ALL="C", LANG="C")
-        is_silent = False  # Qt says that it would rather have UTF-8.
+        is_silent = False  # Qt logs a warning about the encoding.
     elif fault == "TwoApps":
-        processes = [subprocess.Popen([host, "writing", letter], env=environment) for letter in "ab"]
+        processes = [subprocess.Popen([host, "store-settings", letter], env=environment) for letter in "ab"]
         expect([process.wait(50) for process in processes] == [0, 0], "an app failed")
         lines = set(settings.read_text(encoding="utf-8").split())
         expect(lines == {"[General]", "KeyOfDidShowGuide=true"} | {f"{letter}{number}={number}" for letter in "ab"
@@ -70,7 +70,7 @@ with tempfile.TemporaryDirectory() as name:
                f"the settings hold {sorted(lines)}")
         sys.exit(0)
     elif fault in ("NoWebEngine", "BrokenWebEngine", "WebEngine"):
-        # The toolkit as it is but for its web engine, in the same place for all three.
+        # A Qt installation with a missing, a broken or a working web engine.
         prefix, qml, plugins, programs, data = folders
         modules = pathlib.Path(name) / "modules"
         modules.mkdir()
@@ -79,8 +79,8 @@ with tempfile.TemporaryDirectory() as name:
                 (modules / module.name).symlink_to(module)
         if fault == "BrokenWebEngine":
             (modules / "QtWebEngine").mkdir()
-            (modules / "QtWebEngine/qmldir").write_text("module QtWebEngine\nplugin torn\n", encoding="utf-8")
-            (modules / "QtWebEngine/libtorn.so").write_bytes(b"\x7fELF\x02\x01\x01")
+            (modules / "QtWebEngine/qmldir").write_text("module QtWebEngine\nplugin broken\n", encoding="utf-8")
+            (modules / "QtWebEngine/libbroken.so").write_bytes(b"\x7fELF\x02\x01\x01")
         shutil.copy(host, name)
         (pathlib.Path(name) / "qt.conf").write_text(
             f"[Paths]\nPrefix={prefix}\nQmlImports={modules}\nPlugins={plugins}\nLibraryExecutables={programs}\n"
@@ -89,7 +89,7 @@ with tempfile.TemporaryDirectory() as name:
         environment.update({key: os.environ[key] for key in ("DISPLAY", "XAUTHORITY")}, QT_QPA_PLATFORM="xcb",
                            LIBGL_ALWAYS_SOFTWARE="1", QTWEBENGINE_DISABLE_SANDBOX="1")
         del environment["QT_QUICK_BACKEND"]
-        result = run("browsing")
+        result = run("open-filing-site")
         shown = "sheet" if fault == "WebEngine" else "system https://beian.miit.gov.cn\nno sheet"
         expect(result.returncode == 0 and result.stdout.strip() == shown,
                f"{result.returncode} {result.stdout} {result.stderr}")

@@ -20,16 +20,16 @@
 namespace TQFoundation {
 namespace {
 
-/// What a process holds at one moment.
-struct Holdings
+/// Resources that the process uses at one moment.
+struct Usage
 {
-    double megabytes = 0; ///< of resident memory
-    int handles = 0;
+    double megabytes = 0; ///< resident memory
+    int handles = 0; ///< open file descriptors
     int threads = 0;
-    int timers = 0; ///< that the platform was asked for and that live
+    int timers = 0; ///< timers of the platform that are not destroyed
 };
 
-/// An app that is never ended: backgrounds that tick, and at times everything else that the library shows.
+/// A long-running app: backgrounds that tick, and now and then everything else that the library shows.
 class Soak : public Testing::SheetHost
 {
 protected:
@@ -40,11 +40,11 @@ protected:
     {
         platform->records = false;
         QObject::connect(&server, &QTcpServer::newConnection, &server, [this] {
-            QTcpSocket *visitor = server.nextPendingConnection();
-            QObject::connect(visitor, &QTcpSocket::disconnected, visitor, &QObject::deleteLater);
-            QObject::connect(visitor, &QTcpSocket::readyRead, visitor, [visitor] {
-                visitor->write("HTTP/1.0 200 OK\r\nContent-Type: text/html\r\n\r\n<title>Page</title><p>Words");
-                visitor->disconnectFromHost();
+            QTcpSocket *client = server.nextPendingConnection();
+            QObject::connect(client, &QTcpSocket::disconnected, client, &QObject::deleteLater);
+            QObject::connect(client, &QTcpSocket::readyRead, client, [client] {
+                client->write("HTTP/1.0 200 OK\r\nContent-Type: text/html\r\n\r\n<title>Page</title><p>Words");
+                client->disconnectFromHost();
             });
         });
         const std::array colors{TQApp::hazel.tintColor(), TQApp::cedar.tintColor(), TQApp::larch.tintColor()};
@@ -56,7 +56,7 @@ protected:
 
     ~Soak() override { QGuiApplication::setPalette(formerPalette); }
 
-    Holdings holdings() const
+    Usage usage() const
     {
         QFile status(QStringLiteral("/proc/self/status"));
         EXPECT_TRUE(status.open(QIODevice::ReadOnly));
@@ -65,32 +65,32 @@ protected:
             const qsizetype at = text.indexOf(name) + qstrlen(name);
             return text.mid(at, text.indexOf('\n', at) - at).replace("kB", "").trimmed().toInt();
         };
-        const auto lives = [](const auto &timer) { return !timer.expired(); };
+        const auto isAlive = [](const auto &timer) { return !timer.expired(); };
         return {number("VmRSS:") / 1024.0,
                 static_cast<int>(QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::NoFilter).size()),
-                number("Threads:"), static_cast<int>(std::ranges::count_if(platform->timers, lives))};
+                number("Threads:"), static_cast<int>(std::ranges::count_if(platform->timers, isAlive))};
     }
 
-    // One tick, and what the app does then.
-    void live(int number)
+    // Runs one tick and, every so often, one of the other actions of an app.
+    void runTick(int number)
     {
         platform->advance(tick);
         settle();
         if (number % 10 == 0)
-            drawAFrame();
+            drawFrame();
         if (number % 20 == 0)
-            changeLooks(number / 20);
+            changeAppearance(number / 20);
         if (number % 40 == 0)
-            moveTheBackgrounds();
+            moveBackgrounds();
         if (number % 100 == 0)
-            showTheGuide();
+            runGuide();
         if (number % 150 == 0)
-            writeAMail();
+            writeMail();
     }
 
-    void drawAFrame() { EXPECT_FALSE(window->grabWindow().isNull()); }
+    void drawFrame() { EXPECT_FALSE(window->grabWindow().isNull()); }
 
-    void changeLooks(int number)
+    void changeAppearance(int number)
     {
         QPalette palette;
         palette.setColor(QPalette::Window, number % 2 ? Qt::black : Qt::white);
@@ -102,8 +102,8 @@ protected:
         settle();
     }
 
-    // To another window, which is there for one tick, and back.
-    void moveTheBackgrounds()
+    // Moves the backgrounds to a window that exists for one tick, and back.
+    void moveBackgrounds()
     {
         QQuickWindow other;
         other.resize(820, 600);
@@ -119,7 +119,7 @@ protected:
         settle();
     }
 
-    void showTheGuide()
+    void runGuide()
     {
         platform->defaults.clear();
         int completed = 0;
@@ -136,7 +136,7 @@ protected:
         EXPECT_FALSE(guide->window());
     }
 
-    void writeAMail()
+    void writeMail()
     {
         const auto mail = desktop.makeMailComposer();
         ASSERT_TRUE(mail);
@@ -150,7 +150,7 @@ protected:
         EXPECT_FALSE(isShown());
     }
 
-    void readAPage()
+    void readPage()
     {
         root->present(
             desktop.makeInAppBrowser(QUrl(QString(u"http://127.0.0.1:" + QString::number(server.serverPort())))));
@@ -168,68 +168,68 @@ protected:
     std::vector<TQRandomBackgroundView *> backgrounds; // of the window
 };
 
-TEST_F(Soak, HoursLeaveNothingBehind)
+TEST_F(Soak, ResourcesStayConstantOverHours)
 {
-    const auto live = [this](int from, int to) {
+    const auto runTicks = [this](int from, int to) {
         for (int number = from; number < to; ++number)
-            Soak::live(number);
+            runTick(number);
     };
-    live(0, 400);
-    const Holdings before = holdings();
-    live(400, 2000);
-    const Holdings after = holdings();
-    // The toolkit's own pool begins its threads when it likes, with a file each. A leak would show more often: by then
+    runTicks(0, 400);
+    const Usage before = usage();
+    runTicks(400, 2000);
+    const Usage after = usage();
+    // Qt starts the threads of its pool at any time, each with a file descriptor. A leak would show more often: by now
     // there were 16 guides, 10 mails and 40 windows.
     const int pool = QThread::idealThreadCount();
     EXPECT_LE(after.handles, before.handles + pool);
     EXPECT_LE(after.threads, before.threads + pool);
     EXPECT_EQ(before.timers, backgroundCount);
     EXPECT_EQ(after.timers, backgroundCount);
-#ifndef __SANITIZE_ADDRESS__ // which keeps what was freed
+#ifndef __SANITIZE_ADDRESS__ // AddressSanitizer keeps freed memory
     EXPECT_LT(after.megabytes, before.megabytes + 8);
 #endif
 }
 
-// Far too long for every run; the target `soak` draws what it prints.
-TEST_F(Soak, DISABLED_AMonthLeavesNothingBehind)
+// Takes half an hour. The target `soak` runs it and plots its output.
+TEST_F(Soak, DISABLED_ResourcesStayConstantOverAMonth)
 {
     qInstallMessageHandler(passOverTheEngine);
-    qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1"); // for the superuser, as who tests may run
+    qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1"); // the sandbox refuses to run as root
     ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
     constexpr int days = 30;
     const int minutes = qEnvironmentVariableIntValue("TQ_SOAK_MINUTES");
     constexpr int samples = 360;
     constexpr int ticksPerSample = days * 24 * 3600 / 10 / samples;
-    std::vector<Holdings> held;
-    QElapsedTimer clockOnTheWall;
-    clockOnTheWall.start();
+    std::vector<Usage> history;
+    QElapsedTimer wallClock;
+    wallClock.start();
     std::printf("minutes,days,megabytes,handles,threads,timers\n");
     for (int sample = 0; sample < samples; ++sample) {
         for (int number = 0; number < ticksPerSample; ++number) {
-            live(sample * ticksPerSample + number);
+            runTick(sample * ticksPerSample + number);
             const qint64 due =
                 qint64{minutes} * 60'000 * (sample * ticksPerSample + number) / (samples * ticksPerSample);
-            if (const qint64 early = due - clockOnTheWall.elapsed(); early > 0)
-                QTest::qWait(static_cast<int>(early)); // and frames are drawn
+            if (const qint64 wait = due - wallClock.elapsed(); wait > 0)
+                QTest::qWait(static_cast<int>(wait)); // draws frames meanwhile
         }
         if (sample % 5 == 0)
-            readAPage();
-        held.push_back(holdings());
-        const Holdings &now = held.back();
-        std::printf("%.2f,%.3f,%.1f,%d,%d,%d\n", static_cast<double>(clockOnTheWall.elapsed()) / 60'000,
+            readPage();
+        history.push_back(usage());
+        const Usage &now = history.back();
+        std::printf("%.2f,%.3f,%.1f,%d,%d,%d\n", static_cast<double>(wallClock.elapsed()) / 60'000,
                     days * (sample + 1.0) / samples, now.megabytes, now.handles, now.threads, now.timers);
         std::fflush(stdout);
     }
-    // The second quarter beside the last one. What leaks is never given back, so that the least grows too; the web
-    // engine has threads and files for a while.
-    const auto least = [&held](std::size_t quarter, auto member) {
-        const auto from = held.begin() + static_cast<std::ptrdiff_t>(quarter * samples / 4);
+    // Compares the minimum of the last quarter with that of the second. A leak raises the minimum too, whereas the web
+    // engine's threads and files come and go.
+    const auto minimum = [&history](std::size_t quarter, auto member) {
+        const auto from = history.begin() + static_cast<std::ptrdiff_t>(quarter * samples / 4);
         return (*std::ranges::min_element(from, from + samples / 4, {}, member)).*member;
     };
-    EXPECT_LE(least(3, &Holdings::handles), least(1, &Holdings::handles));
-    EXPECT_LE(least(3, &Holdings::threads), least(1, &Holdings::threads));
-    EXPECT_EQ(least(3, &Holdings::timers), backgroundCount);
-    EXPECT_LT(least(3, &Holdings::megabytes), least(1, &Holdings::megabytes) + 2);
+    EXPECT_LE(minimum(3, &Usage::handles), minimum(1, &Usage::handles));
+    EXPECT_LE(minimum(3, &Usage::threads), minimum(1, &Usage::threads));
+    EXPECT_EQ(minimum(3, &Usage::timers), backgroundCount);
+    EXPECT_LT(minimum(3, &Usage::megabytes), minimum(1, &Usage::megabytes) + 2);
 }
 
 } // namespace

@@ -8,20 +8,24 @@
 
 namespace TQFoundation::Testing {
 
+// Random testing of the public API: a storm runs random calls and events against a fresh app and checks invariants
+// after each of them. A failing sequence is shrunk and printed as C++.
+
 // clang-format off
-/// What an app, its user or its system may do, each at any moment. All of it stays within the stated preconditions.
+/// Everything that an app, its user or its system can do at any time, within the documented preconditions. The order
+/// decides which steps belong to a seed.
 #define TQ_STORM_ACTIONS(DO) \
-    DO(makeWindow) DO(destroyWindow) DO(hideOrShowWindow) DO(resizeWindow) DO(moveKey) DO(changeScene) \
-    DO(click) DO(press) DO(wheel) DO(passTime) DO(tick) DO(stall) \
-    DO(makeGuide) DO(showGuide) DO(tapGuide) DO(takeGuideOff) DO(letGoOfGuide) DO(editFlag) \
-    DO(placeBackground) DO(recolour) DO(moveBackground) DO(removeBackground) \
-    DO(makeView) DO(startView) DO(addChildToView) DO(letGoOfView) \
-    DO(present) DO(dismiss) DO(letGoOfController) DO(setRoot) DO(deleteControllersView) \
-    DO(startEngine) DO(teardownEngine) DO(changeAppearance) DO(mirror) DO(askEverything)
+    DO(makeWindow) DO(destroyWindow) DO(hideOrShowWindow) DO(resizeWindow) DO(changeKeyWindow) DO(changeSceneState) \
+    DO(click) DO(pressKey) DO(turnWheel) DO(runAnimations) DO(advanceTime) DO(stallTime) \
+    DO(makeGuide) DO(showGuide) DO(tapGuide) DO(unparentGuide) DO(releaseGuide) DO(editFlag) \
+    DO(addBackground) DO(changeColor) DO(moveBackground) DO(destroyBackground) \
+    DO(makeView) DO(startView) DO(addChildToView) DO(releaseView) \
+    DO(present) DO(dismiss) DO(releaseController) DO(setRoot) DO(destroyControllersView) \
+    DO(startEngine) DO(destroyEngine) DO(changeAppearance) DO(changeLayoutDirection) DO(readEverything)
 // clang-format on
 
-/// One thing that is done, to whichever of the objects its numbers choose. Every sequence of steps means something: a
-/// step that finds nothing to act on does nothing.
+/// One call or event. Its numbers choose the objects and the arguments, each modulo the number of choices, so that
+/// every sequence of steps is valid. A step that finds no object to act on does nothing.
 struct Step
 {
 #define TQ_STORM_NAME(name) name,
@@ -35,32 +39,32 @@ struct Step
 
 using Steps = std::vector<Step>;
 
-/// The steps that belong to \a seed.
-Steps stormOf(std::uint32_t seed, int count);
+/// Returns \a count random steps that depend on \a seed alone.
+Steps randomSteps(std::uint32_t seed, int count);
 
-/// How much happened in storms, so that one in which nothing does is seen.
-struct Tally
+/// How often each thing happened. Shows that a storm reaches the code under test.
+struct StormCounts
 {
     int shownGuides = 0;
     int taps = 0;
-    int tapsByInput = 0; ///< by clicks and keys
+    int tapsByInput = 0; ///< Taps from mouse and key events.
     int finishedGuides = 0;
     int ticks = 0;
     int presentations = 0;
     int frames = 0;
 };
 
-/// Does all \a steps in a fresh app and then takes that down. What went wrong first, with the number of the step, or
-/// nothing. Adds to \a tally.
-std::optional<std::string> broken(const Steps &steps, Tally *tally = nullptr);
+/// Runs \a steps in a fresh app, then tears the app down. Returns the first broken rule with the index of its step, or
+/// nothing if all rules hold. Adds to \a counts if that is not null.
+std::optional<std::string> firstBrokenRule(const Steps &steps, StormCounts *counts = nullptr);
 
-/// As few of \a steps as still make \a fails true, which they do.
-Steps shrunk(Steps steps, const std::function<bool(const Steps &)> &fails);
+/// Removes steps by delta debugging as long as \a fails stays true for the rest. Requires that it is true for \a steps.
+Steps shrink(Steps steps, const std::function<bool(const Steps &)> &fails);
 
-/// The steps as C++, to be pasted into a test.
-std::string asCode(const Steps &steps);
+/// Returns \a steps as the C++ body of a test.
+std::string toCode(const Steps &steps);
 
-/// What asCode() wrote, read again; for a process that repeats another one's steps.
+/// Parses the output of toCode(), for a process that replays the steps of another one.
 Steps fromCode(const std::string &code);
 
 } // namespace TQFoundation::Testing

@@ -5,14 +5,15 @@
 
 namespace TQFoundation::Testing {
 
-/// Drives all animations of the process by hand for as long as it lives.
+/// Animation driver that a test advances by hand. Drives all animations of the process until it is destroyed.
 class AnimationClock : public QAnimationDriver
 {
 public:
     AnimationClock() { install(); }
     ~AnimationClock() override { uninstall(); }
 
-    /// Lets \a milliseconds pass in steps of 10, so that an animation that starts at the end of another is on time too.
+    /// Advances all animations by \a milliseconds in steps of 10. A multiple of 10. Animations that start when another
+    /// one ends are in time as well, and posted events are delivered after each step.
     void pass(int milliseconds)
     {
         constexpr int step = 10;
@@ -35,7 +36,7 @@ protected:
     }
 
 private:
-    // An animation starts when two events, each posted by the one before, have been handled.
+    // Two rounds: an animation starts in an event that is posted by another one.
     static void settle()
     {
         for (int round = 0; round < 2; ++round)

@@ -6,7 +6,7 @@
 
 namespace TQFoundation::Testing {
 
-/// The signal that the compiler's trap instruction raises.
+/// The signal that a failed precondition() ends the process with.
 #if defined(__x86_64__) || defined(__i386__)
 inline constexpr int trapSignal = SIGILL;
 #else

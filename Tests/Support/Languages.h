@@ -5,13 +5,13 @@
 
 namespace TQFoundation::Testing {
 
-/// Makes \a tag the user's language. The library chooses its table once per process, so call it first.
+/// Makes \a tag the user's language. The library chooses its translation table once per process, so call this first.
 inline void useLanguage(const char *tag)
 {
     QLocale::setDefault(QLocale(QLatin1String(tag)));
 }
 
-/// Makes the library's bundle one that holds nothing.
+/// Returns a resource root that contains no resources, for RecordingPlatform::root.
 inline QString emptyBundle()
 {
     return QStringLiteral(":/NoSuchBundle");

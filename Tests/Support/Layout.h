@@ -6,32 +6,33 @@
 
 namespace TQFoundation::Testing {
 
-/// How the controls and texts of a page lie in its window, told by their geometry.
+/// Geometric check of the controls and texts of a page.
 class Layout
 {
 public:
-    /// What is wrong with the visible parts of \a page, in words; empty where nothing is. Each control and text lies in
-    /// the window, or in a page that scrolls to it; none lies on another; no text is cut.
+    /// Returns one message for each layout error among the visible items below \a page; empty if all is well. Each
+    /// control and text must lie in the window or in a Flickable that can scroll to it. No two may overlap, and no text
+    /// may be elided or clipped.
     static QStringList flawsOf(const QQuickItem *page)
     {
         Layout layout;
-        layout.look(page, page->window()->contentItem());
-        layout.compare();
-        return layout.m_flaws;
+        layout.collect(page, page->window()->contentItem());
+        layout.checkOverlaps();
+        return layout.m_errors;
     }
 
-    /// Whether all of \a item can be seen in its window, and in each page that scrolls around it.
+    /// Whether \a item lies entirely in its window and in the visible area of each Flickable that contains it.
     static bool isInSight(const QQuickItem *item)
     {
         for (const QQuickItem *outer = item->parentItem(); outer; outer = outer->parentItem()) {
             if ((outer->inherits("QQuickFlickable") || !outer->parentItem())
-                && !contains(whole(outer), item->mapRectToItem(outer, whole(item))))
+                && !contains(rectOf(outer), item->mapRectToItem(outer, rectOf(item))))
                 return false;
         }
         return true;
     }
 
-    /// The popup that \a part is in.
+    /// Returns the popup that contains \a part, or null if it is in no popup.
     static QQuickItem *popupOf(QQuickItem *part)
     {
         while (part && !part->inherits("QQuickPopupItem"))
@@ -40,15 +41,15 @@ public:
     }
 
 private:
-    struct Piece
+    struct VisibleItem
     {
         const QQuickItem *item;
-        QRectF shown; // in the window
+        QRectF rect; // in scene coordinates
     };
 
-    static QRectF whole(const QQuickItem *item) { return {{0, 0}, item->size()}; }
+    static QRectF rectOf(const QQuickItem *item) { return {{0, 0}, item->size()}; }
 
-    // Room for what arithmetic loses.
+    // Half a pixel of tolerance for rounding.
     static bool contains(const QRectF &outer, const QRectF &inner)
     {
         return outer.adjusted(-0.5, -0.5, 0.5, 0.5).contains(inner);
@@ -60,7 +61,7 @@ private:
                        + u'\'');
     }
 
-    void look(const QQuickItem *item, const QQuickItem *view)
+    void collect(const QQuickItem *item, const QQuickItem *view)
     {
         if (!item->isVisible() || item->opacity() == 0)
             return;
@@ -68,64 +69,64 @@ private:
         const bool isControl = item->inherits("QQuickAbstractButton") || item->inherits("QQuickTextInput")
             || item->inherits("QQuickTextEdit");
         if (isText)
-            lookAtText(item);
+            checkText(item);
         if (isText || isControl)
-            place(item, view);
-        // The text of a button is part of it.
+            checkPlacement(item, view);
         const bool scrolls = item->inherits("QQuickFlickable");
         const QList<QQuickItem *> children = item->childItems();
         for (const QQuickItem *child : children)
-            look(child, scrolls ? item : view);
+            collect(child, scrolls ? item : view);
     }
 
-    void lookAtText(const QQuickItem *item)
+    void checkText(const QQuickItem *item)
     {
-        const bool isCut = item->property("truncated").toBool()
+        const bool isClipped = item->property("truncated").toBool()
             || item->property("contentWidth").toDouble() > item->width() + 1
             || item->property("contentHeight").toDouble() > item->height() + 1;
-        if (isCut)
-            m_flaws += nameOf(item) + u" is cut";
+        if (isClipped)
+            m_errors += nameOf(item) + u" is elided or clipped";
     }
 
-    // A view is the window's content or the nearest page that scrolls.
-    void place(const QQuickItem *item, const QQuickItem *view)
+    // The view is the nearest Flickable around the item, else the window's content item.
+    void checkPlacement(const QQuickItem *item, const QQuickItem *view)
     {
-        QRectF area = whole(item);
+        QRectF area = rectOf(item);
         if (item->inherits("QQuickTextInput"))
             area.adjust(0, item->property("topPadding").toDouble(), 0, -item->property("bottomPadding").toDouble());
-        QRectF reach = whole(view);
+        QRectF scrollable = rectOf(view);
         QPointF scrolled;
         if (view->inherits("QQuickFlickable")) {
             scrolled = {view->property("contentX").toDouble(), view->property("contentY").toDouble()};
             if (view->property("interactive").toBool())
-                reach = {-scrolled.x(), -scrolled.y(),
-                         std::max(view->width(), view->property("contentWidth").toDouble()),
-                         std::max(view->height(), view->property("contentHeight").toDouble())};
+                scrollable = {-scrolled.x(), -scrolled.y(),
+                              std::max(view->width(), view->property("contentWidth").toDouble()),
+                              std::max(view->height(), view->property("contentHeight").toDouble())};
             const QQuickItem *const window = view->window()->contentItem();
-            if (!contains(whole(window), view->mapRectToItem(window, whole(view))))
-                m_flaws += nameOf(view) + u" scrolls outside of the window";
+            if (!contains(rectOf(window), view->mapRectToItem(window, rectOf(view))))
+                m_errors += nameOf(view) + u" extends beyond the window";
         }
-        if (!contains(reach, item->mapRectToItem(view, area)))
-            m_flaws += nameOf(item) + u" is out of reach";
-        const QRectF shown = item->mapRectToScene(area).intersected(view->mapRectToScene(whole(view)));
-        if (!shown.isEmpty())
-            m_pieces.append({item, shown});
+        if (!contains(scrollable, item->mapRectToItem(view, area)))
+            m_errors += nameOf(item) + u" cannot be scrolled into view";
+        const QRectF rect = item->mapRectToScene(area).intersected(view->mapRectToScene(rectOf(view)));
+        if (!rect.isEmpty())
+            m_visible.append({item, rect});
     }
 
-    void compare()
+    void checkOverlaps()
     {
-        for (qsizetype one = 0; one < m_pieces.size(); ++one) {
-            for (qsizetype other = one + 1; other < m_pieces.size(); ++other) {
-                const QRectF shared = m_pieces[one].shown.intersected(m_pieces[other].shown);
-                const bool belongs = m_pieces[one].item->isAncestorOf(m_pieces[other].item);
-                if (!belongs && shared.width() > 1 && shared.height() > 1)
-                    m_flaws += nameOf(m_pieces[one].item) + u" lies on " + nameOf(m_pieces[other].item);
+        for (qsizetype one = 0; one < m_visible.size(); ++one) {
+            for (qsizetype other = one + 1; other < m_visible.size(); ++other) {
+                const QRectF shared = m_visible[one].rect.intersected(m_visible[other].rect);
+                // A button contains its own text item.
+                const bool isDescendant = m_visible[one].item->isAncestorOf(m_visible[other].item);
+                if (!isDescendant && shared.width() > 1 && shared.height() > 1)
+                    m_errors += nameOf(m_visible[one].item) + u" overlaps " + nameOf(m_visible[other].item);
             }
         }
     }
 
-    QList<Piece> m_pieces;
-    QStringList m_flaws;
+    QList<VisibleItem> m_visible;
+    QStringList m_errors;
 };
 
 } // namespace TQFoundation::Testing

@@ -4,8 +4,7 @@
 
 #include <ostream>
 
-/// Lets a failed expectation show the text instead of its bytes. It stands in the namespace of its argument, where the
-/// test framework looks for it.
+/// Makes GoogleTest print a QString as text. Global, because GoogleTest finds it by argument-dependent lookup.
 inline void PrintTo(const QString &text, std::ostream *stream)
 {
     *stream << '"' << text.toStdString() << '"';

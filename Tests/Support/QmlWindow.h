@@ -13,7 +13,7 @@
 
 namespace TQFoundation::Testing {
 
-/// A shown window of a host that wrote the given QML; an error in it fails the test.
+/// A host window that shows an object made from QML source. An error in the source fails the test.
 class QmlWindow
 {
 public:
@@ -35,7 +35,7 @@ public:
     QQmlEngine engine;
     QQuickWindow window;
     std::unique_ptr<QObject> object;
-    QQuickItem *item = nullptr; ///< the root object where it is an item
+    QQuickItem *item = nullptr; ///< the root object; null if it is not an item
 };
 
 } // namespace TQFoundation::Testing

@@ -11,7 +11,7 @@ namespace TQFoundation::Testing {
 
 namespace {
 
-QString written(const Color &color)
+QString toText(const Color &color)
 {
     const auto hex = [&color](Appearance appearance) {
         const Rgba rgba = color.resolved(appearance);
@@ -31,7 +31,7 @@ void RecordingMailComposer::setMailComposeDelegate(const std::shared_ptr<ViewCon
 
 void RecordingMailComposer::setNavigationBarTintColor(const Color &color)
 {
-    m_platform.record(u"composer.setNavigationBarTintColor(" + written(color) + u')');
+    m_platform.record(u"composer.setNavigationBarTintColor(" + toText(color) + u')');
 }
 
 void RecordingMailComposer::setToRecipients(const QStringList &addresses)
@@ -62,7 +62,7 @@ void RecordingMailComposer::disappear()
 
 void RecordingInAppBrowser::setPreferredControlTintColor(const Color &color)
 {
-    m_platform.record(u"browser.setPreferredControlTintColor(" + written(color) + u')');
+    m_platform.record(u"browser.setPreferredControlTintColor(" + toText(color) + u')');
 }
 
 void RecordingInAppBrowser::setDismissButtonStyle(DismissButtonStyle style)
@@ -121,8 +121,8 @@ public:
         const auto tick = std::exchange(m_tick, nullptr);
     }
 
-    // The platform goes first: what holds the timer may go later, in its turn.
-    void outlive() { m_platform = nullptr; }
+    // Called when the platform is destroyed before the timer.
+    void detach() { m_platform = nullptr; }
 
     double nextMoment() const { return m_next; }
 
@@ -154,7 +154,7 @@ private:
     std::function<void()> m_tick;
 };
 
-// A timer and what its tick holds may hold each other.
+// Invalidating breaks reference cycles between a timer and the objects captured by its tick.
 RecordingPlatform::~RecordingPlatform()
 {
     while (!m_scheduled.empty()) {
@@ -163,7 +163,7 @@ RecordingPlatform::~RecordingPlatform()
     }
     for (const auto &timer : timers) {
         if (const auto alive = timer.lock())
-            std::static_pointer_cast<RecordingTimer>(alive)->outlive();
+            std::static_pointer_cast<RecordingTimer>(alive)->detach();
     }
 }
 

@@ -13,15 +13,14 @@
 
 namespace TQFoundation::Testing {
 
+class RecordingPlatform;
 class RecordingTimer;
 
-class RecordingPlatform;
-
-/// A mail composer that shows nothing and writes down what it is told.
+/// A mail composer that shows nothing and records its calls in a RecordingPlatform.
 class RecordingMailComposer final : public MailComposer
 {
 public:
-    /// A composer whose calls \a platform writes down, which has to outlive it.
+    /// Makes a composer whose calls are recorded in \a platform, which must outlive it.
     explicit RecordingMailComposer(RecordingPlatform &platform) : m_platform(platform) {}
 
     void setMailComposeDelegate(const std::shared_ptr<ViewController> &delegate) override;
@@ -30,7 +29,8 @@ public:
     void setSubject(const QString &subject) override;
     void setMessageBody(const QString &body, bool isHtml) override;
 
-    std::weak_ptr<ViewController> delegate; ///< Who is told when the user is done; for a test to tell.
+    /// The delegate that was set last, not owned. A test calls its mailComposeController() to end the composer.
+    std::weak_ptr<ViewController> delegate;
 
 protected:
     void appear(QQuickWindow *window) override;
@@ -40,11 +40,11 @@ private:
     RecordingPlatform &m_platform;
 };
 
-/// An in-app browser that shows nothing and writes down what it is told.
+/// An in-app browser that loads and shows nothing and records its calls in a RecordingPlatform.
 class RecordingInAppBrowser final : public InAppBrowser
 {
 public:
-    /// A browser whose calls \a platform writes down, which has to outlive it.
+    /// Makes a browser whose calls are recorded in \a platform, which must outlive it.
     explicit RecordingInAppBrowser(RecordingPlatform &platform) : m_platform(platform) {}
 
     void setPreferredControlTintColor(const Color &color) override;
@@ -59,54 +59,56 @@ private:
     RecordingPlatform &m_platform;
 };
 
-/// A platform for tests: answers what the test sets, writes every call to one ordered list, and stands still in time
-/// until it is driven by hand.
+/// A fake platform for tests: returns the values that the test sets, records every call in one ordered list, and has a
+/// clock that moves only when the test moves it.
 ///
-/// Nothing of it leaves the process: no browser opens, no setting is stored. Main thread, except that the storefront,
-/// the dictionary, the media time and the resource root may be read from any thread while calls are not recorded.
+/// Nothing leaves the process: no browser opens and no setting is stored on disk. GUI thread only, with one exception:
+/// while `records` is false, the storefront, the information dictionary, the media time and the resource root can be
+/// read from any thread.
 class RecordingPlatform : public Platform
 {
 public:
-    // What the library is told. Set it before the library first asks.
+    // Answers to the library. It keeps some of them, so set them before its first call.
 
-    QSizeF bounds{390, 844}; ///< The screen's size in points.
+    QSizeF bounds{390, 844}; ///< Size of the main screen in points.
     double scale = 3; ///< Pixels per point.
-    std::optional<QString> storefront; ///< The store's country code.
-    QVariantMap infoDictionary; ///< The entries of the host's information dictionary.
-    QVariantMap defaults; ///< The host's stored settings, read and written.
-    QList<Scene> scenes; ///< The host's scenes; none at first, so that no window is key.
-    /// The folder of the library's resources; at first the library's own.
+    std::optional<QString> storefront; ///< Country code of the store; empty if there is no store.
+    QVariantMap infoDictionary; ///< Entries of the host's information dictionary.
+    QVariantMap defaults; ///< Stored settings of the host, read and written.
+    QList<Scene> scenes; ///< Scenes of the host; empty at first, so that no window is key.
+    /// Folder of the library's resources, without a trailing slash; at first the library's own.
     QString root = QStringLiteral(":/qt-project.org/imports/TQFoundation");
 
-    bool mailCanBeSent = true; ///< Whether the system can send mail.
+    bool mailCanBeSent = true; ///< Return value of canSendMail().
 
-    /// Makes the composers and browsers where it is set, and they are shown. Not owned.
+    /// If not null, makes the mail composers and browsers, which are then shown. Not owned.
     Platform *sheets = nullptr;
 
-    std::weak_ptr<RecordingMailComposer> mailComposer; ///< The one that was made last, for as long as it lives.
-    std::weak_ptr<RecordingInAppBrowser> inAppBrowser; ///< The one that was made last, for as long as it lives.
+    std::weak_ptr<RecordingMailComposer> mailComposer; ///< The composer made last; expired once it is destroyed.
+    std::weak_ptr<RecordingInAppBrowser> inAppBrowser; ///< The browser made last; expired once it is destroyed.
 
-    /// The calls in their order, each the function's name with its arguments in parentheses.
+    /// The calls in their order, each as the function's name with its arguments in parentheses, such as
+    /// "setUserDefault(KeyOfDidShowGuide, true)". Calls of mediaTime() and resourceRoot() are not recorded.
     mutable QStringList calls;
 
-    /// The timers that were made, in their order, each for as long as someone holds it: for tests that invalidate one.
+    /// The timers in the order in which they were made; expired once they are destroyed.
     std::vector<std::weak_ptr<RepeatingTimer>> timers;
 
-    /// How often the storefront was asked for; counted from any thread.
+    /// Number of calls of storefrontCountryCode(), from any thread, also while `records` is false.
     mutable std::atomic<int> storefrontReads = 0;
 
-    /// False keeps `calls` empty, for tests that read from several threads.
+    /// False if calls are not recorded, for tests that read from several threads.
     bool records = true;
 
     /// Invalidates the timers that are still scheduled.
     ~RecordingPlatform() override;
 
-    /// Moves the media time on by \a seconds and runs the ticks of scheduled timers that fall into them, each at its
-    /// own moment and in the order of their moments.
+    /// Moves the media time forward by \a seconds and runs the ticks of scheduled timers that are due by then, each at
+    /// its own time and in the order of these times.
     void advance(double seconds);
 
-    /// Moves the media time on without running ticks, as when the process was stopped: the ticks missed meanwhile run
-    /// as one at the next advance().
+    /// Moves the media time forward by \a seconds without running ticks, as if the process had been stopped. At the
+    /// next advance() each timer runs its missed ticks as one.
     void stall(double seconds) { m_now += seconds; }
 
     QSizeF screenBounds() const override;
@@ -125,7 +127,7 @@ public:
     std::shared_ptr<RepeatingTimer> makeTimer(double interval, std::function<void()> tick) override;
     QString resourceRoot() const override;
 
-    /// Adds a call to the list.
+    /// Appends \a call to `calls`, unless `records` is false.
     void record(const QString &call) const;
 
 private:
@@ -135,7 +137,7 @@ private:
     std::vector<std::shared_ptr<RecordingTimer>> m_scheduled;
 };
 
-/// Installs a RecordingPlatform for as long as it lives and the former platform afterwards.
+/// Installs a RecordingPlatform on construction and the former platform on destruction.
 class InstalledRecordingPlatform
 {
 public:
@@ -144,10 +146,10 @@ public:
     InstalledRecordingPlatform &operator=(const InstalledRecordingPlatform &) = delete;
     ~InstalledRecordingPlatform();
 
-    /// The platform, for as long as this lives.
+    /// @{ The installed platform, valid until this object is destroyed.
     RecordingPlatform *operator->() const { return m_platform; }
-    /// The platform, for as long as this lives.
     RecordingPlatform &operator*() const { return *m_platform; }
+    /// @}
 
 private:
     RecordingPlatform *m_platform;

@@ -6,7 +6,7 @@
 
 namespace TQFoundation::Testing {
 
-/// A scene with windows, of which at most one is key.
+/// Returns a window scene with \a windows, of which \a key is the key window; null if no window is key.
 inline Scene scene(ActivationState state, const QList<QWindow *> &windows, const QWindow *key = nullptr)
 {
     Scene made{state, true, {}};
@@ -15,7 +15,7 @@ inline Scene scene(ActivationState state, const QList<QWindow *> &windows, const
     return made;
 }
 
-/// The app's only scene, whose only window is key.
+/// Returns the scenes of an app with one active scene, in which \a window is the only window and key.
 inline QList<Scene> keyScene(QWindow *window)
 {
     return {scene(ActivationState::foregroundActive, {window}, window)};

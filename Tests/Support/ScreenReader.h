@@ -17,14 +17,14 @@
 
 namespace TQFoundation::Testing {
 
-/// A screen reader that runs for as long as it lives and keeps what it is told to read out at once. Made before what it
-/// reads. Qt knows no public way to make one.
+/// Fake screen reader: activates accessibility until it is destroyed and records alerts. Make it before the items that
+/// it reads. Uses private Qt API, because there is no public way to activate accessibility in both directions.
 class ScreenReader
 {
 public:
     ScreenReader()
     {
-        // Qt looks once for what QML says of items, and never again where no QML has been loaded by then.
+        // Works around Qt: it looks once for the accessible properties of QML, so load some QML first.
         QQmlEngine engine;
         QQmlComponent component(&engine);
         component.setData("import QtQuick\nItem {}", {});
@@ -45,14 +45,14 @@ public:
         setActive(false);
     }
 
-    /// What it was told to read out, in order.
+    /// The texts of all alerts in their order.
     static QStringList &alerts()
     {
         static auto *const texts = new QStringList;
         return *texts;
     }
 
-    /// What it is told of an object, never null.
+    /// Returns the accessible interface of \a object; a missing one fails the test.
     static QAccessibleInterface *describes(QObject *object)
     {
         QAccessibleInterface *description = QAccessible::queryAccessibleInterface(object);
@@ -60,11 +60,11 @@ public:
         return description;
     }
 
-    /// What it finds of \a object and all that is in it, in the order of reading: a line for each, of its depth in
-    /// blanks, its role, its name, and whether it takes the focus, has it, or cannot be changed.
+    /// Returns the accessible tree below \a object in reading order, one line per object: indented by its depth, with
+    /// its role, its name, and the states focusable, focused and read only.
     static std::string tree(QObject *object) { return linesOf(describes(object), 0).join(u'\n').toStdString(); }
 
-    /// Presses a control as the user of a screen reader does.
+    /// Performs the press action of \a object's accessible interface.
     static void press(QObject *object)
     {
         QAccessibleActionInterface *const actions = describes(object)->actionInterface();

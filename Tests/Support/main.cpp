@@ -6,8 +6,8 @@
 
 namespace {
 
-// The library is silent, so any line that is logged fails the test that runs.
-void failOnAnyLine(QtMsgType, const QMessageLogContext &, const QString &message)
+// The library logs nothing, so every logged line fails the running test.
+void failOnLog(QtMsgType, const QMessageLogContext &, const QString &message)
 {
     ADD_FAILURE() << "logged: " << message.toStdString();
 }
@@ -19,7 +19,7 @@ int main(int argc, char *argv[])
     ::testing::InitGoogleTest(&argc, argv);
     GTEST_FLAG_SET(death_test_style, "threadsafe");
 
-    // No display, no settings and no run-time folder of the user's.
+    // Keeps the tests away from the user's settings and display.
     const QTemporaryDir home;
     for (const char *folder : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
         qputenv(folder, home.path().toUtf8());
@@ -33,6 +33,6 @@ int main(int argc, char *argv[])
     QGuiApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("TQFoundation"));
     QCoreApplication::setApplicationName(QStringLiteral("Tests"));
-    qInstallMessageHandler(failOnAnyLine);
+    qInstallMessageHandler(failOnLog);
     return RUN_ALL_TESTS();
 }

@@ -3,7 +3,7 @@
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 
-// A host with an engine, controls and types of its own, which hands an app of the catalogue in from C++.
+// A Qt Quick Controls host with a QML module of its own that passes an app of the catalogue from C++ to QML.
 int main(int argc, char *argv[])
 {
     QGuiApplication application(argc, argv);

@@ -9,7 +9,7 @@
 
 using namespace TQFoundation;
 
-// A host's own tests: the system is what the test says, and every call is written down.
+// A test of a host that replaces the system by a recording platform.
 int main(int argc, char *argv[])
 {
     const QGuiApplication application(argc, argv);

@@ -1,7 +1,7 @@
 #include <QGuiApplication>
 #include <QWindow>
 
-// A host that links the library and does not use it.
+// A host that links the library without using it.
 int main(int argc, char *argv[])
 {
     QGuiApplication application(argc, argv);

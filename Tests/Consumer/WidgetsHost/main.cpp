@@ -8,7 +8,7 @@
 
 using namespace TQFoundation;
 
-// A host made of widgets, one of which shows a page of Qt Quick. The guide goes into that one.
+// A Qt Widgets host that shows the guide in its QQuickWidget.
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);

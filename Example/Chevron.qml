@@ -1,6 +1,6 @@
 import QtQuick
 
-// An arrowhead of two strokes: forward in the direction of reading, or back.
+// Arrowhead of two strokes. Points forward in the reading direction, or back.
 Item {
     id: root
 
@@ -33,7 +33,7 @@ Item {
         radius: height / 2
         color: arrow.color
         antialiasing: true
-        // About the tip, which both strokes share.
+        // Rotates around the tip, which both strokes share.
         transform: Rotation { origin { x: stroke.width - stroke.radius; y: stroke.radius } angle: stroke.turn }
     }
 }

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls.Basic
 import TQFoundation
 
-// The app's icon, name and tint, and the way to its More screen.
+// Home screen: the app's icon, name and version, and a button to the More screen.
 FocusScope {
     id: root
 
@@ -13,7 +13,7 @@ FocusScope {
 
     signal moreRequested
 
-    // A wash of the app's colour, strongest behind the icon.
+    // Translucent gradient of the app's tint, strongest at the top.
     Rectangle {
         anchors.fill: parent
         opacity: Theme.dark ? 0.24 : 0.12
@@ -23,7 +23,7 @@ FocusScope {
         }
     }
 
-    // Scrolls where a large text or a low window leaves too little room.
+    // Scrolls only if large text or a low window leaves too little room.
     Flickable {
         id: page
 
@@ -93,7 +93,7 @@ FocusScope {
             text: qsTr("More")
             Accessible.name: text
             Accessible.onPressAction: more.clicked()
-            // The only control has the focus already, so that the key cannot bring it.
+            // The only control always has focus, so Tab cannot move focus here and set the reason itself.
             Keys.onTabPressed: more.focusReason = Qt.TabFocusReason
             Keys.onBacktabPressed: more.focusReason = Qt.BacktabFocusReason
             Keys.onReturnPressed: press()

@@ -21,13 +21,14 @@ ApplicationWindow {
     LayoutMirroring.enabled: Qt.locale().textDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
-    // On the first launch only. No window is key yet, so that the guide goes into this one.
+    // First launch only. No window is key yet, so the guide is added to this one. An app without a guide has no
+    // paragraphs, and showing none would stop the process.
     Component.onCompleted: {
         if (backgroundOnly || app.guideText.length === 0 || !guide.shouldShowGuide())
             return;
         guide.showGuide(root);
-        // The guide is as large as the screen, which is what this window stands for. One that pictures are taken of
-        // keeps its size anyway.
+        // The guide is as large as the screen, and this window is the platform's screen. Off-screen, its size is fixed
+        // already.
         if (animated) {
             maximumWidth = width;
             maximumHeight = height;
@@ -49,7 +50,7 @@ ApplicationWindow {
             stack.push(moreScreen, {}, operation);
         else if (screenName === "home" && stack.depth > 1)
             stack.pop(null, operation);
-        // Marked where the keyboard led to it.
+        // Shows the focus frame if the screen was changed by keyboard.
         const control = activeFocusControl as T.Control;
         if (control && isByKeys)
             control.focusReason = Qt.TabFocusReason;

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 
-// One row of the More screen: a title that leads out of the app.
+// One row of the More screen: a title, a chevron and a focus frame.
 AbstractButton {
     id: root
 
@@ -20,7 +20,7 @@ AbstractButton {
     Keys.onEnterPressed: root.clicked()
 
     background: Item {
-        // Inset, so that it keeps clear of the card's round corners.
+        // Inset from the card's rounded corners.
         Rectangle {
             anchors { fill: parent; margins: 4 }
             radius: Theme.corner - 4

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls.Basic
 import TQFoundation
 
-// The More screen as every app of the catalogue shows it.
+// The More screen of an app of the catalogue: links, mail, region rows, sibling apps and version.
 FocusScope {
     id: root
 
@@ -84,7 +84,7 @@ FocusScope {
         clip: true
         ScrollIndicator.vertical: ScrollIndicator { Accessible.ignored: true }
 
-        // Keeps what has the keyboard focus in sight.
+        // Scrolls until the item with keyboard focus is visible.
         function reveal(item: Item) {
             const top = item.mapToItem(column, 0, 0).y + column.y;
             contentY = Math.max(0, Math.min(Math.max(contentY, top + item.height + Theme.margin - height), top - Theme.margin));

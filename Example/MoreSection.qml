@@ -1,6 +1,6 @@
 import QtQuick
 
-// A card that holds rows one below the other.
+// Rounded card with rows below each other.
 Item {
     id: root
 

@@ -2,7 +2,7 @@ pragma Singleton
 
 import QtQuick
 
-// The colours and measures that all screens share; they follow the system's appearance.
+// Colours and sizes of all screens. Dark if the palette has light text on a dark window.
 QtObject {
     readonly property bool dark: system.window.hslLightness < system.windowText.hslLightness
 
@@ -14,11 +14,11 @@ QtObject {
     readonly property color separator: dark ? "#38383a" : "#d8d8dc"
     readonly property color chevron: dark ? "#5a5a5f" : "#c4c4c7"
 
-    // Grows with the text size that the user has chosen in the system.
+    // Follows the system's text size; at least 17 pixels.
     readonly property real textSize: Math.max(17, Math.round(systemText.fontInfo.pixelSize * 1.3))
     readonly property real margin: 16
     readonly property real corner: 12
-    readonly property real widest: 620 // of a column of text in a wide window
+    readonly property real widest: 620 // largest width of a column, in points
 
     readonly property SystemPalette system: SystemPalette {}
     readonly property Text systemText: Text {}

@@ -20,7 +20,7 @@ namespace {
 using Testing::Layout;
 using Testing::ScreenReader;
 
-// The example's screens as its files describe them, in a process of the tests' own.
+// Loads the example's QML files into the test process, with the recording platform beneath them.
 class Screens : public testing::Test
 {
 protected:
@@ -87,7 +87,7 @@ protected:
     }
 };
 
-TEST_P(ScreensIn, AreWholeInWindowsThatAreResizedAtEveryTextSize)
+TEST_P(ScreensIn, FitEveryWindowSizeAndTextSize)
 {
     for (const double points : {9.0, 18.0}) {
         open(TQApp::larch, points);
@@ -101,13 +101,13 @@ TEST_P(ScreensIn, AreWholeInWindowsThatAreResizedAtEveryTextSize)
 INSTANTIATE_TEST_SUITE_P(Languages, ScreensIn, testing::Values("en", "de", "zh-Hans", "ar"),
                          [](const auto &language) { return std::string(language.param).substr(0, 2); });
 
-TEST_F(Screens, KeysReachEveryRowInTheOrderOfReadingAndShowItWhereverItIs)
+TEST_F(Screens, TabReachesRowsInOrderAndScrollsToThem)
 {
     const ScreenReader reader;
     open(TQApp::larch, 18);
     window->resize(320, 568);
     press(Qt::Key_Tab);
-    EXPECT_TRUE(focused()->property("visualFocus").toBool()) << "the only button of the home screen";
+    EXPECT_TRUE(focused()->property("visualFocus").toBool()) << "the home screen's only button has no focus frame";
     press(Qt::Key_Space);
     ASSERT_EQ(screen(), "more");
     window->grabWindow();
@@ -126,7 +126,7 @@ TEST_F(Screens, KeysReachEveryRowInTheOrderOfReadingAndShowItWhereverItIs)
         press(Qt::Key_Tab);
         EXPECT_EQ(nameOf(focused()), stop);
         EXPECT_TRUE(focused()->property("visualFocus").toBool() || focused()->inherits("QQuickFlickable"));
-        EXPECT_TRUE(Layout::isInSight(focused())) << stop << " is scrolled into sight";
+        EXPECT_TRUE(Layout::isInSight(focused())) << stop << " is scrolled out of view";
     }
     press(Qt::Key_Backtab);
     EXPECT_EQ(nameOf(focused()), "Back");
@@ -137,7 +137,7 @@ TEST_F(Screens, KeysReachEveryRowInTheOrderOfReadingAndShowItWhereverItIs)
     EXPECT_EQ(screen(), "home");
 }
 
-TEST_F(Screens, EveryRowDoesItsWorkByReturnAndBySpace)
+TEST_F(Screens, RowsActivateOnReturnAndSpace)
 {
     open(TQApp::alder);
     press(Qt::Key_Return);
@@ -154,7 +154,7 @@ TEST_F(Screens, EveryRowDoesItsWorkByReturnAndBySpace)
     }
 }
 
-TEST_F(Screens, AssistiveTechnologyFindsAndPressesEveryPart)
+TEST_F(Screens, ScreenReaderFindsAndPressesEveryPart)
 {
     const ScreenReader reader;
     open(TQApp::larch);

@@ -1,4 +1,4 @@
-"""The example from outside: its pictures, the rows that its options choose, and what it refuses."""
+"""Runs the example as a program: pictures of every app, region rows by storefront, and invalid options."""
 
 import os
 import pathlib
@@ -34,13 +34,13 @@ with tempfile.TemporaryDirectory() as name:
         if result.returncode or result.stderr:
             failures.append(f"{app}: {result.returncode} {result.stderr}")
         if (target / "guide.png").exists() != (app in ("hazel", "dogwood")):
-            failures.append(f"{app}: the guide shows where it should not, or does not where it should")
+            failures.append(f"{app}: guide.png is written for an app without a guide, or missing for one that has one")
         guide = ["guide.png"] if app in ("hazel", "dogwood") else []
         for picture in ("home.png", "more.png", *guide):
             if size_of(target / picture) != (780, 1688):
                 failures.append(f"{app}: {picture} is {size_of(target / picture)}")
 
-    # Where no display answers, pictures are made in the folder it was started from.
+    # If there is no display, pictures are written below the current folder.
     result = run(folder=folder)
     if result.returncode or size_of(folder / "shots" / "more.png") is None:
         failures.append(f"without a display: {result.returncode} {result.stdout} {result.stderr}")
@@ -67,10 +67,12 @@ with tempfile.TemporaryDirectory() as name:
     if more_picture("alder", "CHN") != more_picture("alder", "USA"):
         failures.append("an app without a filing differs by storefront")
 
-    for options in (["--app", "oak"], ["--size", "10x10"], ["--size", "huge"], ["--text-size", "10"], ["--text-size", "large"], ["--nonsense"], ["--shots", ""], ["--open-browser", ""], ["--open-browser", "http://[1"]):
+    refused = (["--app", "oak"], ["--size", "10x10"], ["--size", "huge"], ["--text-size", "10"], ["--text-size", "large"],
+               ["--nonsense"], ["--shots", ""], ["--frames", "0"], ["--open-browser", ""], ["--open-browser", "http://[1"])
+    for options in refused:
         result = run(*options, folder=folder)
         if result.returncode != 2 or not result.stderr.startswith("Grove: "):
             failures.append(f"{options}: {result.returncode} {result.stderr}")
 
-print("\n".join(failures) or "all pictures made, all refusals in words")
+print("\n".join(failures) or "all pictures written, all invalid options refused with a message")
 sys.exit(bool(failures))

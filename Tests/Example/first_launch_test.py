@@ -1,4 +1,4 @@
-"""The example's first launch in a real window: clicks lead through the guide, and it never shows again.
+"""First launch of the example in a real window: clicks walk through the guide, and it is not shown a second time.
 
 Needs an X server; runs under xvfb-run."""
 
@@ -22,7 +22,7 @@ def xdotool(*arguments):
 
 
 class App:
-    """The example in its window, from launch to kill."""
+    """The running example: started on entry, killed on exit."""
 
     def __init__(self, home, *options):
         environment = dict(os.environ, HOME=home, XDG_CONFIG_HOME=home, XDG_RUNTIME_DIR=home, QT_QPA_PLATFORM="xcb",
@@ -35,7 +35,7 @@ class App:
             assert time.monotonic() < deadline and self.process.poll() is None, "no window"
             time.sleep(0.1)
         self.window = found[-1]
-        time.sleep(1)  # for the first frame and the fade-in
+        time.sleep(1)  # first frame and fade-in
         return self
 
     def __exit__(self, *_):
@@ -43,9 +43,9 @@ class App:
         self.process.wait()
 
     def click_next(self):
-        """Where the guide has its button; the screen beneath has nothing there that stores a setting."""
+        """Clicks the guide's next button. Nothing below it stores a setting."""
         xdotool("mousemove", "--window", self.window, "329", "783", "click", "1")
-        time.sleep(1.5)  # a change of paragraphs takes 0.8 s, and longer where others work on the machine too
+        time.sleep(1.5)  # the next paragraph takes 0.8 s, longer on a busy machine
 
 
 with tempfile.TemporaryDirectory() as home:
@@ -60,8 +60,8 @@ with tempfile.TemporaryDirectory() as home:
             app.click_next()
     assert settings(home) == stored
     with App(home, "--reset-guide") as app:
-        assert flag not in settings(home), "--reset-guide did not forget"
+        assert flag not in settings(home), "--reset-guide kept the flag"
         for _ in range(6):
             app.click_next()
         assert flag in settings(home)
-print("6 clicks, once; and 6 more after --reset-guide")
+print("the guide ends after 6 clicks, is not shown again, and is shown again after --reset-guide")

@@ -12,15 +12,11 @@ sources = $(shell find Sources Example Tests Fuzzers Benchmarks -name '*.cpp' -o
 # clang-tidy reads one compiler's command line and generated headers, so it comes after a build.
 units = $(shell find Sources Example -name '*.cpp')
 
-# The tests of what needs no toolkit.
-plain = DriftPath.*:DriftRanges.*:TransitPoints.*:ControlPoint.*:ShuffledDistribution.*:SplitMix64.*:ShapeLayer.*:TickGrid.*:$\
-	StrokeGeometry.*:StrokeMask.*
-
 help:
 	@echo "make run        build and start the example (ARGS=\"--app birch --dark\"); pictures where there is no display"
 	@echo "make test       check the formatting and the QML files, build, run all tests and each fuzzer for 20 s"
 	@echo "make sanitize   run the tests under the sanitizers for addresses, behaviour and threads, and Valgrind"
-	@echo "make fuzz       feed every door with whatever comes, SECONDS=$(SECONDS) for each"
+	@echo "make fuzz       run each fuzz target for SECONDS=$(SECONDS) seconds"
 	@echo "make storm      a million random calls and events, under the sanitizers"
 	@echo "make soak       a month of an app's life, in half an hour; draws what it held"
 	@echo "make coverage   which lines and branches of Sources the tests reach"
@@ -51,15 +47,15 @@ test:
 sanitize:
 	tools/install-packages build run test sanitize
 	cmake --preset sanitize
-	cmake --build --preset sanitize --target Tests
+	cmake --build --preset sanitize
 	ctest --preset sanitize
 	cmake --preset threads
-	cmake --build --preset threads --target Tests
+	cmake --build --preset threads
 	ctest --preset threads
 	cmake --preset release -DTQFOUNDATION_TESTS=ON
-	cmake --build --preset release --target Tests
-	QT_QPA_PLATFORM=offscreen valgrind -q --error-exitcode=1 --leak-check=full --errors-for-leak-kinds=definite \
-		$(release)/Tests/Tests --gtest_brief=1 --gtest_filter='$(plain)'
+	cmake --build --preset release --target CoreTests
+	valgrind -q --error-exitcode=1 --leak-check=full --errors-for-leak-kinds=definite \
+		$(release)/Tests/CoreTests --gtest_brief=1 --gtest_filter='-*DeathTest.*'
 
 fuzz:
 	tools/install-packages build test
@@ -81,7 +77,7 @@ soak:
 coverage:
 	tools/install-packages build run test coverage
 	cmake --preset coverage
-	cmake --build --preset coverage --target Tests ComposeMail
+	cmake --build --preset coverage
 	find build/coverage -name '*.gcda' -delete
 	ctest --preset coverage
 	gcovr --root . --filter Sources/ --exclude-throw-branches --exclude-unreachable-branches \

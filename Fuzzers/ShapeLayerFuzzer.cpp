@@ -1,5 +1,5 @@
 // Layers with arbitrary animations at arbitrary media times, and timers on arbitrary grids. Animated values must stay
-// between their end values, and must not change before the time that nextChange() returns.
+// between their end values, and must not change once nothing animates.
 
 #include "Require.h"
 #include "ShapeLayer.h"

@@ -1,5 +1,5 @@
-// Arbitrary lines as the user's languages. Each name is one that a table can bear, comes once, and does not depend on
-// the languages that follow its own.
+// Fuzz target for tableNames(): arbitrary lines as language tags. Each name is valid and unique, and the names of the
+// first tag come first.
 
 #include "LanguageTags.h"
 #include "Require.h"

@@ -1,5 +1,5 @@
-// Arbitrary UTF-16 as a link. What counts as a URL is one in its encoded form too, the same one, and that form holds
-// nothing that a command line, a header or a log could trip over.
+// Fuzz target for urlFromString(): arbitrary UTF-16 as a link. The encoded form of a URL is printable ASCII without
+// blanks, and parses to the same URL.
 
 #include "Require.h"
 #include "Url.h"
@@ -30,7 +30,7 @@ void check(const QString &text)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     check(QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size)));
-    // Half surrogates and all else that UTF-8 cannot say.
+    // Lone surrogates and other text that UTF-8 cannot encode.
     QString text(static_cast<qsizetype>(size / 2), u'\0');
     if (size >= 2)
         std::memcpy(text.data(), data, size / 2 * 2);

@@ -8,7 +8,7 @@ class QDebug;
 
 namespace TQFoundation {
 
-/// How the system paints its windows: dark text on light ground, or light text on dark ground.
+/// The appearance of the user interface: dark text on a light background, or light text on a dark one.
 enum class Appearance { light, dark };
 
 /// One sRGB colour of four single-precision components, each from 0 to 1, not premultiplied. Opaque black by default.
@@ -17,24 +17,23 @@ struct Rgba
     float red = 0; ///< From 0 to 1.
     float green = 0; ///< From 0 to 1.
     float blue = 0; ///< From 0 to 1.
-    float alpha = 1; ///< From 0 for clear to 1 for opaque.
+    float alpha = 1; ///< From 0 (transparent) to 1 (opaque).
 
-    /// Whether all components are equal as numbers; one that is not a number equals none.
+    /// Whether all components are equal as numbers; a NaN is equal to nothing.
     friend constexpr bool operator==(const Rgba &, const Rgba &) = default;
 };
 
-/// How bright a colour is, from 0 for black to 1 for white; its opacity does not count. The relative luminance of WCAG
-/// 2.1.
+/// The relative luminance of \a color as WCAG 2.1 defines it, from 0 (black) to 1 (white). Ignores alpha.
 inline double luminance(const Rgba &color) noexcept
 {
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    const auto linear = [](double component) {
+        return component <= 0.04045 ? component / 12.92 : std::pow((component + 0.055) / 1.055, 2.4);
     };
     return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
 }
 
-/// How far apart two opaque colours are for the eye, from 1 to 21. The contrast ratio of WCAG 2.1, which asks for 4.5
-/// between a text and its ground.
+/// The contrast ratio of two opaque colours as WCAG 2.1 defines it, from 1 (equal) to 21 (black and white). The order
+/// of the arguments does not matter. WCAG requires 4.5 between text and background.
 inline double contrast(const Rgba &one, const Rgba &other) noexcept
 {
     const double brighter = std::fmax(luminance(one), luminance(other));
@@ -42,79 +41,85 @@ inline double contrast(const Rgba &one, const Rgba &other) noexcept
     return (brighter + 0.05) / (darker + 0.05);
 }
 
-/// \a color as it can be read on an opaque \a ground, at 4.5 in contrast or more: the colour itself where it can, else
-/// mixed with as much black or white as that takes. A translucent one is laid over the ground first.
-inline Rgba legibleOn(const Rgba &color, const Rgba &ground) noexcept
+/// \a color laid over the opaque \a background (source-over compositing). The result is opaque.
+inline Rgba composited(const Rgba &color, const Rgba &background) noexcept
 {
-    constexpr double enough = 4.55; // room for rounding when it is painted
-    const auto mixed = [](const Rgba &from, const Rgba &to, float share) {
-        return Rgba{std::lerp(from.red, to.red, share), std::lerp(from.green, to.green, share),
-                    std::lerp(from.blue, to.blue, share)};
-    };
-    const Rgba seen = mixed(ground, color, color.alpha);
-    if (contrast(seen, ground) >= enough)
-        return seen;
+    return {std::lerp(background.red, color.red, color.alpha), std::lerp(background.green, color.green, color.alpha),
+            std::lerp(background.blue, color.blue, color.alpha)};
+}
+
+/// Black or white, whichever has more contrast with the opaque \a background: always at least 4.5.
+inline Rgba blackOrWhiteOn(const Rgba &background) noexcept
+{
     constexpr Rgba black{0, 0, 0};
     constexpr Rgba white{1, 1, 1};
-    const Rgba &end = contrast(black, ground) > contrast(white, ground) ? black : white;
-    // Between a share of the end that does not do and one that does.
+    return contrast(black, background) > contrast(white, background) ? black : white;
+}
+
+/// \a color mixed with as little black or white as needed for a contrast of at least 4.5 with the opaque
+/// \a background; unchanged if it already has that. A translucent colour is composited first, so the result is opaque.
+inline Rgba legibleOn(const Rgba &color, const Rgba &background) noexcept
+{
+    constexpr double minimum = 4.55; // 4.5, and a margin for rounding to 8 bits
+    const Rgba opaque = composited(color, background);
+    if (contrast(opaque, background) >= minimum)
+        return opaque;
+    // Bisection over the share of black or white.
+    Rgba end = blackOrWhiteOn(background);
     float low = 0;
     float high = 1;
-    for (int halving = 0; halving < 16; ++halving) {
-        const float middle = (low + high) / 2;
-        (contrast(mixed(seen, end, middle), ground) >= enough ? high : low) = middle;
+    for (int step = 0; step < 16; ++step) {
+        end.alpha = (low + high) / 2;
+        (contrast(composited(end, opaque), background) >= minimum ? high : low) = end.alpha;
     }
-    return mixed(seen, end, high);
+    end.alpha = high;
+    return composited(end, opaque);
 }
 
 /// A colour of the catalogue or of a host: either one sRGB value, or a pair that follows light and dark appearance.
 ///
-/// A plain value. The components are kept bit for bit until something is painted, because a toolkit's own colour type
-/// rounds them to 16 bits. Nothing is clamped: a component outside 0 to 1 is the caller's to avoid.
+/// A plain value. Components keep their single precision until they are painted, because QColor rounds them to 16 bits.
+/// Nothing is clamped: the caller avoids components outside 0 to 1. Any thread.
 class Color
 {
 public:
-    /// No colour: grey level 0, alpha 0.
+    /// Transparent black.
     constexpr Color() noexcept : Color(Rgba{0, 0, 0, 0}) {}
 
     /// The same colour in both appearances.
     constexpr Color(Rgba rgba) noexcept : Color(rgba, rgba) {}
 
-    /// A dynamic colour, \a light in light appearance and \a dark in dark appearance.
+    /// A dynamic colour: \a light in light appearance, \a dark in dark appearance.
     constexpr Color(Rgba light, Rgba dark) noexcept : m_light(light), m_dark(dark) {}
 
     /// The colour of body text.
     static constexpr Color label() noexcept { return {{0, 0, 0}, {1, 1, 1}}; }
     /// The system's standard accent blue.
     static constexpr Color systemBlue() noexcept { return {bytes(0, 122, 255), bytes(10, 132, 255)}; }
-    /// The system's neutral grey, the same in both appearances.
+    /// The system's neutral grey; the same in both appearances.
     static constexpr Color systemGray() noexcept { return {bytes(142, 142, 147), bytes(142, 142, 147)}; }
     /// The system's standard red.
     static constexpr Color systemRed() noexcept { return {bytes(255, 59, 48), bytes(255, 69, 58)}; }
 
-    /// The value that is painted in \a appearance.
+    /// The value to paint in \a appearance.
     constexpr Rgba resolved(Appearance appearance) const noexcept
     {
         return appearance == Appearance::dark ? m_dark : m_light;
     }
 
-    /// Black or white, whichever is easier to read on the colour: at least 4.5 in contrast on an opaque one. What
-    /// shines through a translucent one is taken for white in light appearance and black in dark.
+    /// Black or white, whichever has more contrast with this colour as a background: at least 4.5 if it is opaque. A
+    /// translucent one is composited over white in light appearance and over black in dark.
     Rgba textColor(Appearance appearance) const noexcept
     {
-        const Rgba ground = resolved(appearance);
-        const float below = (1 - ground.alpha) * (appearance == Appearance::dark ? 0.0F : 1.0F);
-        const Rgba seen{ground.red * ground.alpha + below, ground.green * ground.alpha + below,
-                        ground.blue * ground.alpha + below};
         constexpr Rgba black{0, 0, 0};
         constexpr Rgba white{1, 1, 1};
-        return contrast(black, seen) > contrast(white, seen) ? black : white;
+        return blackOrWhiteOn(composited(resolved(appearance), appearance == Appearance::dark ? black : white));
     }
 
-    /// Whether light and dark appearance differ.
+    /// Whether the values for light and dark appearance differ.
     constexpr bool isDynamic() const noexcept { return m_light != m_dark; }
 
-    /// Whether the colours are equal in light and in dark appearance.
+    /// Whether both colours are equal in light and in dark appearance.
     friend constexpr bool operator==(const Color &, const Color &) = default;
 
 private:
@@ -132,7 +137,7 @@ private:
 TQFOUNDATION_EXPORT QDebug operator<<(QDebug debug, Appearance appearance);
 /// Writes "Rgba(1, 0.4, 0.5, 1)".
 TQFOUNDATION_EXPORT QDebug operator<<(QDebug debug, const Rgba &rgba);
-/// Writes "Color(Rgba(…))", and of a dynamic colour light and dark: "Color(Rgba(…), Rgba(…))".
+/// Writes "Color(Rgba(…))", or "Color(Rgba(…), Rgba(…))", light and dark, for a dynamic colour.
 TQFOUNDATION_EXPORT QDebug operator<<(QDebug debug, const Color &color);
 
 } // namespace TQFoundation

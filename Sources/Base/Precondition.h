@@ -4,8 +4,8 @@ namespace TQFoundation {
 
 /// Stops the process at once, without a message, unless \a holds.
 ///
-/// For the developer's own mistakes only (a missing asset, an index outside an array): going on would show a broken
-/// app. The process ends by the compiler's trap instruction, SIGILL or SIGTRAP on Unix systems. Any thread.
+/// For programming errors only (a missing asset, an index out of range), after which going on would show a broken app.
+/// Executes the compiler's trap instruction: SIGILL or SIGTRAP on Unix systems. Any thread.
 constexpr void precondition(bool holds) noexcept
 {
     if (!holds) [[unlikely]] {

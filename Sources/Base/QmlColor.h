@@ -8,40 +8,41 @@
 
 namespace TQFoundation {
 
-/// The QML face of Color, the value type `tqColor`: what it is in light and in dark appearance, rounded to QColor.
+/// The QML value type `tqColor`: a Color with its values rounded to `color`.
 ///
-/// Has no state besides the colour that it extends: the QML engine lays it over that value.
+/// An extension object: the QML engine reinterprets a Color as a QmlColor, so this class has no other member.
+/// `Rectangle { color: TQApp.hazel.tintColor.resolved(isDark) }`. GUI thread.
 class QmlColor
 {
     Q_GADGET
     QML_FOREIGN(TQFoundation::Color)
     QML_VALUE_TYPE(tqColor)
     QML_EXTENDED(TQFoundation::QmlColor)
+    /// `color`: the value in light appearance. Default: transparent. Example: `TQApp.fir.tintColor.light`.
     Q_PROPERTY(QColor light READ light CONSTANT FINAL)
+    /// `color`: the value in dark appearance. Default: transparent. Example: `TQApp.fir.tintColor.dark`.
     Q_PROPERTY(QColor dark READ dark CONSTANT FINAL)
 
 public:
     QColor light() const { return painted(m_color.resolved(Appearance::light)); }
     QColor dark() const { return painted(m_color.resolved(Appearance::dark)); }
 
-    /// The colour in dark appearance where \a darkAppearance is true, else in light.
-    Q_INVOKABLE QColor resolved(bool darkAppearance) const { return darkAppearance ? dark() : light(); }
+    /// The value in dark appearance if \a isDark, else in light. `tint.resolved(true)`.
+    Q_INVOKABLE QColor resolved(bool isDark) const { return isDark ? dark() : light(); }
 
-    /// Black or white, whichever is easier to read on the colour.
-    Q_INVOKABLE QColor textColor(bool darkAppearance) const
-    {
-        return painted(m_color.textColor(darkAppearance ? Appearance::dark : Appearance::light));
-    }
+    /// Black or white, whichever has more contrast with the colour as a background. `tint.textColor(true)`.
+    Q_INVOKABLE QColor textColor(bool isDark) const { return painted(m_color.textColor(appearance(isDark))); }
 
-    /// The colour as it can be read on an opaque \a ground: darker or brighter where it has to be.
-    Q_INVOKABLE QColor legibleOn(const QColor &ground, bool darkAppearance) const
+    /// The colour mixed with black or white until its contrast with the opaque \a background is at least 4.5; unchanged
+    /// if it already is. `tint.legibleOn("black", true)`.
+    Q_INVOKABLE QColor legibleOn(const QColor &background, bool isDark) const
     {
-        const Rgba below{ground.redF(), ground.greenF(), ground.blueF()};
-        return painted(
-            TQFoundation::legibleOn(m_color.resolved(darkAppearance ? Appearance::dark : Appearance::light), below));
+        return painted(TQFoundation::legibleOn(m_color.resolved(appearance(isDark)),
+                                               {background.redF(), background.greenF(), background.blueF()}));
     }
 
 private:
+    static Appearance appearance(bool isDark) { return isDark ? Appearance::dark : Appearance::light; }
     static QColor painted(const Rgba &rgba) { return QColor::fromRgbF(rgba.red, rgba.green, rgba.blue, rgba.alpha); }
 
     Color m_color;

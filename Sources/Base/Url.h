@@ -6,7 +6,8 @@
 
 namespace TQFoundation {
 
-/// The URL that \a text is, or nothing for an empty text and for one that breaks the rules of RFC 3986. Any thread.
+/// Parses \a text in strict mode. Null if it is empty or violates RFC 3986: blanks, control characters and broken
+/// percent encoding are errors, not corrected. Any thread.
 inline std::optional<QUrl> urlFromString(const QString &text)
 {
     const QUrl url(text, QUrl::StrictMode);

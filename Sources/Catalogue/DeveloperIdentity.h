@@ -7,12 +7,12 @@
 #include <span>
 #include <string_view>
 
-/// Everything that names the developer and the developer's apps, for a developer to replace in one place.
+/// All identifiers of the developer and of the developer's apps, in one place where another developer replaces them.
 ///
-/// What QT_TRANSLATE_NOOP marks is also a key of the translation tables: change it there as well.
+/// Texts in QT_TRANSLATE_NOOP are also keys of the translation tables: change both together.
 namespace TQFoundation::DeveloperIdentity {
 
-/// The English pages of the developer's website. A language's table may lead to a page in that language.
+/// The English pages of the developer's website. A translation table may replace them with pages in its language.
 //: A page of the website: the page in this language if the site has one, else the same address.
 inline constexpr const char *privacyPage =
     QT_TRANSLATE_NOOP("TQFoundation", "https://tqstudio.example/privacy-policy-en");
@@ -21,10 +21,10 @@ inline constexpr const char *contactPage = QT_TRANSLATE_NOOP("TQFoundation", "ht
 //: A page of the website: the page in this language if the site has one, else the same address.
 inline constexpr const char *homePage = QT_TRANSLATE_NOOP("TQFoundation", "https://tqstudio.example/en");
 
-/// Where feedback mail goes.
+/// The recipient of feedback mail.
 inline constexpr const char *supportAddress = "support@tqstudio.example";
 
-/// The developer's page that gathers all their social pages.
+/// The page that lists the developer's social pages.
 inline constexpr const char *socialPage = "https://links.example/tqstudio";
 
 /// The public web host of the store.
@@ -33,15 +33,14 @@ inline constexpr const char *storeHost = "https://apps.apple.com";
 /// The store page that lists all the developer's apps.
 inline constexpr const char *storePage = "https://apps.apple.com/developer/tq-studio/id9990000000";
 
-/// What the filings of all apps begin with. A language's table may give it in full.
+/// The prefix of every app's filing number. A translation table may give it in full.
 //: Begins the number under which an app is filed in mainland China; only Chinese gives it in full.
 inline constexpr const char *filingPrefix = QT_TRANSLATE_NOOP("TQFoundation", "ICP-2099000001-");
 
-/// The root of the national site where filings are looked up: scheme and host only.
+/// The root URL of the national site where filings are looked up: scheme and host only.
 inline constexpr const char *filingSite = "https://beian.miit.gov.cn";
 
-/// The paragraphs of the guides. They are also the keys of their translations, slips included: a change here orphans
-/// every table's entry.
+/// The paragraphs of the guides. They are also translation keys, slips included: changing one orphans its translations.
 inline constexpr const char *hazelGuide[] = {
     //: First of six pages that explain the game of life to a new user; "Hazel Grid" is the app's name.
     QT_TRANSLATE_NOOP("TQFoundation",
@@ -85,18 +84,18 @@ inline constexpr const char *dogwoodGuide[] = {
     QT_TRANSLATE_NOOP("TQFoundation", "接下来请使用「青岚」。\n\n敬颂时祺。"),
 };
 
-/// One app of the catalogue.
+/// The data of one app.
 struct App
 {
-    std::string_view caseName; ///< its name in TQFOUNDATION_APPS
+    std::string_view caseName; ///< as in TQFOUNDATION_APPS
     const char *storeId; ///< ten decimal digits
-    const char *filingSuffix; ///< one or two digits and "A"; null for an app that has no filing
+    const char *filingSuffix; ///< one or two digits and "A"; null for an app without a filing
     const char *iconName; ///< a file of Resources/Icons, without its extension
-    Color tint; ///< single-precision numbers, kept exactly
+    Color tint; ///< single-precision components, kept exactly
     std::span<const char *const> guide = {}; ///< empty for an app without a guide
 };
 
-/// In the order of TQFOUNDATION_APPS.
+/// The data of all apps, in the order of TQFOUNDATION_APPS.
 inline constexpr App apps[] = {
     {"larch", "9990000001", "1A", "larch-page", Rgba{0.9529412F, 0.4392157F, 0.1294118F}},
     {"juniper", "9990000002", "2A", "juniper-page", Color::systemBlue()},

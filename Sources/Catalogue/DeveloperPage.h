@@ -1,15 +1,15 @@
 #pragma once
 
-#include <QtCore/qglobal.h>
+#include <QtCore/qstring.h>
 
 /// The store page that lists all the developer's apps.
 namespace TQFoundation::DeveloperPage {
 
-/// What a row or button that leads there says; a key of the translation tables.
-//: Title of a row that leads to the developer's other apps.
-inline constexpr const char *title = QT_TRANSLATE_NOOP("TQFoundation", "More Apps I Developed");
+/// The title of a row or button that leads to the page, in the user's language. Translated on its first read and then
+/// kept for the life of the process. Any thread.
+QString title();
 
-/// Hands the page to the system. Does nothing where its address is no URL. Main thread.
+/// Opens the page in the system's handler. Does nothing if its address is not a URL. GUI thread.
 void open();
 
 } // namespace TQFoundation::DeveloperPage

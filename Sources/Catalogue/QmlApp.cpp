@@ -1,7 +1,6 @@
 #include "QmlApp.h"
 
 #include "DeveloperPage.h"
-#include "TQFoundation/Bundle.h"
 
 namespace TQFoundation {
 
@@ -13,7 +12,7 @@ QList<TQApp> QmlApp::allCases()
 
 QString QmlApp::developerPageText()
 {
-    return localizedInLibrary(QLatin1String(DeveloperPage::title));
+    return DeveloperPage::title();
 }
 
 void QmlApp::openDeveloperPage() const

@@ -18,16 +18,16 @@ namespace {
 
 using DeveloperIdentity::apps;
 
-constexpr bool isInOrderOfTheCases()
+constexpr bool isInCaseOrder()
 {
 #define TQFOUNDATION_NAME(name) #name,
     constexpr std::string_view names[] = {TQFOUNDATION_APPS(TQFOUNDATION_NAME)};
 #undef TQFOUNDATION_NAME
     return std::ranges::equal(names, apps, {}, {}, &DeveloperIdentity::App::caseName);
 }
-static_assert(isInOrderOfTheCases(), "The table of apps has one row for each app, in the same order");
+static_assert(isInCaseOrder(), "DeveloperIdentity::apps has one row for each case, in the same order");
 
-// The app's row; a number that was forced into the enumeration stops the process.
+// Stops the process if the value is not one of the enumerators.
 const DeveloperIdentity::App &rowOf(TQApp app)
 {
     const auto index = static_cast<std::size_t>(TQApp::Case(app));
@@ -71,14 +71,13 @@ Color TQApp::tintColor() const
 
 QImage TQApp::icon() const
 {
-    constexpr double side = 36; // points
     constexpr double largestSide = 16384;
 
     const QImage artwork = libraryBundle().image(QLatin1String(rowOf(*this).iconName));
     precondition(!artwork.isNull());
 
     const double scale = screenScale();
-    const double pixels = std::round(side * scale);
+    const double pixels = std::round(iconSide * scale);
     if (!(pixels >= 1 && pixels <= largestSide))
         return {};
     const QSize size(static_cast<int>(pixels), static_cast<int>(pixels));

@@ -16,8 +16,8 @@
 
 class QDebug;
 
-/// The apps of the catalogue in its order, \a each applied to every name. All that has to list the apps does it by
-/// this; what is known of each is a row of a table of the library's own.
+/// Applies the macro \a each to the name of every app, in catalogue order. The only list of the apps; their data is the
+/// table of DeveloperIdentity.
 #define TQFOUNDATION_APPS(each)                                                                                        \
     each(larch) each(juniper) each(hazel) each(ginkgo) each(fir) each(elm) each(dogwood) each(cedar) each(birch)       \
         each(alder)
@@ -28,27 +28,35 @@ class QDebug;
 
 namespace TQFoundation {
 
-/// One app of the developer's catalogue. A host says which one it is: `TQApp::hazel`.
+/// One app of the developer's catalogue. A host names its own: `TQApp::hazel`.
 ///
-/// A plain value, equal to another when it is the same case, usable in a `switch` and as a hash key. Nothing is cached:
-/// every member is worked out at each read. The static members name(), version() and buildNumber() describe the running
-/// host, whichever case it is. Any thread, except where a member says otherwise.
+/// A plain value for comparisons, `switch` and hash keys. Nothing is cached: each member is computed at each call. The
+/// static members name(), version() and buildNumber() describe the running host. Any thread unless a member says
+/// otherwise.
 ///
-/// In QML a value has the type `tqApp`, and the singleton `TQApp` holds the cases and the static members.
+/// In QML the value type is `tqApp`, with constant properties, and the singleton `TQApp` has the cases and the static
+/// members: `readonly property tqApp app: TQApp.hazel`. The default is `TQApp.larch`.
 class TQFOUNDATION_EXPORT TQApp
 {
     Q_GADGET
     QML_VALUE_TYPE(tqApp)
+    /// `string`: the store's id of the app, ten decimal digits. Example: "9990000003".
     Q_PROPERTY(QString id READ id CONSTANT FINAL)
+    /// `var`: the filing text, a `string`; `undefined` for an app without a filing. `TQMore.icpOrBlogText(app.icp)`.
     Q_PROPERTY(QVariant icp READ icpVariant CONSTANT FINAL)
+    /// `tqColor`: the app's colour in light and dark appearance. `app.tintColor.resolved(isDark)`.
     Q_PROPERTY(TQFoundation::Color tintColor READ tintColor CONSTANT FINAL)
+    /// `var`, an image: see icon(). QML shows it with `TQAppIcon { app: TQApp.hazel }`.
     Q_PROPERTY(QImage icon READ icon CONSTANT FINAL)
+    /// `list<string>`: the paragraphs of the guide; empty for an app without one. `descriptions: app.guideText`.
     Q_PROPERTY(QStringList guideText READ guideText CONSTANT FINAL)
+    /// `string`: the app's page in the store. `TQMore.openUrl(app.appLink, app.tintColor)`.
     Q_PROPERTY(QString appLink READ appLink CONSTANT FINAL)
+    /// `string`: the store's review form of the app. `TQMore.openUrl(app.reviewLink, app.tintColor)`.
     Q_PROPERTY(QString reviewLink READ reviewLink CONSTANT FINAL)
 
 public:
-    /// The cases in catalogue order; the number of a case is its index in allCases().
+    /// The cases in catalogue order; the value of a case is its index in allCases().
     enum class Case { TQFOUNDATION_APPS(TQFOUNDATION_LISTED) };
     Q_ENUM(Case)
 
@@ -58,27 +66,29 @@ public:
 
     /// The first case, for containers that need a default.
     constexpr TQApp() noexcept = default;
-    /// The app that is \a value. A number that is none of the cases stops the process as soon as anything is asked of
-    /// it.
+    /// The app \a value. An invalid enumerator stops the process when a member is called.
     constexpr TQApp(Case value) noexcept : m_case(value) {}
-    /// Its case, for a `switch`.
+    /// The case, for a `switch`.
     constexpr operator Case() const noexcept { return m_case; }
 
     /// The cases in catalogue order, a `std::array<TQApp, 10>`.
     static constexpr auto allCases() noexcept;
 
-    /// The store's id of the app, ten decimal digits; also what identifies the app in a list.
+    /// The store's id of the app, ten decimal digits; unique, so that it identifies the app in a list.
     QString id() const;
 
-    /// The app's filing text for users in mainland China, in the user's language; nothing for an app that has none.
+    /// The app's filing text for users in mainland China, in the user's language; null for an app without a filing.
     std::optional<QString> icp() const;
 
     /// The app's colour. Four of them follow light and dark appearance.
     Color tintColor() const;
 
-    /// The app's icon as a square of 36 points at screenScale(), with that device pixel ratio; the side in pixels is
-    /// rounded to the nearest. A null image where the screen's scale makes that side smaller than 1 or larger than
-    /// 16384 pixels. An icon that is missing from the library's bundle, or broken, stops the process. Main thread.
+    /// The side of icon() in points.
+    static constexpr int iconSide = 36;
+
+    /// The app's icon, scaled to iconSide points square at screenScale(), which is its device pixel ratio. The side in
+    /// pixels is rounded to nearest; the image is null if that is below 1 or above 16384. Artwork that is missing from
+    /// the library's bundle, or broken, stops the process. GUI thread.
     QImage icon() const;
 
     /// The paragraphs of the app's onboarding guide in the user's language; empty for an app without a guide.
@@ -87,22 +97,22 @@ public:
     /// The app's page in the store, a secure web address.
     QString appLink() const;
 
-    /// appLink() opened on the store's form for reviews.
+    /// The review form of the app in the store: appLink() with a query.
     QString reviewLink() const;
 
     /// The running host's display name: "CFBundleDisplayName" of its information dictionary, else "CFBundleName", else
-    /// empty. Entries that are no strings count as missing.
+    /// empty. An entry that is not a string counts as missing.
     static QString name();
 
-    /// The running host's marketing version, "CFBundleShortVersionString"; empty where that is missing or no string.
+    /// The running host's marketing version, "CFBundleShortVersionString"; empty if missing or not a string.
     static QString version();
 
-    /// The running host's build number, "CFBundleVersion"; empty where that is missing or no string.
+    /// The running host's build number, "CFBundleVersion"; empty if missing or not a string.
     static QString buildNumber();
 
-    /// Whether both are the same case.
+    /// Whether both values are the same case.
     friend constexpr bool operator==(TQApp a, TQApp b) noexcept { return a.m_case == b.m_case; }
-    /// Whether they are different cases.
+    /// Whether the values are different cases.
     friend constexpr bool operator!=(TQApp a, TQApp b) noexcept { return a.m_case != b.m_case; }
 
 private:
@@ -132,11 +142,11 @@ constexpr auto TQApp::allCases() noexcept
 #undef TQFOUNDATION_DECLARED
 #undef TQFOUNDATION_DEFINED
 
-/// Lets a TQApp be the key of the standard containers.
+/// Hash of a TQApp for standard containers.
 template <>
 struct std::hash<TQFoundation::TQApp>
 {
-    /// Equal for equal apps within one process.
+    /// Equal for equal apps within a process.
     std::size_t operator()(TQFoundation::TQApp app) const noexcept
     {
         return std::hash<std::size_t>{}(static_cast<std::size_t>(TQFoundation::TQApp::Case(app)));

@@ -8,7 +8,7 @@ namespace TQFoundation {
 
 TQAppIcon::TQAppIcon(QQuickItem *parent) : QQuickItem(parent)
 {
-    setImplicitSize(36, 36);
+    setImplicitSize(TQApp::iconSide, TQApp::iconSide);
     setFlag(ItemHasContents);
 }
 

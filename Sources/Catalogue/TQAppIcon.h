@@ -9,16 +9,20 @@
 
 namespace TQFoundation {
 
-/// Shows the icon of one app, 36 by 36 points unless it is given another size; to that it is stretched.
+/// The QML item `TQAppIcon`: the icon of one app, stretched to the item's size. Its implicit size is TQApp::iconSide
+/// points square.
 ///
-/// The icon is read when the item is complete and at each later change of `app`. Nothing is added to the artwork, which
-/// carries its own shape.
+/// The icon is decoded when the item is complete and at each change of `app`. The artwork is shown as it is: it brings
+/// its own shape. `TQAppIcon { app: TQApp.hazel }`. GUI thread.
 class TQAppIcon : public QQuickItem
 {
     Q_OBJECT
     QML_ELEMENT
+    /// `tqApp`, required: the app whose icon is shown. `app: TQApp.hazel`.
     Q_PROPERTY(TQFoundation::TQApp app READ app WRITE setApp NOTIFY appChanged REQUIRED FINAL)
+    /// `bool`: whether the item shows nothing, because it is incomplete or the icon is null. `visible: !empty`.
     Q_PROPERTY(bool empty READ isEmpty NOTIFY emptyChanged FINAL)
+    /// `string`: the app's case name in English, for accessibility. `Accessible.name: caseName // "Hazel"`.
     Q_PROPERTY(QString caseName READ caseName NOTIFY appChanged FINAL)
 
 public:
@@ -26,16 +30,12 @@ public:
 
     TQApp app() const { return m_app.value_or(TQApp()); }
     void setApp(TQApp app);
-
-    /// Whether there is nothing to show: the icon could not be prepared, or the item is not complete.
     bool isEmpty() const { return m_image.isNull(); }
-
-    /// The app's case as a name ("Larch"), for assistive technology. Not translated.
     QString caseName() const;
 
 Q_SIGNALS:
-    void appChanged();
-    void emptyChanged();
+    void appChanged(); ///< The app, and with it caseName, has changed.
+    void emptyChanged(); ///< Whether there is something to show has changed.
 
 protected:
     void componentComplete() override;

@@ -1,42 +1,51 @@
 import QtQuick
 import TQFoundation
 
-// A row of the sibling apps' icons. A tap anywhere on it opens the store page that lists all the developer's apps.
+/// A horizontally scrolling row of the sibling apps' icons. A tap anywhere on it, Return, Enter or a press by assistive
+/// technology opens the store page that lists all the developer's apps. The arrow keys scroll by one icon, Home and End
+/// to the ends.
+///
+/// The icons have the size of `TQAppIcon`, a spacing of 8 points and 16 points of padding at both ends. The implicit
+/// height is that of an icon. With `LayoutMirroring` the row starts at the right.
+///
+/// `TQAppView { width: parent.width; app: TQApp.hazel }`
 Flickable {
     id: root
 
-    // The host's own app, which the row leaves out.
+    /// `tqApp`, required: the host's own app, which the row leaves out. `app: TQApp.hazel`.
     required property tqApp app
 
-    readonly property bool mirrored: LayoutMirroring.enabled
-    readonly property real step: 44 // one icon and one gap
-    readonly property real farthest: Math.max(0, contentWidth - width)
+    // Internal: an object of its own, so that hosts cannot reach these members by name.
+    QtObject {
+        id: scroller
 
-    function siblings(own: tqApp): var {
-        const apps = [];
-        for (const candidate of TQApp.allCases) {
-            if (candidate.id !== own.id)
-                apps.push(candidate);
+        readonly property bool mirrored: root.LayoutMirroring.enabled
+        readonly property real step: row.height + row.spacing // icons are square
+        readonly property real end: Math.max(0, root.contentWidth - root.width)
+
+        onMirroredChanged: toStart()
+        onEndChanged: if (mirrored && !root.moving) toStart()
+
+        // Returns whether the position has changed.
+        function scrollTo(x: real): bool {
+            const previous = root.contentX;
+            root.contentX = Math.max(0, Math.min(end, x));
+            return root.contentX !== previous;
         }
-        return apps;
-    }
 
-    function scrollTo(x: real): bool {
-        const target = Math.max(0, Math.min(farthest, x));
-        if (target === contentX)
-            return false;
-        contentX = target;
-        return true;
-    }
+        function toStart(): bool {
+            return scrollTo(mirrored ? end : 0);
+        }
 
-    function scrollToStart() {
-        scrollTo(mirrored ? farthest : 0);
-    }
+        function toEnd(): bool {
+            return scrollTo(mirrored ? 0 : end);
+        }
 
-    // Once for each press, however long the key is held.
-    function open(event: KeyEvent) {
-        if (!event.isAutoRepeat)
-            TQApp.openDeveloperPage();
+        // Once for each key press: auto-repeat is ignored.
+        function press(event: KeyEvent) {
+            if (!event.isAutoRepeat)
+                TQApp.openDeveloperPage();
+        }
     }
 
     implicitWidth: row.width
@@ -48,18 +57,15 @@ Flickable {
     clip: true
     activeFocusOnTab: true
 
-    onMirroredChanged: scrollToStart()
-    onFarthestChanged: if (mirrored && !moving) scrollToStart()
-
-    Keys.onLeftPressed: event => event.accepted = scrollTo(contentX - step)
-    Keys.onRightPressed: event => event.accepted = scrollTo(contentX + step)
-    Keys.onReturnPressed: event => open(event)
-    Keys.onEnterPressed: event => open(event)
+    Keys.onLeftPressed: event => event.accepted = scroller.scrollTo(contentX - scroller.step)
+    Keys.onRightPressed: event => event.accepted = scroller.scrollTo(contentX + scroller.step)
+    Keys.onReturnPressed: event => scroller.press(event)
+    Keys.onEnterPressed: event => scroller.press(event)
     Keys.onPressed: event => {
         if (event.key === Qt.Key_Home)
-            event.accepted = scrollTo(mirrored ? farthest : 0);
+            event.accepted = scroller.toStart();
         else if (event.key === Qt.Key_End)
-            event.accepted = scrollTo(mirrored ? 0 : farthest);
+            event.accepted = scroller.toEnd();
     }
 
     Accessible.role: Accessible.Button
@@ -77,7 +83,7 @@ Flickable {
         spacing: 8
 
         Repeater {
-            model: root.siblings(root.app)
+            model: Array.from(TQApp.allCases).filter(candidate => candidate.id !== root.app.id)
 
             TQAppIcon {
                 required property tqApp modelData
@@ -90,12 +96,13 @@ Flickable {
         }
     }
 
-    // The wheel of a mouse turns one way only: over the row it scrolls the row, and at its ends whatever lies around it.
+    // A mouse wheel scrolls the row, and at its ends the item around it.
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.NoButton
         onWheel: wheel => wheel.accepted = wheel.pixelDelta.y === 0 && wheel.angleDelta.x === 0
-                 && root.scrollTo(root.contentX - (root.mirrored ? -1 : 1) * wheel.angleDelta.y / 120 * root.step)
+                 && scroller.scrollTo(root.contentX
+                                      - (scroller.mirrored ? -1 : 1) * wheel.angleDelta.y / 120 * scroller.step)
     }
 
     TapHandler {

@@ -2,7 +2,7 @@
 
 #include <QtCore/qglobal.h>
 
-/// The English texts of the More screen, which are also the keys of their translations.
+/// The English texts of the More screen, which are also their translation keys.
 namespace TQFoundation::MoreKeys {
 
 //: Title of a row of the More screen.

@@ -23,7 +23,14 @@ QString localized(const char *key)
     return localizedInLibrary(QLatin1String(key));
 }
 
-// Statement by statement, because the operands of one expression would be read in any order.
+template <const char *const &key>
+QString localizedOnce()
+{
+    static const QString text = localized(key);
+    return text;
+}
+
+// Separate statements, because the operands of one expression are evaluated in unspecified order.
 QString &appendVersion(QString &text)
 {
     text += TQApp::version();
@@ -41,7 +48,7 @@ QString feedbackSubject()
     return appendVersion(subject);
 }
 
-bool showsFiling(const std::optional<QString> &icp)
+bool hasFilingRow(const std::optional<QString> &icp)
 {
     return isChn() && icp;
 }
@@ -50,38 +57,32 @@ bool showsFiling(const std::optional<QString> &icp)
 
 QString TQMore::privacyText()
 {
-    static const QString text = localized(MoreKeys::privacy);
-    return text;
+    return localizedOnce<MoreKeys::privacy>();
 }
 
 QString TQMore::privacyUrl()
 {
-    static const QString url = localized(DeveloperIdentity::privacyPage);
-    return url;
+    return localizedOnce<DeveloperIdentity::privacyPage>();
 }
 
 QString TQMore::feedbackText()
 {
-    static const QString text = localized(MoreKeys::feedback);
-    return text;
+    return localizedOnce<MoreKeys::feedback>();
 }
 
 QString TQMore::feedbackUrl()
 {
-    static const QString url = localized(DeveloperIdentity::contactPage);
-    return url;
+    return localizedOnce<DeveloperIdentity::contactPage>();
 }
 
 QString TQMore::reviewText()
 {
-    static const QString text = localized(MoreKeys::review);
-    return text;
+    return localizedOnce<MoreKeys::review>();
 }
 
 QString TQMore::threadsText()
 {
-    static const QString text = localized(MoreKeys::threads);
-    return text;
+    return localizedOnce<MoreKeys::threads>();
 }
 
 QString TQMore::threadsUrl()
@@ -91,20 +92,17 @@ QString TQMore::threadsUrl()
 
 QString TQMore::blogText()
 {
-    static const QString text = localized(MoreKeys::blog);
-    return text;
+    return localizedOnce<MoreKeys::blog>();
 }
 
 QString TQMore::blogUrl()
 {
-    static const QString url = localized(DeveloperIdentity::homePage);
-    return url;
+    return localizedOnce<DeveloperIdentity::homePage>();
 }
 
 QString TQMore::moreAppText()
 {
-    static const QString text = localized(DeveloperPage::title);
-    return text;
+    return DeveloperPage::title();
 }
 
 QString TQMore::moreAppUrl()
@@ -124,22 +122,22 @@ QString TQMore::versionText()
 
 QString TQMore::icpOrBlogText(const std::optional<QString> &icp)
 {
-    return showsFiling(icp) ? *icp : blogText();
+    return hasFilingRow(icp) ? *icp : blogText();
 }
 
 QString TQMore::icpOrBlogUrl(const std::optional<QString> &icp)
 {
-    return showsFiling(icp) ? QString(QLatin1String(DeveloperIdentity::filingSite)) : blogUrl();
+    return hasFilingRow(icp) ? QString(QLatin1String(DeveloperIdentity::filingSite)) : blogUrl();
 }
 
 QString TQMore::blogOrSocialText(const std::optional<QString> &icp)
 {
-    return showsFiling(icp) ? blogText() : threadsText();
+    return hasFilingRow(icp) ? blogText() : threadsText();
 }
 
 QString TQMore::blogOrSocialUrl(const std::optional<QString> &icp)
 {
-    return showsFiling(icp) ? blogUrl() : threadsUrl();
+    return hasFilingRow(icp) ? blogUrl() : threadsUrl();
 }
 
 std::shared_ptr<ViewController> TQMore::topViewController()

@@ -5,41 +5,46 @@
 
 #include <QtCore/qfile.h>
 #include <QtCore/qlocale.h>
+#include <QtCore/qmutex.h>
 #include <QtCore/qtranslator.h>
+
+#include <map>
 
 namespace TQFoundation {
 namespace {
 
-/// The table of one bundle for the user's language; empty where there is none. Immutable, so any thread may read it.
-class StringsTable
+void load(QTranslator &table, const QString &root)
 {
-public:
-    explicit StringsTable(const QString &root) : m_root(root)
-    {
-        static const QStringList names = tableNames(QLocale().uiLanguages());
-        for (const QString &name : names) {
-            const QString path = root + u"/Translations/TQFoundation_" + name + u".qm";
-            // Asked first, because the translator would cut the name short until it finds some file.
-            if (QFile::exists(path) && m_translator.load(path))
-                break;
-        }
+    static const QStringList names = tableNames(QLocale().uiLanguages());
+    for (const QString &name : names) {
+        const QString path = root + u"/Translations/TQFoundation_" + name + u".qm";
+        // Without this check QTranslator would shorten the name until it finds some file.
+        if (QFile::exists(path) && table.load(path))
+            return;
     }
+}
 
-    const QString &root() const { return m_root; }
+// Immutable once loaded, so that readers need no lock.
+const QTranslator &tableOf(const QString &root)
+{
+    static QMutex mutex;
+    // Never destroyed, because other threads may translate while the process exits.
+    static auto &tables = *new std::map<QString, QTranslator>;
+    const QMutexLocker lock(&mutex);
+    const auto [entry, isNew] = tables.try_emplace(root);
+    if (isNew)
+        load(entry->second, root);
+    return entry->second;
+}
 
-    QString entry(const char *context, const QString &key) const
-    {
-        // The look-up takes a C string and would find the entry of what stands before a NUL.
-        if (key.contains(QChar::Null))
-            return key;
-        const QString entry = m_translator.translate(context, key.toUtf8().constData());
-        return entry.isNull() ? key : entry;
-    }
-
-private:
-    QString m_root;
-    QTranslator m_translator;
-};
+QString translated(const QString &root, const char *context, const QString &key)
+{
+    // QTranslator takes a C string and would look up the part before a NUL.
+    if (key.contains(QChar::Null))
+        return key;
+    const QString entry = tableOf(root).translate(context, key.toUtf8().constData());
+    return entry.isNull() ? key : entry;
+}
 
 } // namespace
 
@@ -50,20 +55,12 @@ QImage Bundle::image(const QString &name) const
 
 QString Bundle::localizedString(const QString &key) const
 {
-    return entry("TQFoundation", key);
+    return translated(m_root, "TQFoundation", key);
 }
 
 QString Bundle::interfaceString(const QString &key) const
 {
-    return entry("TQFoundationInterface", key);
-}
-
-QString Bundle::entry(const char *context, const QString &key) const
-{
-    static const StringsTable first(m_root);
-    if (m_root == first.root())
-        return first.entry(context, key);
-    return StringsTable(m_root).entry(context, key);
+    return translated(m_root, "TQFoundationInterface", key);
 }
 
 Bundle libraryBundle()

@@ -7,41 +7,37 @@
 
 namespace TQFoundation {
 
-/// A folder of the library's resources: Icons/ and Translations/. A plain value that owns nothing.
+/// A resource folder with the subfolders Icons and Translations. A plain value that owns nothing. Any thread.
 class TQFOUNDATION_EXPORT Bundle
 {
 public:
-    /// The folder \a root, which need not exist: then it has no images and no tables. Without a trailing slash.
+    /// The folder \a root, without a trailing slash. A missing folder is a bundle without images and tables.
     explicit Bundle(QString root) : m_root(std::move(root)) {}
 
     /// The folder, without a trailing slash.
     const QString &root() const { return m_root; }
 
-    /// The image \a name (without folder and extension) at its full size; a null image where it is missing or broken.
-    /// Any thread.
+    /// The PNG image \a name (without folder and extension) in full size; null if it is missing or broken. Decoded at
+    /// each call.
     QImage image(const QString &name) const;
 
-    /// The entry of \a key in the bundle's table for the user's language, or \a key unchanged without table or entry.
+    /// The translation of \a key, or \a key itself if there is no table or no entry.
     ///
-    /// The language is the first of the user's languages that has a table. The user's languages are read once per
-    /// process. Any thread.
+    /// The table is that of the first of the user's languages that has one. Languages are read once per process, and
+    /// each folder's table once, on its first look-up: later changes of either show at the next launch.
     QString localizedString(const QString &key) const;
 
-    /// The same for the texts of the library's own sheets and for assistive technology, which are no part of an app's
-    /// texts.
+    /// The same for texts of the library's own sheets and of accessibility, which have a context of their own.
     QString interfaceString(const QString &key) const;
 
 private:
-    QString entry(const char *context, const QString &key) const;
-
     QString m_root;
 };
 
-/// The library's own bundle, asked for afresh at every use. Any thread.
+/// The library's own bundle: Platform::resourceRoot(), which is read at each call. Any thread.
 TQFOUNDATION_EXPORT Bundle libraryBundle();
 
-/// The one translation rule of the library: \a text is both the key in the library's table and what comes back where
-/// that has no entry. Any thread.
+/// The translation of \a text from the library's own bundle. \a text is both the key and the fallback. Any thread.
 TQFOUNDATION_EXPORT QString localizedInLibrary(const QString &text);
 
 } // namespace TQFoundation

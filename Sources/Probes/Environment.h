@@ -4,21 +4,21 @@
 
 namespace TQFoundation {
 
-// Each value is worked out on its own first read and then kept for the life of the process: a later rotation, change of
-// screen or of storefront shows at the next launch. Reading one computes no other. Concurrent first readers wait for
-// the one that computes, and all read the same.
+// One-time values: each is read from the platform on its first use and kept for the life of the process. A later
+// rotation or change of screen or storefront shows at the next launch. Reading one reads no other. Initialisation is
+// thread-safe.
 
-/// The width of the main screen in points; 0 without a screen. The first read belongs on the main thread.
+/// The width of the main screen in points; 0 without a screen. First read on the GUI thread, then any thread.
 TQFOUNDATION_EXPORT double screenWidth();
 
-/// The height of the main screen in points; 0 without a screen. The first read belongs on the main thread.
+/// The height of the main screen in points; 0 without a screen. First read on the GUI thread, then any thread.
 TQFOUNDATION_EXPORT double screenHeight();
 
-/// Pixels per point of the main screen; 1 without a screen. The first read belongs on the main thread.
+/// The device pixel ratio of the main screen; 1 without a screen. First read on the GUI thread, then any thread.
 TQFOUNDATION_EXPORT double screenScale();
 
-/// Whether the user's store account belongs to mainland China. An unknown region deliberately counts as mainland China.
-/// Any thread.
+/// Whether the user's storefront is mainland China ("CHN"). An unknown storefront deliberately counts as "CHN". Any
+/// thread.
 TQFOUNDATION_EXPORT bool isChn();
 
 } // namespace TQFoundation

@@ -9,7 +9,7 @@
 namespace TQFoundation {
 namespace {
 
-// A text layout breaks lines at this separator alone.
+// QTextLayout breaks lines at this separator only.
 QString withLineSeparators(QString string)
 {
     string.replace(QStringLiteral("\r\n"), QString(QChar::LineSeparator));

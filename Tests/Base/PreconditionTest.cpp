@@ -5,12 +5,12 @@
 namespace TQFoundation {
 namespace {
 
-TEST(PreconditionDeathTest, ABrokenOneStopsTheProcessWithoutAMessage)
+TEST(PreconditionDeathTest, StopsTheProcessWithoutAMessage)
 {
     EXPECT_EXIT(precondition(false), testing::KilledBySignal(Testing::trapSignal), "^$");
 }
 
-TEST(Precondition, OneThatHoldsDoesNothing)
+TEST(Precondition, DoesNothingIfItHolds)
 {
     precondition(true);
 }

@@ -1,7 +1,7 @@
 import QtQuick
 import TQFoundation
 
-// Every type of the module and every member of it, as an editor knows them from the module's types.
+// Uses every type of the module and every member of it; qmllint checks it against the module's qmltypes.
 Window {
     id: root
 
@@ -69,7 +69,7 @@ Window {
         onEmptyChanged: root.visit()
     }
 
-    // What only nibs declare.
+    // Types for nib files.
     AnimationView {}
 
     TQGuideView {

@@ -24,7 +24,7 @@ namespace {
 using Testing::InstalledRecordingPlatform;
 using Testing::useLanguage;
 
-TEST(TQApp, AllCasesAreTenInTheirOrder)
+TEST(TQApp, ListsTenCasesInOrder)
 {
     constexpr auto cases = TQApp::allCases();
     static_assert(cases.size() == 10);
@@ -36,7 +36,7 @@ TEST(TQApp, AllCasesAreTenInTheirOrder)
     }
 }
 
-TEST(TQApp, IdsAreDistinctAndOfTenDigits)
+TEST(TQApp, HasDistinctIdsOfTenDigits)
 {
     static const QRegularExpression tenDigits(QStringLiteral("\\A[0-9]{10}\\z"));
     QSet<QString> ids;
@@ -47,7 +47,7 @@ TEST(TQApp, IdsAreDistinctAndOfTenDigits)
     EXPECT_EQ(ids.size(), 10);
 }
 
-TEST(TQApp, AlderHasNoFilingAndTheOthersHaveTheirOwn)
+TEST(TQApp, HasDistinctFilingsExceptAlder)
 {
     const InstalledRecordingPlatform platform;
     platform->root = Testing::emptyBundle();
@@ -63,14 +63,14 @@ TEST(TQApp, AlderHasNoFilingAndTheOthersHaveTheirOwn)
     EXPECT_EQ(filings.size(), 9);
 }
 
-TEST(TQApp, AFilingIsTranslatedUpToItsSuffix)
+TEST(TQApp, TranslatesFilingsUpToTheirSuffix)
 {
     useLanguage("zh-CN");
     EXPECT_EQ(TQApp::larch.icp(), QStringLiteral("京ICP备2099000001号-1A"));
     EXPECT_EQ(TQApp::birch.icp(), QStringLiteral("京ICP备2099000001号-9A"));
 }
 
-TEST(TQApp, LinksLeadToTheAppAndToItsReviews)
+TEST(TQApp, LinksToItsStorePageAndReviewForm)
 {
     EXPECT_EQ(TQApp::larch.appLink(), QStringLiteral("https://apps.apple.com/app/id9990000001"));
     for (const TQApp app : TQApp::allCases()) {
@@ -79,13 +79,13 @@ TEST(TQApp, LinksLeadToTheAppAndToItsReviews)
     }
 }
 
-TEST(TQApp, HazelHasSixParagraphsDogwoodFiveAndTheOthersNone)
+TEST(TQApp, HasGuidesForHazelAndDogwoodOnly)
 {
     for (const TQApp app : TQApp::allCases())
         EXPECT_EQ(app.guideText().size(), app == TQApp::hazel ? 6 : app == TQApp::dogwood ? 5 : 0);
 }
 
-TEST(TQApp, ParagraphsAreWordForWordWithoutATable)
+TEST(TQApp, KeepsGuidesWordForWordWithoutATable)
 {
     const InstalledRecordingPlatform platform;
     platform->root = Testing::emptyBundle();
@@ -120,7 +120,7 @@ TEST(TQApp, ParagraphsAreWordForWordWithoutATable)
         }));
 }
 
-TEST(TQApp, ParagraphsAreTranslatedEachOnItsOwn)
+TEST(TQApp, TranslatesEachParagraph)
 {
     useLanguage("zh-CN");
     EXPECT_TRUE(TQApp::hazel.guideText().at(1).startsWith(QStringLiteral("1.\n\n")));
@@ -129,7 +129,7 @@ TEST(TQApp, ParagraphsAreTranslatedEachOnItsOwn)
                              "as if by underpopulation."));
 }
 
-TEST(TQApp, TintsAreTheLiteralsToTheLastBit)
+TEST(TQApp, KeepsTintLiteralsBitForBit)
 {
     using Bits = std::array<std::uint32_t, 4>;
     const auto bitsOf = [](TQApp app) {
@@ -145,7 +145,7 @@ TEST(TQApp, TintsAreTheLiteralsToTheLastBit)
     EXPECT_EQ(bitsOf(TQApp::alder), (Bits{0, 0x3F32B2B2, 0x3F36B6B7, one})); // 0 0.6980392 0.7137255
 }
 
-TEST(TQApp, FourTintsAreTheSystemsOwn)
+TEST(TQApp, HasFourSystemTints)
 {
     EXPECT_EQ(TQApp::juniper.tintColor(), Color::systemBlue());
     EXPECT_EQ(TQApp::hazel.tintColor(), Color::label());
@@ -153,7 +153,7 @@ TEST(TQApp, FourTintsAreTheSystemsOwn)
     EXPECT_EQ(TQApp::elm.tintColor(), Color::systemRed());
 }
 
-TEST(TQApp, IsEqualToItsOwnCaseOnlyAndHashesAlike)
+TEST(TQApp, ComparesAndHashesByCase)
 {
     std::unordered_set<TQApp> standard;
     QSet<TQApp> qt;
@@ -168,7 +168,7 @@ TEST(TQApp, IsEqualToItsOwnCaseOnlyAndHashesAlike)
     EXPECT_EQ(qt.size(), 10);
 }
 
-TEST(TQApp, CanBeSwitchedOver)
+TEST(TQApp, WorksInSwitch)
 {
     const auto isFirst = [](TQApp app) {
         switch (app) {
@@ -191,7 +191,7 @@ TEST(TQApp, CanBeSwitchedOver)
     EXPECT_FALSE(isFirst(TQApp::alder));
 }
 
-class HostIdentity : public testing::Test
+class TQAppHostIdentity : public testing::Test
 {
 protected:
     void set(const char *key, const QVariant &value) { platform->infoDictionary.insert(QLatin1String(key), value); }
@@ -199,7 +199,7 @@ protected:
     InstalledRecordingPlatform platform;
 };
 
-TEST_F(HostIdentity, TheDisplayNameComesFirstAndTheNameIsNotAskedFor)
+TEST_F(TQAppHostIdentity, ReadsOnlyTheDisplayNameIfPresent)
 {
     set("CFBundleDisplayName", QStringLiteral("Hazel Grid"));
     set("CFBundleName", QStringLiteral("hazel"));
@@ -207,26 +207,26 @@ TEST_F(HostIdentity, TheDisplayNameComesFirstAndTheNameIsNotAskedFor)
     EXPECT_EQ(platform->calls, QStringList{QStringLiteral("infoDictionaryValue(CFBundleDisplayName)")});
 }
 
-TEST_F(HostIdentity, WithoutADisplayNameTheNameStandsIn)
+TEST_F(TQAppHostIdentity, FallsBackToTheBundleName)
 {
     set("CFBundleName", QStringLiteral("hazel"));
     EXPECT_EQ(TQApp::name(), QStringLiteral("hazel"));
     EXPECT_EQ(platform->calls.last(), QStringLiteral("infoDictionaryValue(CFBundleName)"));
 }
 
-TEST_F(HostIdentity, WithNeitherTheNameIsEmpty)
+TEST_F(TQAppHostIdentity, HasEmptyNameWithoutEntries)
 {
     EXPECT_EQ(TQApp::name(), QString());
 }
 
-TEST_F(HostIdentity, AnEmptyDisplayNameIsAName)
+TEST_F(TQAppHostIdentity, AcceptsAnEmptyDisplayName)
 {
     set("CFBundleDisplayName", QStringLiteral(""));
     set("CFBundleName", QStringLiteral("hazel"));
     EXPECT_EQ(TQApp::name(), QString());
 }
 
-TEST_F(HostIdentity, VersionAndBuildAreTheirEntries)
+TEST_F(TQAppHostIdentity, ReadsVersionAndBuildNumber)
 {
     EXPECT_EQ(TQApp::version(), QString());
     EXPECT_EQ(TQApp::buildNumber(), QString());
@@ -236,7 +236,7 @@ TEST_F(HostIdentity, VersionAndBuildAreTheirEntries)
     EXPECT_EQ(TQApp::buildNumber(), QStringLiteral("57"));
 }
 
-TEST_F(HostIdentity, EntriesThatAreNoStringsCountAsMissing)
+TEST_F(TQAppHostIdentity, IgnoresEntriesThatAreNotStrings)
 {
     set("CFBundleDisplayName", 7);
     set("CFBundleName", QByteArray("bytes"));
@@ -247,7 +247,7 @@ TEST_F(HostIdentity, EntriesThatAreNoStringsCountAsMissing)
     EXPECT_EQ(TQApp::buildNumber(), QString());
 }
 
-TEST_F(HostIdentity, IsReadAnewEachTime)
+TEST_F(TQAppHostIdentity, IsReadAtEachCall)
 {
     set("CFBundleName", QStringLiteral("before"));
     EXPECT_EQ(TQApp::name(), QStringLiteral("before"));
@@ -255,10 +255,10 @@ TEST_F(HostIdentity, IsReadAnewEachTime)
     EXPECT_EQ(TQApp::name(), QStringLiteral("after"));
 }
 
-class IconAtScale : public testing::TestWithParam<std::pair<double, int>>
+class TQAppIconAtScale : public testing::TestWithParam<std::pair<double, int>>
 {};
 
-TEST_P(IconAtScale, IsThirtySixPointsSquare)
+TEST_P(TQAppIconAtScale, IsThirtySixPointsSquare)
 {
     const InstalledRecordingPlatform platform;
     platform->scale = GetParam().first;
@@ -269,37 +269,37 @@ TEST_P(IconAtScale, IsThirtySixPointsSquare)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, IconAtScale,
+INSTANTIATE_TEST_SUITE_P(Screens, TQAppIconAtScale,
                          testing::Values(std::pair(1.0, 36), std::pair(1.1, 40), std::pair(1.25, 45),
                                          std::pair(1.5, 54), std::pair(2.0, 72), std::pair(3.0, 108),
                                          std::pair(4.0, 144)));
 
-class UnpreparedIcon : public testing::TestWithParam<double>
+class TQAppIconAtInvalidScale : public testing::TestWithParam<double>
 {};
 
-TEST_P(UnpreparedIcon, IsNull)
+TEST_P(TQAppIconAtInvalidScale, IsNull)
 {
     const InstalledRecordingPlatform platform;
     platform->scale = GetParam();
     EXPECT_TRUE(TQApp::fir.icon().isNull());
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, UnpreparedIcon,
+INSTANTIATE_TEST_SUITE_P(Screens, TQAppIconAtInvalidScale,
                          testing::Values(0.0, -1.0, 0.013, 1e6, 1e300, std::nan(""), HUGE_VAL, -HUGE_VAL));
 
-TEST(Icon, EveryCaseHasItsOwnPicture)
+TEST(TQAppArtwork, DiffersBetweenApps)
 {
     QSet<QByteArray> pictures;
     for (const TQApp app : TQApp::allCases()) {
         const QImage icon = app.icon();
         pictures.insert(QByteArray(reinterpret_cast<const char *>(icon.constBits()), icon.sizeInBytes()));
-        EXPECT_EQ(qAlpha(icon.pixel(0, 0)), 0) << "the artwork carries its own rounded shape";
+        EXPECT_EQ(qAlpha(icon.pixel(0, 0)), 0) << "the artwork brings its own rounded shape";
         EXPECT_EQ(qAlpha(icon.pixel(icon.width() / 2, 2)), 255);
     }
     EXPECT_EQ(pictures.size(), 10);
 }
 
-TEST(Icon, IsTheAverageOfItsArtworkAndSoNeitherJaggedNorBlurred)
+TEST(TQAppArtwork, IsScaledByAveraging)
 {
     const InstalledRecordingPlatform platform;
     platform->scale = 1;
@@ -324,7 +324,7 @@ TEST(Icon, IsTheAverageOfItsArtworkAndSoNeitherJaggedNorBlurred)
     }
 }
 
-TEST(Icon, ArtworkOfAnySizeIsStretchedToTheSquare)
+TEST(TQAppArtwork, IsStretchedFromAnySize)
 {
     const QTemporaryDir folder;
     ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("Icons")));
@@ -341,14 +341,14 @@ TEST(Icon, ArtworkOfAnySizeIsStretchedToTheSquare)
     }
 }
 
-TEST(IconDeathTest, AMissingOneStopsTheProcess)
+TEST(TQAppArtworkDeathTest, StopsTheProcessIfMissing)
 {
     const InstalledRecordingPlatform platform;
     platform->root = Testing::emptyBundle();
     EXPECT_EXIT(TQApp::fir.icon(), testing::KilledBySignal(Testing::trapSignal), "^$");
 }
 
-TEST(IconDeathTest, ABrokenOneStopsTheProcess)
+TEST(TQAppArtworkDeathTest, StopsTheProcessIfBroken)
 {
     const QTemporaryDir folder;
     ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("Icons")));
@@ -358,11 +358,11 @@ TEST(IconDeathTest, ABrokenOneStopsTheProcess)
     icon.close();
     const InstalledRecordingPlatform platform;
     platform->root = folder.path();
-    // The image decoder may say what is wrong with the file.
+    // The image decoder may print a message.
     EXPECT_EXIT(TQApp::fir.icon(), testing::KilledBySignal(Testing::trapSignal), "");
 }
 
-TEST(TQAppDeathTest, ANumberThatIsNoCaseStopsTheProcess)
+TEST(TQAppDeathTest, StopsTheProcessForInvalidCases)
 {
     for (const int number : {-1, 10}) {
         const TQApp forced(static_cast<TQApp::Case>(number));

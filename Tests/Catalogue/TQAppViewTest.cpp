@@ -22,7 +22,7 @@ QByteArray row(TQApp app, const QByteArray &properties = "width: 390")
     return "TQAppView { focus: true; app: TQApp." + name + "; " + properties + " }";
 }
 
-// The icons that the row shows, from left to right.
+// The visible icons, from left to right.
 QList<QQuickItem *> shownIcons(const QmlWindow &host)
 {
     QList<QQuickItem *> icons;
@@ -47,7 +47,7 @@ QPoint middleOf(const QQuickItem *item)
     return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
 }
 
-// One turn of a mouse wheel over the row.
+// Turns the mouse wheel by one notch over the row.
 void turnWheel(QmlWindow &host, QPoint angleDelta)
 {
     const QPointF place(100, 18);
@@ -61,7 +61,7 @@ double scrolled(const QmlWindow &host)
     return host.item->property("contentX").toDouble();
 }
 
-class AppRow : public testing::Test
+class TQAppView : public testing::Test
 {
 protected:
     int opened() const { return static_cast<int>(platform->calls.count(openedPage)); }
@@ -69,7 +69,9 @@ protected:
     InstalledRecordingPlatform platform;
 };
 
-TEST_F(AppRow, ShowsTheNineOtherAppsInIndexOrder)
+using TQAppViewDeathTest = TQAppView;
+
+TEST_F(TQAppView, ShowsTheOtherNineAppsInOrder)
 {
     for (const TQApp own : TQApp::allCases()) {
         const QmlWindow host(row(own));
@@ -85,7 +87,20 @@ TEST_F(AppRow, ShowsTheNineOtherAppsInIndexOrder)
     }
 }
 
-TEST_F(AppRow, IconsAreThirtySixPointsEightApartAndSixteenFromTheEdge)
+TEST_F(TQAppView, HasNoPublicMemberButApp)
+{
+    const QmlWindow host(row(TQApp::hazel));
+    const QMetaObject *const type = host.item->metaObject();
+    const QMetaObject *base = type;
+    while (qstrcmp(base->className(), "QQuickFlickable") != 0)
+        base = base->superClass();
+    ASSERT_EQ(type->propertyCount(), base->propertyCount() + 1);
+    EXPECT_STREQ(type->property(base->propertyCount()).name(), "app");
+    ASSERT_EQ(type->methodCount(), base->methodCount() + 1);
+    EXPECT_EQ(type->method(base->methodCount()).name(), "appChanged");
+}
+
+TEST_F(TQAppView, LaysOutIconsWithSpacingAndPadding)
 {
     const QmlWindow host(row(TQApp::hazel));
     double x = 16;
@@ -98,14 +113,14 @@ TEST_F(AppRow, IconsAreThirtySixPointsEightApartAndSixteenFromTheEdge)
     EXPECT_EQ(host.item->implicitHeight(), 36) << "no padding above or below";
 }
 
-TEST_F(AppRow, IconsAreCentredWhereTheRowIsHigher)
+TEST_F(TQAppView, CentresIconsVertically)
 {
     const QmlWindow host(row(TQApp::hazel, "width: 390; height: 100"));
     for (const QQuickItem *icon : shownIcons(host))
         EXPECT_EQ(icon->mapToScene({0, 0}).y(), 32);
 }
 
-TEST_F(AppRow, AnIconThatCannotBePreparedLeavesNoSlot)
+TEST_F(TQAppView, LeavesNoSlotForNullIcons)
 {
     platform->scale = 0;
     const QmlWindow host(row(TQApp::hazel, "width: 20"));
@@ -113,7 +128,7 @@ TEST_F(AppRow, AnIconThatCannotBePreparedLeavesNoSlot)
     EXPECT_EQ(host.item->property("contentWidth").toDouble(), 32);
 }
 
-TEST_F(AppRow, EachBuildReadsItsIconsAnew)
+TEST_F(TQAppViewDeathTest, ReadsItsIconsAtEachBuild)
 {
     {
         const QmlWindow host(row(TQApp::hazel));
@@ -122,7 +137,7 @@ TEST_F(AppRow, EachBuildReadsItsIconsAnew)
     EXPECT_EXIT(const QmlWindow host(row(TQApp::hazel)), testing::KilledBySignal(Testing::trapSignal), "");
 }
 
-TEST_F(AppRow, ATapAnywhereOpensTheDevelopersPage)
+TEST_F(TQAppView, OpensThePageOnATapAnywhere)
 {
     const QmlWindow host(row(TQApp::hazel, "width: 500; height: 60"), {500, 200});
     QList<QPoint> places{{2, 30}, {498, 30}, {100, 1}, {16 + 36 + 4, 30}};
@@ -135,7 +150,7 @@ TEST_F(AppRow, ATapAnywhereOpensTheDevelopersPage)
     }
 }
 
-TEST_F(AppRow, ATapAsksForTheRegionBeforeItOpensThePage)
+TEST_F(TQAppView, ReadsTheRegionBeforeOpeningThePage)
 {
     QmlWindow host(row(TQApp::hazel));
     platform->calls.clear();
@@ -143,7 +158,7 @@ TEST_F(AppRow, ATapAsksForTheRegionBeforeItOpensThePage)
     EXPECT_EQ(platform->calls, (QStringList{QStringLiteral("storefrontCountryCode()"), openedPage}));
 }
 
-TEST_F(AppRow, EveryHostAndRegionOpensTheSamePage)
+TEST_F(TQAppView, OpensOnePageForAllHostsAndRegions)
 {
     platform->storefront = QStringLiteral("USA");
     for (const TQApp own : TQApp::allCases()) {
@@ -153,14 +168,14 @@ TEST_F(AppRow, EveryHostAndRegionOpensTheSamePage)
     EXPECT_EQ(opened(), 10);
 }
 
-TEST_F(AppRow, ATapOutsideOpensNothing)
+TEST_F(TQAppView, IgnoresTapsOutside)
 {
     QmlWindow host(row(TQApp::hazel));
     QTest::mouseClick(&host.window, Qt::LeftButton, {}, {40, 60});
     EXPECT_EQ(opened(), 0);
 }
 
-TEST_F(AppRow, ADragScrollsAndOpensNothing)
+TEST_F(TQAppView, ScrollsOnDragWithoutOpening)
 {
     QmlWindow host(row(TQApp::hazel, "width: 200"));
     QTest::mousePress(&host.window, Qt::LeftButton, {}, {180, 18});
@@ -171,7 +186,7 @@ TEST_F(AppRow, ADragScrollsAndOpensNothing)
     EXPECT_EQ(opened(), 0);
 }
 
-TEST_F(AppRow, ATapThatStopsAFlickOpensNothing)
+TEST_F(TQAppView, IgnoresTheTapThatStopsAFlick)
 {
     QmlWindow host(row(TQApp::hazel, "width: 200; flickDeceleration: 100"));
     ASSERT_TRUE(QMetaObject::invokeMethod(host.item, "flick", Q_ARG(double, -600.0), Q_ARG(double, 0.0)));
@@ -184,7 +199,7 @@ TEST_F(AppRow, ATapThatStopsAFlickOpensNothing)
     EXPECT_EQ(opened(), 1);
 }
 
-TEST_F(AppRow, ShowsNoScrollIndicatorWhileItScrolls)
+TEST_F(TQAppView, ShowsNoScrollIndicator)
 {
     QmlWindow host(row(TQApp::hazel, "width: 200; height: 60"), {200, 60});
     QTest::mousePress(&host.window, Qt::LeftButton, {}, {180, 30});
@@ -203,7 +218,7 @@ TEST_F(AppRow, ShowsNoScrollIndicatorWhileItScrolls)
     }
 }
 
-TEST_F(AppRow, ARowThatFitsDoesNotScroll)
+TEST_F(TQAppView, DoesNotScrollIfIconsFit)
 {
     QmlWindow host(row(TQApp::hazel, "width: 500"), {500, 200});
     QTest::keyClick(&host.window, Qt::Key_Right);
@@ -212,7 +227,7 @@ TEST_F(AppRow, ARowThatFitsDoesNotScroll)
     EXPECT_EQ(scrolled(host), 0);
 }
 
-TEST_F(AppRow, ArrowKeysScrollByOneIconAndStopAtTheEnds)
+TEST_F(TQAppView, ScrollsByArrowHomeAndEndKeys)
 {
     QmlWindow host(row(TQApp::hazel, "width: 200"));
     QTest::keyClick(&host.window, Qt::Key_Left);
@@ -228,7 +243,7 @@ TEST_F(AppRow, ArrowKeysScrollByOneIconAndStopAtTheEnds)
     EXPECT_EQ(opened(), 0);
 }
 
-TEST_F(AppRow, EnterOpensTheDevelopersPage)
+TEST_F(TQAppView, OpensThePageOnReturnAndEnter)
 {
     QmlWindow host(row(TQApp::hazel));
     EXPECT_TRUE(host.item->hasActiveFocus());
@@ -237,7 +252,7 @@ TEST_F(AppRow, EnterOpensTheDevelopersPage)
     EXPECT_EQ(opened(), 2);
 }
 
-TEST_F(AppRow, AKeyThatIsHeldOpensThePageOnce)
+TEST_F(TQAppView, IgnoresKeyAutoRepeat)
 {
     QmlWindow host(row(TQApp::hazel));
     for (const bool repeated : {false, true, true}) {
@@ -247,7 +262,7 @@ TEST_F(AppRow, AKeyThatIsHeldOpensThePageOnce)
     EXPECT_EQ(opened(), 1);
 }
 
-TEST_F(AppRow, IsReachedByTheTabKey)
+TEST_F(TQAppView, TakesFocusByTab)
 {
     QmlWindow host("FocusScope { focus: true; Item { focus: true; activeFocusOnTab: true } TQAppView { objectName: "
                    "\"row\"; app: TQApp.fir; width: 200 } }");
@@ -255,7 +270,7 @@ TEST_F(AppRow, IsReachedByTheTabKey)
     EXPECT_TRUE(host.item->findChild<QQuickItem *>(QStringLiteral("row"))->hasActiveFocus());
 }
 
-TEST_F(AppRow, AWheelScrollsTheRowAndAtItsEndsWhatLiesAroundIt)
+TEST_F(TQAppView, PassesWheelEventsOnAtItsEnds)
 {
     QmlWindow host("Flickable { width: 200; height: 100; contentHeight: 400; TQAppView { objectName: \"row\"; app: "
                    "TQApp.fir; width: 200 } }");
@@ -272,7 +287,7 @@ TEST_F(AppRow, AWheelScrollsTheRowAndAtItsEndsWhatLiesAroundIt)
     EXPECT_TRUE(QTest::qWaitFor([&] { return host.item->property("contentY").toDouble() > 0; }));
 }
 
-TEST_F(AppRow, MirroredItStartsAtTheRightAndRunsToTheLeft)
+TEST_F(TQAppView, StartsAtTheRightIfMirrored)
 {
     QmlWindow host(
         row(TQApp::hazel, "width: 200; LayoutMirroring.enabled: true; LayoutMirroring.childrenInherit: true"));
@@ -286,7 +301,7 @@ TEST_F(AppRow, MirroredItStartsAtTheRightAndRunsToTheLeft)
     EXPECT_EQ(icons.last()->mapToScene({0, 0}).x(), 200 - 16 - 36);
 }
 
-TEST_F(AppRow, StartsAnewWhenTheDirectionOfReadingChanges)
+TEST_F(TQAppView, ReturnsToItsStartWhenMirroringChanges)
 {
     QmlWindow host(row(TQApp::hazel,
                        "width: 200; property bool arabic; LayoutMirroring.enabled: arabic; "
@@ -298,7 +313,7 @@ TEST_F(AppRow, StartsAnewWhenTheDirectionOfReadingChanges)
     EXPECT_EQ(shownIcons(host).first()->mapToScene({0, 0}).x(), 16);
 }
 
-TEST_F(AppRow, MirroredInAWideWindowItLiesAtTheRight)
+TEST_F(TQAppView, AlignsRightIfMirroredAndWide)
 {
     QmlWindow host(
         row(TQApp::hazel, "width: 500; LayoutMirroring.enabled: true; LayoutMirroring.childrenInherit: true"),
@@ -306,7 +321,7 @@ TEST_F(AppRow, MirroredInAWideWindowItLiesAtTheRight)
     EXPECT_EQ(shownIcons(host).last()->mapToScene({0, 0}).x(), 500 - 16 - 36);
 }
 
-TEST_F(AppRow, TellsAssistiveTechnologyWhatItDoes)
+TEST_F(TQAppView, IsAnAccessibleButton)
 {
     QmlWindow host(row(TQApp::hazel));
     QAccessible::setActive(true);
@@ -329,7 +344,7 @@ TEST_F(AppRow, TellsAssistiveTechnologyWhatItDoes)
     EXPECT_EQ(names.last(), QStringLiteral("Alder"));
 }
 
-TEST_F(AppRow, FollowsAChangeOfTheHostsApp)
+TEST_F(TQAppView, FollowsChangesOfApp)
 {
     QmlWindow host(row(TQApp::hazel));
     host.item->setProperty("app", QVariant::fromValue(TQApp(TQApp::larch)));
@@ -337,8 +352,8 @@ TEST_F(AppRow, FollowsAChangeOfTheHostsApp)
     EXPECT_EQ(appOf(shownIcons(host).first()), TQApp::juniper);
 }
 
-// Runs once for each scale, which CTest sets from outside.
-TEST(AppRowPixels, IconsLieExactlyOnThePixelsOfTheirThumbnails)
+// Run once per scale: CTest sets QT_SCALE_FACTOR.
+TEST(TQAppViewPixels, DrawsThumbnailsPixelByPixel)
 {
     const InstalledRecordingPlatform platform;
     platform->scale = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble();
@@ -359,16 +374,16 @@ TEST(AppRowPixels, IconsLieExactlyOnThePixelsOfTheirThumbnails)
     }
     painter.end();
 
-    int farthest = 0;
+    int largestDifference = 0;
     for (int py = 0; py < shown.height(); ++py) {
         for (int px = 0; px < shown.width(); ++px) {
             const QRgb a = shown.pixel(px, py);
             const QRgb b = expected.pixel(px, py);
-            farthest = std::max({farthest, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
-                                 std::abs(qBlue(a) - qBlue(b))});
+            largestDifference = std::max({largestDifference, std::abs(qRed(a) - qRed(b)),
+                                          std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
         }
     }
-    EXPECT_LE(farthest, 2) << "a thumbnail is neither moved nor scaled on its way to the screen";
+    EXPECT_LE(largestDifference, 2) << "a thumbnail is neither moved nor scaled on its way to the screen";
 }
 
 } // namespace

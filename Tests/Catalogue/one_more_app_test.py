@@ -1,5 +1,5 @@
-"""An app is added by one name, one row and one icon, as docs/add-an-app.md says: does that to a copy of the library,
-builds it and looks for the app in C++ and in QML."""
+"""Adds an app to a copy of the library as docs/add-an-app.md describes (one name, one row, one icon), builds the copy
+and uses the app in C++ and in QML."""
 
 import os
 import pathlib
@@ -21,7 +21,7 @@ ROW = """
 
 
 def add(path, end_of_list, addition):
-    """Adds to the list whose last entry the pattern takes in."""
+    """Appends to the list whose last entry the pattern matches."""
     text = path.read_text(encoding="utf-8")
     longer, count = re.subn(end_of_list, lambda found: f"{found[0]} {addition.strip()}", text, flags=re.DOTALL)
     if count != 1:

@@ -15,13 +15,13 @@ using Testing::useLanguage;
 const QString filing = QStringLiteral("ICP-2099000001-3A");
 const QString filingSite = QStringLiteral("https://beian.miit.gov.cn");
 
-class More : public testing::Test
+class TQMoreRows : public testing::Test
 {
 protected:
     InstalledRecordingPlatform platform;
 };
 
-TEST_F(More, TextsAndLinksAreEnglishWithoutATable)
+TEST_F(TQMoreRows, IsEnglishWithoutATable)
 {
     platform->root = Testing::emptyBundle();
     EXPECT_EQ(TQMore::privacyText(), QStringLiteral("Privacy Policy"));
@@ -38,7 +38,7 @@ TEST_F(More, TextsAndLinksAreEnglishWithoutATable)
     EXPECT_EQ(TQMore::versionText(), QStringLiteral("Version ()"));
 }
 
-TEST_F(More, ChineseUsersGetTheChinesePages)
+TEST_F(TQMoreRows, LinksToChinesePagesInChinese)
 {
     useLanguage("zh-CN");
     EXPECT_EQ(TQMore::privacyUrl(), QStringLiteral("https://tqstudio.example/privacy-policy"));
@@ -46,14 +46,14 @@ TEST_F(More, ChineseUsersGetTheChinesePages)
     EXPECT_EQ(TQMore::blogUrl(), QStringLiteral("https://tqstudio.example/zh"));
 }
 
-TEST_F(More, UsersOfOtherLanguagesGetTheEnglishPages)
+TEST_F(TQMoreRows, LinksToEnglishPagesInOtherLanguages)
 {
     useLanguage("ja-JP");
     EXPECT_EQ(TQMore::privacyUrl(), QStringLiteral("https://tqstudio.example/privacy-policy-en"));
     EXPECT_EQ(TQMore::blogUrl(), QStringLiteral("https://tqstudio.example/en"));
 }
 
-TEST_F(More, TheVersionLineHasNoBlankBeforeTheBuild)
+TEST_F(TQMoreRows, HasNoBlankBeforeTheBuildNumber)
 {
     platform->infoDictionary = {{QStringLiteral("CFBundleShortVersionString"), QStringLiteral("2.3.1")},
                                 {QStringLiteral("CFBundleVersion"), QStringLiteral("57")}};
@@ -63,7 +63,7 @@ TEST_F(More, TheVersionLineHasNoBlankBeforeTheBuild)
                            QStringLiteral("infoDictionaryValue(CFBundleVersion)")}));
 }
 
-TEST_F(More, ATableThatTranslatesVersionChangesOnlyTheWordBeforeTheBlank)
+TEST_F(TQMoreRows, TranslatesOnlyTheWordVersion)
 {
     useLanguage("zh-CN");
     platform->infoDictionary = {{QStringLiteral("CFBundleShortVersionString"), QStringLiteral("2.3.1")},
@@ -71,14 +71,14 @@ TEST_F(More, ATableThatTranslatesVersionChangesOnlyTheWordBeforeTheBlank)
     EXPECT_EQ(TQMore::versionText(), QStringLiteral("版本 2.3.1(57)"));
 }
 
-TEST_F(More, AHostileVersionIsPassedOnAsItIs)
+TEST_F(TQMoreRows, PassesHostileVersionsOn)
 {
     platform->infoDictionary = {{QStringLiteral("CFBundleShortVersionString"), QStringLiteral("<b>1</b>\n")},
                                 {QStringLiteral("CFBundleVersion"), QStringLiteral(")(")}};
     EXPECT_EQ(TQMore::versionText(), QStringLiteral("Version <b>1</b>\n()()"));
 }
 
-TEST_F(More, AMemberReadTwiceIsTheSameEvenIfTheTablesChange)
+TEST_F(TQMoreRows, KeepsTextsWhenTablesChange)
 {
     useLanguage("zh-CN");
     const QString privacy = TQMore::privacyText();
@@ -88,10 +88,10 @@ TEST_F(More, AMemberReadTwiceIsTheSameEvenIfTheTablesChange)
     platform->infoDictionary.insert(QStringLiteral("CFBundleVersion"), QStringLiteral("58"));
     EXPECT_EQ(TQMore::privacyText(), privacy);
     EXPECT_EQ(TQMore::versionText(), version);
-    EXPECT_EQ(TQMore::feedbackText(), QStringLiteral("Contact")) << "each member has a first read of its own";
+    EXPECT_EQ(TQMore::feedbackText(), QStringLiteral("Contact")) << "one-time initialisation per member";
 }
 
-TEST_F(More, InChinaAnAppWithAFilingShowsItAndThenTheWebsite)
+TEST_F(TQMoreRows, ShowsFilingThenWebsiteInChina)
 {
     platform->storefront = QStringLiteral("CHN");
     EXPECT_EQ(TQMore::icpOrBlogText(filing), filing);
@@ -100,13 +100,13 @@ TEST_F(More, InChinaAnAppWithAFilingShowsItAndThenTheWebsite)
     EXPECT_EQ(TQMore::blogOrSocialUrl(filing), TQMore::blogUrl());
 }
 
-TEST_F(More, WhereTheRegionIsUnknownAFilingShowsToo)
+TEST_F(TQMoreRows, ShowsTheFilingForUnknownRegions)
 {
     EXPECT_EQ(TQMore::icpOrBlogText(filing), filing);
     EXPECT_EQ(TQMore::icpOrBlogUrl(filing), filingSite);
 }
 
-TEST_F(More, InChinaAnEmptyFilingCountsAsPresent)
+TEST_F(TQMoreRows, CountsAnEmptyFilingAsPresent)
 {
     EXPECT_EQ(TQMore::icpOrBlogText(QString()), QString());
     EXPECT_EQ(TQMore::icpOrBlogText(QStringLiteral("")), QStringLiteral(""));
@@ -114,7 +114,7 @@ TEST_F(More, InChinaAnEmptyFilingCountsAsPresent)
     EXPECT_EQ(TQMore::blogOrSocialUrl(QString()), TQMore::blogUrl());
 }
 
-TEST_F(More, InChinaWithoutAFilingTheRowsAreAsElsewhere)
+TEST_F(TQMoreRows, ShowsWebsiteThenSocialPageWithoutFiling)
 {
     platform->storefront = QStringLiteral("CHN");
     EXPECT_EQ(TQMore::icpOrBlogText(std::nullopt), TQMore::blogText());
@@ -123,7 +123,7 @@ TEST_F(More, InChinaWithoutAFilingTheRowsAreAsElsewhere)
     EXPECT_EQ(TQMore::blogOrSocialUrl(std::nullopt), TQMore::threadsUrl());
 }
 
-TEST_F(More, OutsideChinaAFilingIsIgnored)
+TEST_F(TQMoreRows, IgnoresTheFilingOutsideChina)
 {
     platform->storefront = QStringLiteral("USA");
     for (const std::optional<QString> &icp :
@@ -135,7 +135,7 @@ TEST_F(More, OutsideChinaAFilingIsIgnored)
     }
 }
 
-TEST(DeveloperIdentity, TheFilingSiteIsSchemeAndHostOnly)
+TEST(DeveloperIdentity, HasAFilingSiteOfSchemeAndHost)
 {
     EXPECT_EQ(QLatin1String(DeveloperIdentity::filingSite), filingSite);
     EXPECT_EQ(filingSite.size(), 25);

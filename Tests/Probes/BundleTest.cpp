@@ -9,6 +9,10 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <thread>
+#include <vector>
+
 namespace TQFoundation {
 namespace {
 
@@ -17,7 +21,24 @@ using Testing::useLanguage;
 
 const QString version = QStringLiteral("Version");
 
-TEST(Bundle, IsAskedForAtEveryUse)
+QByteArray chineseTable()
+{
+    QFile table(QStringLiteral(":/qt-project.org/imports/TQFoundation/Translations/TQFoundation_zh_Hans.qm"));
+    EXPECT_TRUE(table.open(QIODevice::ReadOnly));
+    return table.readAll();
+}
+
+// Makes the folder a bundle with a Chinese table of this content.
+void write(const QString &root, const QByteArray &content)
+{
+    EXPECT_TRUE(QDir().mkpath(root + QStringLiteral("/Translations")));
+    QFile table(root + QStringLiteral("/Translations/TQFoundation_zh_Hans.qm"));
+    table.remove(); // a loaded table is mapped into memory
+    EXPECT_TRUE(table.open(QIODevice::WriteOnly));
+    table.write(content);
+}
+
+TEST(Bundle, ReadsItsRootAtEveryUse)
 {
     const InstalledRecordingPlatform platform;
     EXPECT_EQ(libraryBundle().root(), QStringLiteral(":/qt-project.org/imports/TQFoundation"));
@@ -25,20 +46,20 @@ TEST(Bundle, IsAskedForAtEveryUse)
     EXPECT_EQ(libraryBundle().root(), QStringLiteral("/elsewhere"));
 }
 
-TEST(Bundle, ATextIsTranslatedIntoTheUsersLanguage)
+TEST(Bundle, TranslatesIntoTheUsersLanguage)
 {
     useLanguage("zh-CN");
     EXPECT_EQ(localizedInLibrary(version), QStringLiteral("版本"));
 }
 
-TEST(Bundle, ATextWithoutAnEntryComesBackUnchanged)
+TEST(Bundle, ReturnsTextsWithoutEntryUnchanged)
 {
     useLanguage("zh-CN");
     for (const char16_t *text : {u"", u"version", u"Version ", u"No such text", u"<b>Version</b>", u"版本"})
         EXPECT_EQ(localizedInLibrary(QString::fromUtf16(text)), QString::fromUtf16(text));
 }
 
-TEST(Bundle, ATextIsLookedUpWholeWhateverItHolds)
+TEST(Bundle, LooksUpTheWholeTextPastNul)
 {
     useLanguage("zh-CN");
     const QString withNul = version + QChar::Null + QStringLiteral("x");
@@ -49,7 +70,7 @@ TEST(Bundle, ATextIsLookedUpWholeWhateverItHolds)
     EXPECT_EQ(localizedInLibrary(huge), huge);
 }
 
-TEST(Bundle, WithoutATableEveryTextIsItsKey)
+TEST(Bundle, ReturnsTheKeyWithoutATable)
 {
     useLanguage("zh-CN");
     const InstalledRecordingPlatform platform;
@@ -57,19 +78,19 @@ TEST(Bundle, WithoutATableEveryTextIsItsKey)
     EXPECT_EQ(localizedInLibrary(version), version);
 }
 
-TEST(Bundle, ALanguageWithoutATableGivesEnglish)
+TEST(Bundle, FallsBackToEnglish)
 {
     useLanguage("sw-KE");
     EXPECT_EQ(localizedInLibrary(version), version);
 }
 
-TEST(Bundle, TheLocaleCGivesEnglish)
+TEST(Bundle, ReturnsEnglishInLocaleC)
 {
     useLanguage("C");
     EXPECT_EQ(localizedInLibrary(version), version);
 }
 
-TEST(Bundle, TheLanguageIsChosenOncePerProcess)
+TEST(Bundle, ChoosesTheLanguageOncePerProcess)
 {
     useLanguage("zh-CN");
     EXPECT_EQ(localizedInLibrary(version), QStringLiteral("版本"));
@@ -79,39 +100,64 @@ TEST(Bundle, TheLanguageIsChosenOncePerProcess)
               QStringLiteral("版本"));
 }
 
-TEST(Bundle, ABrokenTableCountsAsNone)
+TEST(Bundle, IgnoresABrokenTable)
 {
     const QTemporaryDir folder;
-    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("Translations")));
-    QFile table(folder.filePath(QStringLiteral("Translations/TQFoundation_zh_Hans.qm")));
-    ASSERT_TRUE(table.open(QIODevice::WriteOnly));
-    table.write("\x3c\xb8\x64\x18 and then nothing of the kind");
-    table.close();
-
+    write(folder.path(), "\x3c\xb8\x64\x18 and then nothing of the kind");
     useLanguage("zh-CN");
     EXPECT_EQ(Bundle(folder.path()).localizedString(version), version);
 }
 
-TEST(Bundle, EveryTruncatedTableIsSurvived)
+TEST(Bundle, LoadsEachTableOnce)
+{
+    useLanguage("zh-CN");
+    const QTemporaryDir folders[2];
+    for (const QTemporaryDir &folder : folders) {
+        write(folder.path(), chineseTable());
+        EXPECT_EQ(Bundle(folder.path()).localizedString(version), QStringLiteral("版本"));
+    }
+    for (const QTemporaryDir &folder : folders) {
+        write(folder.path(), "no longer a table");
+        EXPECT_EQ(Bundle(folder.path()).localizedString(version), QStringLiteral("版本"));
+    }
+    EXPECT_EQ(localizedInLibrary(version), QStringLiteral("版本"));
+}
+
+TEST(Bundle, TranslatesInManyThreads)
+{
+    useLanguage("zh-CN");
+    const QTemporaryDir folder;
+    write(folder.path(), chineseTable());
+    std::atomic<int> translated = 0;
+    {
+        std::vector<std::jthread> threads;
+        for (int number = 0; number < 8; ++number) {
+            threads.emplace_back([&, number] {
+                for (int round = 0; round < 100; ++round) {
+                    const QString missing = folder.filePath(QString::number(number * round % 7));
+                    translated += Bundle(folder.path()).localizedString(version) == QStringLiteral("版本")
+                        && Bundle(missing).localizedString(version) == version;
+                }
+            });
+        }
+    }
+    EXPECT_EQ(translated, 800);
+}
+
+TEST(Bundle, SurvivesEveryTruncatedTable)
 {
     const QTemporaryDir folder;
-    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("Translations")));
-    QFile whole(QStringLiteral(":/qt-project.org/imports/TQFoundation/Translations/TQFoundation_zh_Hans.qm"));
-    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
-    const QByteArray content = whole.readAll();
-
+    const QByteArray content = chineseTable();
     useLanguage("zh-CN");
     for (qsizetype length = 0; length < content.size(); length += 37) {
-        QFile table(folder.filePath(QStringLiteral("Translations/TQFoundation_zh_Hans.qm")));
-        ASSERT_TRUE(table.open(QIODevice::WriteOnly));
-        table.write(content.first(length));
-        table.close();
-        const QString text = Bundle(folder.path()).localizedString(version);
+        const QString root = folder.filePath(QString::number(length));
+        write(root, content.first(length));
+        const QString text = Bundle(root).localizedString(version);
         EXPECT_TRUE(text == version || text == QStringLiteral("版本")) << length;
     }
 }
 
-TEST(Bundle, TextsOfTheInterfaceHaveAContextOfTheirOwn)
+TEST(Bundle, KeepsInterfaceTextsInTheirOwnContext)
 {
     useLanguage("de-DE");
     EXPECT_EQ(libraryBundle().interfaceString(QStringLiteral("Next")), QStringLiteral("Weiter"));
@@ -119,12 +165,12 @@ TEST(Bundle, TextsOfTheInterfaceHaveAContextOfTheirOwn)
     EXPECT_EQ(libraryBundle().interfaceString(version), version);
 }
 
-TEST(Bundle, AnImageIsFoundByItsNameAlone)
+TEST(Bundle, LoadsAnImageByName)
 {
     EXPECT_EQ(libraryBundle().image(QStringLiteral("fir")).size(), QSize(216, 216));
 }
 
-TEST(Bundle, AMissingOrBrokenImageIsNull)
+TEST(Bundle, ReturnsNullForMissingImages)
 {
     EXPECT_TRUE(libraryBundle().image(QStringLiteral("baobab")).isNull());
     EXPECT_TRUE(libraryBundle().image(QString()).isNull());

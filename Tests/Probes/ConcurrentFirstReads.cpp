@@ -1,4 +1,4 @@
-// Built with the thread sanitizer from the sources themselves: many threads read each value for the first time at once.
+// Many threads read each one-time value for the first time at once. Meant for ThreadSanitizer.
 
 #include "RecordingPlatform.h"
 

@@ -9,10 +9,10 @@ namespace {
 
 using Testing::InstalledRecordingPlatform;
 
-class Region : public testing::TestWithParam<std::pair<const char *, bool>>
+class EnvironmentRegion : public testing::TestWithParam<std::pair<const char *, bool>>
 {};
 
-TEST_P(Region, IsMainlandChinaForChnAndWhereNothingIsKnown)
+TEST_P(EnvironmentRegion, IsMainlandChinaForChnAndUnknown)
 {
     const InstalledRecordingPlatform platform;
     if (GetParam().first)
@@ -21,12 +21,12 @@ TEST_P(Region, IsMainlandChinaForChnAndWhereNothingIsKnown)
     EXPECT_EQ(platform->calls, QStringList{QStringLiteral("storefrontCountryCode()")});
 }
 
-INSTANTIATE_TEST_SUITE_P(Storefronts, Region,
+INSTANTIATE_TEST_SUITE_P(Storefronts, EnvironmentRegion,
                          testing::Values(std::pair(nullptr, true), std::pair("CHN", true), std::pair("USA", false),
                                          std::pair("HKG", false), std::pair("TWN", false), std::pair("chn", false),
                                          std::pair("", false), std::pair("CHN ", false), std::pair("CHN\n", false)));
 
-TEST(Region, KeepsItsFirstAnswer)
+TEST(EnvironmentRegion, KeepsItsFirstValue)
 {
     const InstalledRecordingPlatform platform;
     platform->storefront = QStringLiteral("USA");
@@ -36,7 +36,7 @@ TEST(Region, KeepsItsFirstAnswer)
     EXPECT_EQ(platform->calls.size(), 1);
 }
 
-TEST(Screen, ValuesKeepTheirFirstAnswerWhenTheScreenChanges)
+TEST(Environment, KeepsFirstValuesWhenTheScreenChanges)
 {
     const InstalledRecordingPlatform platform;
     platform->bounds = {375.5, 667.25};
@@ -52,24 +52,24 @@ TEST(Screen, ValuesKeepTheirFirstAnswerWhenTheScreenChanges)
     EXPECT_EQ(platform->calls.size(), 3);
 }
 
-TEST(Screen, WidthIsReadAloneAndHeightWhenItIsAskedFor)
+TEST(Environment, ReadsWidthAndHeightSeparately)
 {
     const InstalledRecordingPlatform platform;
     EXPECT_EQ(screenWidth(), 390);
     EXPECT_EQ(platform->calls, QStringList{QStringLiteral("screenBounds()")});
     platform->bounds = {100, 200};
-    EXPECT_EQ(screenHeight(), 200) << "each has a first read of its own";
+    EXPECT_EQ(screenHeight(), 200) << "one-time initialisation per value";
     EXPECT_EQ(platform->calls.size(), 2);
 }
 
-TEST(Screen, HeightIsReadAlone)
+TEST(Environment, ReadsHeightAlone)
 {
     const InstalledRecordingPlatform platform;
     EXPECT_EQ(screenHeight(), 844);
     EXPECT_EQ(platform->calls, QStringList{QStringLiteral("screenBounds()")});
 }
 
-TEST(Screen, ScaleIsReadAlone)
+TEST(Environment, ReadsScaleAlone)
 {
     const InstalledRecordingPlatform platform;
     EXPECT_EQ(screenScale(), 3);

@@ -15,14 +15,14 @@ QStringList names(std::initializer_list<const char *> tags)
     return tableNames(list);
 }
 
-TEST(LanguageTags, NameTheScriptThenTheTerritoryThenTheLanguage)
+TEST(LanguageTags, NameScriptThenTerritoryThenLanguage)
 {
     EXPECT_EQ(names({"zh-CN"}),
               (QStringList{QStringLiteral("zh_Hans"), QStringLiteral("zh_CN"), QStringLiteral("zh")}));
     EXPECT_EQ(names({"pt-BR"}).at(1), QStringLiteral("pt_BR"));
 }
 
-TEST(LanguageTags, TellTheChineseScriptsApart)
+TEST(LanguageTags, DistinguishChineseScripts)
 {
     for (const char *tag : {"zh", "zh-CN", "zh-SG", "zh-Hans", "zh-Hans-HK", "zh_CN"})
         EXPECT_EQ(names({tag}).at(0), QStringLiteral("zh_Hans")) << tag;
@@ -30,7 +30,7 @@ TEST(LanguageTags, TellTheChineseScriptsApart)
         EXPECT_EQ(names({tag}).at(0), QStringLiteral("zh_Hant")) << tag;
 }
 
-TEST(LanguageTags, KeepTheUsersOrderAndNameNothingTwice)
+TEST(LanguageTags, KeepTheOrderWithoutDuplicates)
 {
     const QStringList list = names({"de-AT", "de-DE", "en-GB"});
     EXPECT_EQ(list.count(QStringLiteral("de")), 1);
@@ -38,12 +38,12 @@ TEST(LanguageTags, KeepTheUsersOrderAndNameNothingTwice)
     EXPECT_LT(list.indexOf(QStringLiteral("de_AT")), list.indexOf(QStringLiteral("de_DE")));
 }
 
-TEST(LanguageTags, ThatNameNoLanguageAreDropped)
+TEST(LanguageTags, AreSkippedIfInvalid)
 {
     EXPECT_TRUE(names({"", "C", "POSIX", "xx-invalid", "123", "../../etc", "\xff"}).isEmpty());
 }
 
-TEST(LanguageTags, OfTheSystemsLocaleCGiveNoTable)
+TEST(LanguageTags, OfLocaleCNameNoTable)
 {
     EXPECT_TRUE(tableNames(QLocale::c().uiLanguages()).isEmpty());
 }

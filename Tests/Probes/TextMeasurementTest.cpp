@@ -33,7 +33,7 @@ protected:
     const double line = QFontMetricsF(font).height();
 };
 
-TEST_F(TextMeasurement, TheEmptyStringHasWidthZeroAndIsOneLineHigh)
+TEST_F(TextMeasurement, IsOneLineHighForEmptyStrings)
 {
     EXPECT_EQ(width(QString()), 0);
     EXPECT_EQ(width(QStringLiteral("")), 0);
@@ -49,7 +49,7 @@ TEST_F(TextMeasurement, SizeIsWidthAndHeight)
     }
 }
 
-TEST_F(TextMeasurement, ASingleLineIsAsWideAsTheToolkitAdvancesPlusTheOverhangOfItsLastGlyph)
+TEST_F(TextMeasurement, WidthIsAdvancePlusLastOverhang)
 {
     const QFontMetricsF metrics(font);
     for (const char16_t *text : {u"Wave", u"AVAVAV", u"a b", u"汉字", u"مرحبا بكم"}) {
@@ -68,7 +68,7 @@ TEST_F(TextMeasurement, IsNotRounded)
     EXPECT_NEAR(height(QStringLiteral("a\nb\nc")), 2 * QFontMetricsF(font).lineSpacing() + line, 1.0 / 32);
 }
 
-TEST_F(TextMeasurement, LinesLieAsFarApartAsTheFontSays)
+TEST_F(TextMeasurement, SpacesLinesAsTheFontDoes)
 {
     for (const QString &family : QFontDatabase::families()) {
         QFont other(family);
@@ -85,7 +85,7 @@ TEST_F(TextMeasurement, LinesLieAsFarApartAsTheFontSays)
     }
 }
 
-TEST_F(TextMeasurement, EveryKindOfLineBreakStartsALine)
+TEST_F(TextMeasurement, StartsALineAtEveryLineBreak)
 {
     const double two = height(QStringLiteral("a\nb"));
     EXPECT_GT(two, line);
@@ -93,31 +93,31 @@ TEST_F(TextMeasurement, EveryKindOfLineBreakStartsALine)
         EXPECT_EQ(height(QString::fromUtf16(text)), two);
 }
 
-TEST_F(TextMeasurement, TheWidestLineGivesTheWidth)
+TEST_F(TextMeasurement, WidthIsThatOfTheWidestLine)
 {
     EXPECT_EQ(width(QStringLiteral("i\nWave\nll")), width(QStringLiteral("Wave")));
     EXPECT_EQ(width(QStringLiteral("\n\n")), 0);
 }
 
-TEST_F(TextMeasurement, BlanksAtTheEndCount)
+TEST_F(TextMeasurement, CountsTrailingBlanks)
 {
     EXPECT_GT(width(QStringLiteral("a ")), width(QStringLiteral("a")));
     EXPECT_GT(width(QStringLiteral(" ")), 0);
     EXPECT_EQ(width(QStringLiteral("wide   \na")), width(QStringLiteral("wide   ")));
 }
 
-TEST_F(TextMeasurement, ALongLineIsNotBroken)
+TEST_F(TextMeasurement, DoesNotWrapLongLines)
 {
     EXPECT_DOUBLE_EQ(height(QStringLiteral("word ").repeated(5000)), line);
 }
 
-TEST_F(TextMeasurement, ACombiningMarkTakesNoRoomOfItsOwn)
+TEST_F(TextMeasurement, GivesCombiningMarksNoWidth)
 {
     EXPECT_NEAR(width(QStringLiteral("e\u0301")), width(QStringLiteral("\u00e9")), 0.5);
     EXPECT_NEAR(width(QStringLiteral("x\u0323\u0302")), width(QStringLiteral("x")), 0.5);
 }
 
-TEST_F(TextMeasurement, AnEmojiOfSeveralCharactersIsOne)
+TEST_F(TextMeasurement, MeasuresEmojiSequencesAsOne)
 {
     const double one = width(QStringLiteral("👩"));
     EXPECT_GT(one, 0);
@@ -125,20 +125,20 @@ TEST_F(TextMeasurement, AnEmojiOfSeveralCharactersIsOne)
     EXPECT_NEAR(width(QStringLiteral("🇩🇪")), one, one / 4);
 }
 
-TEST_F(TextMeasurement, AFontThatStandsInCountsWithItsOwnHeight)
+TEST_F(TextMeasurement, CountsFallbackFontsWithTheirHeight)
 {
     EXPECT_GE(height(QStringLiteral("a汉")), line);
     EXPECT_GE(height(QStringLiteral("汉")), QFontMetricsF(font).boundingRect(QStringLiteral("汉")).height());
 }
 
-TEST_F(TextMeasurement, RightToLeftTextIsShapedAndItsDirectionDoesNotMatter)
+TEST_F(TextMeasurement, ShapesRightToLeftText)
 {
     const QString joined = QStringLiteral("بيت");
     EXPECT_LT(width(joined), width(QStringLiteral("ب")) + width(QStringLiteral("ي")) + width(QStringLiteral("ت")));
     EXPECT_NEAR(width(joined + QStringLiteral(" abc")), width(QStringLiteral("abc ") + joined), 0.5);
 }
 
-TEST_F(TextMeasurement, WhatIsDrawnFitsTheSize)
+TEST_F(TextMeasurement, ContainsTheDrawnPixels)
 {
     const QString text = QStringLiteral("nnnn\nmm");
     const QSizeF size = sizeOfString(text, font);
@@ -157,7 +157,7 @@ TEST_F(TextMeasurement, WhatIsDrawnFitsTheSize)
     }
 }
 
-TEST_F(TextMeasurement, HostileTextIsMeasured)
+TEST_F(TextMeasurement, MeasuresHostileText)
 {
     QString nul = QStringLiteral("ab");
     nul[1] = QChar::Null;

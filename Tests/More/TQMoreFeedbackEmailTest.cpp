@@ -16,14 +16,12 @@
 namespace TQFoundation {
 namespace {
 
-using Result = ViewController::MailComposeResult;
-
 const QString message = QStringLiteral("<p>Hello</p>");
 
-class FeedbackEmail : public testing::Test
+class TQMoreFeedbackEmail : public testing::Test
 {
 protected:
-    FeedbackEmail()
+    TQMoreFeedbackEmail()
     {
         platform->scenes = Testing::keyScene(&window);
         platform->infoDictionary = {{QStringLiteral("CFBundleDisplayName"), QStringLiteral("Hazel Grid")},
@@ -43,7 +41,7 @@ protected:
     QQuickWindow window;
 };
 
-TEST_F(FeedbackEmail, IsMadeInAFixedOrderOfSteps)
+TEST_F(TQMoreFeedbackEmail, ComposesInFixedOrder)
 {
     TQMore::sendFeedbackEmail(Color::systemRed(), message);
     EXPECT_EQ(
@@ -60,26 +58,26 @@ TEST_F(FeedbackEmail, IsMadeInAFixedOrderOfSteps)
     EXPECT_EQ(TQMore::topViewController(), platform->mailComposer.lock());
 }
 
-TEST_F(FeedbackEmail, TheDelegateIsTheControllerThatWasOnTop)
+TEST_F(TQMoreFeedbackEmail, MakesTheTopControllerTheDelegate)
 {
     TQMore::sendFeedbackEmail(std::nullopt, message);
     EXPECT_EQ(platform->mailComposer.lock()->delegate.lock(), ViewController::rootOf(&window));
 }
 
-TEST_F(FeedbackEmail, WithoutATintTheComposerKeepsTheSystems)
+TEST_F(TQMoreFeedbackEmail, KeepsTheSystemTintForNull)
 {
     TQMore::sendFeedbackEmail(std::nullopt, message);
     EXPECT_TRUE(platform->calls.filter(QStringLiteral("Tint")).isEmpty());
     EXPECT_TRUE(platform->calls.contains(QStringLiteral("composer.appear()")));
 }
 
-TEST_F(FeedbackEmail, AMessageWithPlainLineBreaksIsPassedOnUnchangedAsHtml)
+TEST_F(TQMoreFeedbackEmail, PassesTheMessageOnAsHtml)
 {
     TQMore::sendFeedbackEmail(std::nullopt, QStringLiteral("one\ntwo\r\n\r\n<three"));
     EXPECT_TRUE(platform->calls.contains(QStringLiteral("composer.setMessageBody(one\ntwo\r\n\r\n<three, html)")));
 }
 
-TEST_F(FeedbackEmail, TheSubjectIsBuiltAtEachCall)
+TEST_F(TQMoreFeedbackEmail, BuildsTheSubjectAtEachCall)
 {
     EXPECT_EQ(subject(), QStringLiteral("composer.setSubject(Contact: Hazel Grid 2.3.1(57))"));
     platform->infoDictionary.insert(QStringLiteral("CFBundleVersion"), QStringLiteral("58"));
@@ -88,7 +86,7 @@ TEST_F(FeedbackEmail, TheSubjectIsBuiltAtEachCall)
     EXPECT_EQ(subject(), QStringLiteral("composer.setSubject(Contact:  ())"));
 }
 
-TEST_F(FeedbackEmail, TheSubjectBeginsInTheUsersLanguage)
+TEST_F(TQMoreFeedbackEmail, TranslatesTheSubject)
 {
     Testing::useLanguage("zh-CN");
     EXPECT_EQ(subject(), QStringLiteral("composer.setSubject(联系： Hazel Grid 2.3.1(57))"));
@@ -96,7 +94,7 @@ TEST_F(FeedbackEmail, TheSubjectBeginsInTheUsersLanguage)
     EXPECT_EQ(subject(), QStringLiteral("composer.setSubject(Contact: Hazel Grid 2.3.1(57))"));
 }
 
-TEST_F(FeedbackEmail, WithoutATopViewControllerThereIsNoDelegateAndNothingIsShown)
+TEST_F(TQMoreFeedbackEmail, ShowsNothingWithoutATopController)
 {
     platform->scenes.clear();
     TQMore::sendFeedbackEmail(std::nullopt, message);
@@ -106,7 +104,7 @@ TEST_F(FeedbackEmail, WithoutATopViewControllerThereIsNoDelegateAndNothingIsShow
     EXPECT_TRUE(platform->mailComposer.expired());
 }
 
-TEST_F(FeedbackEmail, WhereMailCannotBeSentTheSystemOpensTheContactPage)
+TEST_F(TQMoreFeedbackEmail, OpensTheContactPageWithoutMail)
 {
     platform->mailCanBeSent = false;
     TQMore::sendFeedbackEmail(Color::systemRed(), message);
@@ -116,15 +114,15 @@ TEST_F(FeedbackEmail, WhereMailCannotBeSentTheSystemOpensTheContactPage)
     EXPECT_TRUE(platform->mailComposer.expired());
 }
 
-TEST_F(FeedbackEmail, WhereMailCannotBeSentTheTopViewControllerIsReadOnce)
+TEST_F(TQMoreFeedbackEmail, ReadsTheTopControllerOnceWithoutMail)
 {
     platform->mailCanBeSent = false;
     TQMore::sendFeedbackEmail(std::nullopt, message);
     EXPECT_EQ(platform->calls.count(QStringLiteral("connectedScenes()")), 1);
 }
 
-// A library's bundle whose English table leads the contact page to a text that is no URL.
-TEST_F(FeedbackEmail, WhereThePageIsTranslatedIntoNoUrlNothingHappens)
+// A bundle whose English table translates the contact page into a text that is not a URL.
+TEST_F(TQMoreFeedbackEmail, IgnoresAContactPageThatIsNoUrl)
 {
     const QTemporaryDir bundle;
     ASSERT_TRUE(QDir(bundle.path()).mkdir(QStringLiteral("Translations")));
@@ -142,45 +140,6 @@ TEST_F(FeedbackEmail, WhereThePageIsTranslatedIntoNoUrlNothingHappens)
     TQMore::sendFeedbackEmail(std::nullopt, message);
     EXPECT_EQ(TQMore::feedbackUrl(), QStringLiteral("not a URL"));
     EXPECT_EQ(platform->calls.last(), QStringLiteral("canSendMail()"));
-}
-
-TEST_F(FeedbackEmail, WhateverTheResultTheDelegateDismissesTheComposer)
-{
-    for (const Result result : {Result::cancelled, Result::saved, Result::sent, Result::failed}) {
-        TQMore::sendFeedbackEmail(std::nullopt, message);
-        const auto composer = platform->mailComposer.lock();
-        composer->delegate.lock()->mailComposeController(composer.get(), result, QStringLiteral("words"));
-        EXPECT_EQ(platform->calls.last(), QStringLiteral("composer.disappear()"));
-        EXPECT_EQ(TQMore::topViewController(), ViewController::rootOf(&window));
-    }
-}
-
-TEST_F(FeedbackEmail, ADelegateDismissesAComposerThatAnotherControllerPresents)
-{
-    const auto presenter = std::make_shared<ViewController>();
-    const auto delegate = std::make_shared<ViewController>();
-    const auto composer = platform->makeMailComposer();
-    presenter->present(composer);
-    delegate->mailComposeController(composer.get(), Result::cancelled, {});
-    EXPECT_EQ(presenter->presentedViewController(), nullptr);
-    EXPECT_EQ(platform->calls.last(), QStringLiteral("composer.disappear()"));
-}
-
-TEST_F(FeedbackEmail, ADelegateThatIsGivenNoComposerDoesNothing)
-{
-    ViewController().mailComposeController(nullptr, Result::sent, {});
-    EXPECT_EQ(platform->calls, QStringList());
-}
-
-TEST_F(FeedbackEmail, EveryControllerCanBeToldThroughItsMetaObject)
-{
-    TQMore::sendFeedbackEmail(std::nullopt, message);
-    const auto composer = platform->mailComposer.lock();
-    ViewController other;
-    EXPECT_TRUE(QMetaObject::invokeMethod(
-        &other, "mailComposeController", Q_ARG(TQFoundation::MailComposer *, composer.get()),
-        Q_ARG(TQFoundation::ViewController::MailComposeResult, Result::sent), Q_ARG(QString, QString())));
-    EXPECT_EQ(platform->calls.last(), QStringLiteral("composer.disappear()"));
 }
 
 } // namespace

@@ -14,16 +14,16 @@ namespace {
 const QString filingSite = QStringLiteral("https://beian.miit.gov.cn");
 const Color tint = Color::systemRed();
 
-class OpenUrl : public testing::Test
+class TQMoreOpenUrl : public testing::Test
 {
 protected:
-    OpenUrl()
+    TQMoreOpenUrl()
     {
         platform->storefront = QStringLiteral("CHN");
         platform->scenes = Testing::keyScene(&window);
     }
 
-    // What a link leads to, without the question of the region.
+    // The platform calls that open a link, without that for the region.
     QStringList callsFor(const QString &urlString, const std::optional<Color> &color = tint)
     {
         TQMore::openUrl(urlString, color);
@@ -38,7 +38,7 @@ protected:
     QQuickWindow window;
 };
 
-TEST_F(OpenUrl, InChinaTheFilingSiteOpensInTheAppInAFixedOrderOfSteps)
+TEST_F(TQMoreOpenUrl, OpensTheFilingSiteInTheInAppBrowser)
 {
     EXPECT_EQ(callsFor(filingSite),
               (QStringList{QStringLiteral("makeInAppBrowser(https://beian.miit.gov.cn)"),
@@ -49,20 +49,20 @@ TEST_F(OpenUrl, InChinaTheFilingSiteOpensInTheAppInAFixedOrderOfSteps)
     EXPECT_EQ(TQMore::topViewController(), platform->inAppBrowser.lock());
 }
 
-TEST_F(OpenUrl, TheRegionIsAskedForBeforeAnythingIsMade)
+TEST_F(TQMoreOpenUrl, ReadsTheRegionFirst)
 {
     TQMore::openUrl(filingSite, tint);
     EXPECT_EQ(platform->calls.first(), QStringLiteral("storefrontCountryCode()"));
 }
 
-TEST_F(OpenUrl, WithoutATopViewControllerTheBrowserIsDropped)
+TEST_F(TQMoreOpenUrl, DropsTheBrowserWithoutATopController)
 {
     platform->scenes.clear();
     EXPECT_EQ(callsFor(filingSite).last(), QStringLiteral("connectedScenes()"));
     EXPECT_TRUE(platform->inAppBrowser.expired());
 }
 
-TEST_F(OpenUrl, TheBrowserIsPresentedOnWhatIsPresentedLast)
+TEST_F(TQMoreOpenUrl, PresentsTheBrowserOnTheTopController)
 {
     const auto sheet = std::make_shared<ViewController>();
     ViewController::rootOf(&window)->present(sheet);
@@ -71,7 +71,7 @@ TEST_F(OpenUrl, TheBrowserIsPresentedOnWhatIsPresentedLast)
     EXPECT_EQ(sheet->presentedViewController(), platform->inAppBrowser.lock());
 }
 
-TEST_F(OpenUrl, TheBrowserBelongsToWhatPresentsIt)
+TEST_F(TQMoreOpenUrl, LeavesTheBrowserToItsPresenter)
 {
     TQMore::openUrl(filingSite, tint);
     EXPECT_FALSE(platform->inAppBrowser.expired());
@@ -80,12 +80,12 @@ TEST_F(OpenUrl, TheBrowserBelongsToWhatPresentsIt)
     EXPECT_EQ(platform->calls.last(), QStringLiteral("browser.disappear()"));
 }
 
-TEST_F(OpenUrl, TheFilingSiteWithATrailingSlashIsOpenedByTheSystem)
+TEST_F(TQMoreOpenUrl, OpensTheSiteWithTrailingSlashExternally)
 {
     EXPECT_EQ(callsFor(filingSite + u'/'), systemOpens(filingSite + u'/'));
 }
 
-TEST_F(OpenUrl, TheFilingSiteSpelledOtherwiseIsOpenedByTheSystem)
+TEST_F(TQMoreOpenUrl, OpensOtherSpellingsOfTheSiteExternally)
 {
     EXPECT_EQ(callsFor(QStringLiteral("https://BEIAN.miit.gov.cn")), systemOpens(filingSite));
     EXPECT_EQ(callsFor(QStringLiteral("HTTPS://beian.miit.gov.cn")), systemOpens(filingSite));
@@ -94,24 +94,24 @@ TEST_F(OpenUrl, TheFilingSiteSpelledOtherwiseIsOpenedByTheSystem)
     EXPECT_EQ(callsFor(filingSite + u"#"), systemOpens(filingSite + u'#'));
 }
 
-TEST_F(OpenUrl, TheFilingSiteWithoutATintIsOpenedByTheSystem)
+TEST_F(TQMoreOpenUrl, OpensTheSiteExternallyWithoutATint)
 {
     EXPECT_EQ(callsFor(filingSite, std::nullopt), systemOpens(filingSite));
 }
 
-TEST_F(OpenUrl, OutsideChinaTheFilingSiteIsOpenedByTheSystem)
+TEST_F(TQMoreOpenUrl, OpensTheSiteExternallyOutsideChina)
 {
     platform->storefront = QStringLiteral("USA");
     EXPECT_EQ(callsFor(filingSite), systemOpens(filingSite));
 }
 
-TEST_F(OpenUrl, WhereTheRegionIsUnknownTheFilingSiteOpensInTheApp)
+TEST_F(TQMoreOpenUrl, OpensTheSiteInTheAppForUnknownRegions)
 {
     platform->storefront = std::nullopt;
     EXPECT_EQ(callsFor(filingSite).first(), QStringLiteral("makeInAppBrowser(https://beian.miit.gov.cn)"));
 }
 
-TEST_F(OpenUrl, EveryOtherLinkIsOpenedByTheSystem)
+TEST_F(TQMoreOpenUrl, OpensOtherLinksExternally)
 {
     for (const QString &url : {TQMore::privacyUrl(), TQMore::feedbackUrl(), TQMore::blogUrl(), TQMore::threadsUrl(),
                                TQMore::moreAppUrl(), QStringLiteral("mailto:support@tqstudio.example")}) {
@@ -120,7 +120,7 @@ TEST_F(OpenUrl, EveryOtherLinkIsOpenedByTheSystem)
     }
 }
 
-TEST_F(OpenUrl, AnEmptyOrMalformedTextDoesNothing)
+TEST_F(TQMoreOpenUrl, IgnoresTextsThatAreNotUrls)
 {
     for (const QString &text :
          {QString(), QStringLiteral(""), QStringLiteral("http://[1"), QStringLiteral("https://a b.example"),

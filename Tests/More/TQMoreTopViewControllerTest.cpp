@@ -14,7 +14,7 @@ namespace {
 using Testing::keyScene;
 using Testing::scene;
 
-class TopViewController : public testing::Test
+class TQMoreTopViewController : public testing::Test
 {
 protected:
     Testing::InstalledRecordingPlatform platform;
@@ -22,19 +22,19 @@ protected:
     QQuickWindow other;
 };
 
-TEST_F(TopViewController, IsTheRootOfTheKeyWindow)
+TEST_F(TQMoreTopViewController, IsTheRootOfTheKeyWindow)
 {
     platform->scenes = {scene(ActivationState::foregroundActive, {&other, &window}, &window)};
     EXPECT_EQ(TQMore::topViewController(), ViewController::rootOf(&window));
     EXPECT_EQ(TQMore::topViewController()->view(), window.contentItem());
 }
 
-TEST_F(TopViewController, IsNullWithoutScenes)
+TEST_F(TQMoreTopViewController, IsNullWithoutScenes)
 {
     EXPECT_EQ(TQMore::topViewController(), nullptr);
 }
 
-TEST_F(TopViewController, OnlyScenesThatAreActiveInTheForegroundCount)
+TEST_F(TQMoreTopViewController, IgnoresInactiveScenes)
 {
     for (const auto state :
          {ActivationState::foregroundInactive, ActivationState::background, ActivationState::unattached}) {
@@ -45,7 +45,7 @@ TEST_F(TopViewController, OnlyScenesThatAreActiveInTheForegroundCount)
     }
 }
 
-TEST_F(TopViewController, ScenesWithoutWindowsOfTheAppsOwnArePassedOver)
+TEST_F(TQMoreTopViewController, IgnoresScenesThatAreNoWindowScenes)
 {
     Scene car = scene(ActivationState::foregroundActive, {&window}, &window);
     car.isWindowScene = false;
@@ -55,28 +55,28 @@ TEST_F(TopViewController, ScenesWithoutWindowsOfTheAppsOwnArePassedOver)
     EXPECT_EQ(TQMore::topViewController(), ViewController::rootOf(&other));
 }
 
-TEST_F(TopViewController, IsNullWhereTheFirstActiveScenesOnlyWindowIsNotKey)
+TEST_F(TQMoreTopViewController, IsNullIfTheFirstSceneHasNoKeyWindow)
 {
     platform->scenes = {scene(ActivationState::foregroundActive, {&window}),
                         scene(ActivationState::foregroundActive, {&other}, &other)};
     EXPECT_EQ(TQMore::topViewController(), nullptr);
 }
 
-TEST_F(TopViewController, OfSeveralKeyWindowsTheFirstCounts)
+TEST_F(TQMoreTopViewController, UsesTheFirstOfSeveralKeyWindows)
 {
     platform->scenes = keyScene(&window) + keyScene(&other);
     platform->scenes[0].windows += platform->scenes[1].windows;
     EXPECT_EQ(TQMore::topViewController(), ViewController::rootOf(&window));
 }
 
-TEST_F(TopViewController, AKeyWindowThatIsNotOfQtQuickHasNone)
+TEST_F(TQMoreTopViewController, IsNullForAWindowWithoutQtQuick)
 {
     QWindow plain;
     platform->scenes = keyScene(&plain);
     EXPECT_EQ(TQMore::topViewController(), nullptr);
 }
 
-TEST_F(TopViewController, AWindowThatHasGoneIsNone)
+TEST_F(TQMoreTopViewController, IsNullForADestroyedWindow)
 {
     {
         QQuickWindow gone;
@@ -85,7 +85,7 @@ TEST_F(TopViewController, AWindowThatHasGoneIsNone)
     EXPECT_EQ(TQMore::topViewController(), nullptr);
 }
 
-TEST_F(TopViewController, FollowsTheChainOfPresentationsToItsEnd)
+TEST_F(TQMoreTopViewController, FollowsTheChainOfPresentations)
 {
     platform->scenes = keyScene(&window);
     const auto a = std::make_shared<ViewController>();
@@ -98,7 +98,7 @@ TEST_F(TopViewController, FollowsTheChainOfPresentationsToItsEnd)
     EXPECT_EQ(TQMore::topViewController(), a);
 }
 
-TEST_F(TopViewController, EntersNoContainers)
+TEST_F(TQMoreTopViewController, EntersNoContainers)
 {
     platform->scenes = keyScene(&window);
     QQuickItem page(window.contentItem());
@@ -106,7 +106,7 @@ TEST_F(TopViewController, EntersNoContainers)
     EXPECT_EQ(TQMore::topViewController()->view(), window.contentItem());
 }
 
-TEST_F(TopViewController, IsLookedUpAtEachCall)
+TEST_F(TQMoreTopViewController, IsLookedUpAtEachCall)
 {
     platform->scenes = keyScene(&window);
     const auto first = TQMore::topViewController();

@@ -1,0 +1,66 @@
+#include "LibraryEngine.h"
+
+#include <QtCore/qfile.h>
+#include <QtCore/qpointer.h>
+#include <QtCore/qtemporarydir.h>
+#include <QtQml/qjsengine.h>
+#include <QtQuick/qquickitem.h>
+#include <QtQuick/qquickwindow.h>
+
+#include <gtest/gtest.h>
+
+namespace TQFoundation {
+namespace {
+
+class LibraryEngine : public testing::Test
+{
+protected:
+    QString write(const QByteArray &qml) const
+    {
+        const QString path = folder.filePath(QStringLiteral("Nib.qml"));
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("import QtQuick\n" + qml);
+        return path;
+    }
+
+    const QTemporaryDir folder;
+};
+
+TEST_F(LibraryEngine, CreatesAnObjectWithInitialProperties)
+{
+    const auto object = makeFromNib(write("Item { required property int number }"), {{QStringLiteral("number"), 7}});
+    ASSERT_TRUE(object);
+    EXPECT_EQ(object->property("number"), QVariant(7));
+    EXPECT_EQ(QJSEngine::objectOwnership(object.get()), QJSEngine::CppOwnership);
+}
+
+TEST_F(LibraryEngine, ReturnsNullForMissingOrBrokenFiles)
+{
+    EXPECT_FALSE(makeFromNib(QStringLiteral("/no/such.qml")));
+    EXPECT_FALSE(makeFromNib(QStringLiteral(":/no/such.qml")));
+    EXPECT_FALSE(makeFromNib(write("Item {")));
+}
+
+TEST_F(LibraryEngine, FindsQmlModulesByFolder)
+{
+    EXPECT_TRUE(hasQmlModule(QStringLiteral("QtQuick")));
+    EXPECT_TRUE(hasQmlModule(QStringLiteral("TQFoundation"))) << "in a resource";
+    EXPECT_FALSE(hasQmlModule(QStringLiteral("No/Such")));
+}
+
+TEST_F(LibraryEngine, DeletesInTheEventLoop)
+{
+    QObject *const scope = applicationScope();
+    QQuickWindow window;
+    const QPointer<QQuickItem> item = new QQuickItem(window.contentItem());
+    deferredDelete(item);
+    ASSERT_TRUE(item);
+    EXPECT_EQ(item->parentItem(), nullptr);
+    EXPECT_EQ(item->parent(), scope);
+    QCoreApplication::sendPostedEvents(item, QEvent::DeferredDelete);
+    EXPECT_FALSE(item);
+}
+
+} // namespace
+} // namespace TQFoundation

@@ -1,0 +1,29 @@
+#include "QmlWindow.h"
+#include "RecordingPlatform.h"
+
+#include <TQFoundation/TQApp.h>
+
+namespace TQFoundation {
+namespace {
+
+using Testing::InstalledRecordingPlatform;
+using Testing::QmlWindow;
+
+TEST(TQAppIcon, ShowsTheIconOfAnyApp)
+{
+    const InstalledRecordingPlatform platform;
+    const QmlWindow host("TQAppIcon { property int changes: 0; app: TQApp.birch; onAppChanged: ++changes }");
+    EXPECT_EQ(host.item->size(), QSizeF(36, 36));
+    EXPECT_FALSE(host.item->property("empty").toBool());
+    const auto picture = [&] { return const_cast<QQuickWindow &>(host.window).grabWindow(); };
+    const QImage birch = picture();
+    const int changes = host.item->property("changes").toInt();
+    host.item->setProperty("app", QVariant::fromValue(TQApp(TQApp::birch)));
+    EXPECT_EQ(host.item->property("changes"), QVariant(changes));
+    host.item->setProperty("app", QVariant::fromValue(TQApp(TQApp::fir)));
+    EXPECT_EQ(host.item->property("changes"), QVariant(changes + 1));
+    EXPECT_NE(picture(), birch);
+}
+
+} // namespace
+} // namespace TQFoundation

@@ -12,8 +12,8 @@ namespace TQFoundation {
 
 class RepeatingTimer;
 
-/// What the browser's sheet BrowserSheet.qml asks and tells: the page to begin with, what a page may do, and what the
-/// user is told when one does not come.
+/// The object behind BrowserSheet.qml: the first page, the rules for links, and the error message for a page that
+/// cannot be shown. GUI thread only.
 class BrowserPage : public QObject
 {
     Q_OBJECT
@@ -23,68 +23,65 @@ class BrowserPage : public QObject
     Q_PROPERTY(QUrl url MEMBER url CONSTANT FINAL)
     Q_PROPERTY(TQFoundation::BrowserPage::Problem problem READ problem NOTIFY problemChanged FINAL)
     Q_PROPERTY(QString problemText READ problemText NOTIFY problemChanged FINAL)
-    Q_PROPERTY(QString closeText READ closeText CONSTANT FINAL)
-    Q_PROPERTY(QString backText READ backText CONSTANT FINAL)
-    Q_PROPERTY(QString reloadText READ reloadText CONSTANT FINAL)
-    Q_PROPERTY(QString againText READ againText CONSTANT FINAL)
 
 public:
+    /// Why a page cannot be shown, or not in full.
     enum Problem {
         NoProblem,
-        Unreachable, ///< Nothing was loaded: offline, no such host, refused, broken off.
-        Insecure, ///< The site could not prove that it is the one that the address names.
-        Crashed, ///< The process that shows the page has gone.
-        Slow ///< Loading took longer than `patience` and was stopped.
+        Unreachable, ///< Nothing was loaded: offline, unknown host, connection refused or lost.
+        Insecure, ///< The certificate of the site is not valid.
+        Crashed, ///< The render process of the page has ended.
+        TimedOut ///< The page was still loading after `timeout`.
     };
     Q_ENUM(Problem)
 
     /// How long a page may take to load, in seconds.
-    static constexpr double patience = 30;
+    static constexpr double timeout = 30;
 
     using QObject::QObject;
+
+    /// Cancels the timeout.
     ~BrowserPage() override;
 
-    Color tint = Color::systemBlue();
-    QUrl url;
+    Color tint = Color::systemBlue(); ///< The colour of the sheet's buttons. Set it before the sheet is opened.
+    QUrl url; ///< The first page. Set it before the sheet is opened.
 
+    /// The problem of the page that was requested last.
     Problem problem() const { return m_problem; }
 
-    /// The problem in words for the user; empty without one.
+    /// The error message for the user, in the user's language. Empty without a problem.
     QString problemText() const;
 
-    /// Whether a page may lead to \a target: to other web pages, and to nothing else. Frames inside of it may also show
-    /// what the page itself made.
-    Q_INVOKABLE bool mayOpen(const QUrl &target, bool isMainFrame) const;
+    /// Whether a page may navigate to \a target. The main frame may show http and https only; other frames may also
+    /// show what the page itself generates: about, blob and data URLs.
+    Q_INVOKABLE bool canOpen(const QUrl &target, bool isMainFrame) const;
 
-    /// Who shows the page at \a shown: its host, in the spelling of the domain name system, which no other site's name
-    /// can look like; with what is unusual about it, that is a port, or a connection that is not secure.
+    /// The host of \a shown, in ASCII (Punycode), so that it cannot resemble the name of another site. A port follows
+    /// unless it is the default; "http://" precedes if the connection is not encrypted. Empty if \a shown is not a web
+    /// page.
     Q_INVOKABLE QString siteOf(const QUrl &shown) const;
 
-    /// A page begins to load: forgets the problem of the one before.
+    /// Call it when a page starts to load. Clears the problem and starts the timeout.
     Q_INVOKABLE void beginLoading();
 
-    /// The page has been loaded, or what there is of it.
+    /// Call it when a page has loaded or loading was stopped. Cancels the timeout.
     Q_INVOKABLE void endLoading();
 
-    /// The page cannot be shown. The first problem of a page counts.
+    /// Cancels the timeout and sets the problem. Only the first problem of a page counts; later ones are ignored.
     Q_INVOKABLE void fail(TQFoundation::BrowserPage::Problem problem);
 
-    static QString closeText();
-    static QString backText();
-    static QString reloadText();
-    static QString againText();
-
 Q_SIGNALS:
+    /// Emitted when problem() and with it problemText() has changed.
     void problemChanged();
 
-    /// The user closes the browser.
+    /// Emitted by the sheet when the user closes the browser.
     void closed();
 
 private:
     void setProblem(Problem problem);
 
     Problem m_problem = NoProblem;
-    std::shared_ptr<RepeatingTimer> m_bound;
+    std::shared_ptr<RepeatingTimer> m_timer; // null unless a page is loading
 };
 
 } // namespace TQFoundation

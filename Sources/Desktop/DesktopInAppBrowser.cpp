@@ -14,17 +14,17 @@
 namespace TQFoundation {
 namespace {
 
-// The web view shares its pictures through OpenGL, which has to be said before there is an application, and would end
-// the process otherwise.
-[[maybe_unused]] const bool sharesContexts = [] {
+// Qt WebEngine aborts the process without shared OpenGL contexts, which must be requested before the application
+// exists.
+[[maybe_unused]] const bool isContextSharingRequested = [] {
     if (QCoreApplication::instance())
         return false;
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     return true;
 }();
 
-// The web view's sandbox ends the process of a superuser, who has to renounce it.
-bool runsWithoutItsSandbox()
+// Qt WebEngine exits if the sandbox is enabled and the user is root.
+bool isSandboxImpossible()
 {
 #ifdef Q_OS_UNIX
     return geteuid() == 0 && qgetenv("QTWEBENGINE_DISABLE_SANDBOX") != "1";
@@ -33,10 +33,10 @@ bool runsWithoutItsSandbox()
 #endif
 }
 
-// Asked of the context itself, because the attribute may have been set too late.
+// The application attribute is no proof of a shared context: it may have been set too late.
 bool canShowPages()
 {
-    return QOpenGLContext::globalShareContext() && !runsWithoutItsSandbox()
+    return QOpenGLContext::globalShareContext() && !isSandboxImpossible()
         && hasQmlModule(QStringLiteral("QtWebEngine"));
 }
 
@@ -74,8 +74,8 @@ void DesktopInAppBrowser::disappear()
 
 void DesktopInAppBrowser::close()
 {
-    // Dismissing lets go of the browser.
-    const auto alive = weak_from_this().lock();
+    // Dismissing may release the last other reference.
+    const auto self = weak_from_this().lock();
     dismiss();
 }
 

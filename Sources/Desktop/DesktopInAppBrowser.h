@@ -9,25 +9,31 @@
 
 namespace TQFoundation {
 
-/// The browser of a desktop: a sheet with the web view of Qt WebEngine, which is loaded when the browser is first
-/// shown. Where that cannot be had, the page is handed to the system instead. It keeps nothing of what was seen: no
-/// cookies, no cache, no history. Its look is the same in every style.
+/// The in-app browser of desktops: a sheet with the web view of Qt WebEngine. The engine is loaded when a browser is
+/// first presented. If it is missing or cannot run, the page opens in the system's browser instead. Cookies, cache and
+/// history are kept in memory and deleted with the sheet. GUI thread only.
 class DesktopInAppBrowser final : public InAppBrowser, public std::enable_shared_from_this<DesktopInAppBrowser>
 {
     Q_OBJECT
 
 public:
+    /// A browser for \a url, owned by a shared pointer. Loads nothing yet.
     explicit DesktopInAppBrowser(const QUrl &url);
 
+    /// Sets the colour of the buttons. It is adjusted until it is legible on the sheet. Blue by default.
     void setPreferredControlTintColor(const Color &color) override;
+    /// Ignored: the button is an icon, named "Close" for screen readers.
     void setDismissButtonStyle(DismissButtonStyle style) override;
+    /// Ignored: the browser is always a sheet.
     void setModalPresentationStyle(ModalPresentationStyle style) override;
 
 protected:
+    /// Opens the sheet over \a window. If that fails, dismisses the browser and opens the page in the system's browser.
     void appear(QQuickWindow *window) override;
     void disappear() override;
 
 private:
+    // Dismisses the browser as the user does.
     void close();
 
     QUrl m_url;

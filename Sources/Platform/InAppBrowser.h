@@ -6,14 +6,14 @@
 
 namespace TQFoundation {
 
-/// The system's browser for one web page inside the app. It loads nothing before it is presented, and takes itself away
-/// when the user closes it. Main thread only.
+/// The system's in-app browser for one web page. It loads nothing before it is presented, and dismisses itself when the
+/// user closes it. GUI thread only.
 class TQFOUNDATION_EXPORT InAppBrowser : public ViewController
 {
     Q_OBJECT
 
 public:
-    /// What the button that closes the browser says.
+    /// The label of the button that closes the browser.
     enum class DismissButtonStyle { done, close, cancel };
     Q_ENUM(DismissButtonStyle)
 
@@ -23,12 +23,13 @@ public:
 
     using ViewController::ViewController;
 
-    /// What the browser's own buttons are painted in.
+    /// Sets the colour of the browser's own buttons. Call it before the browser is presented.
     virtual void setPreferredControlTintColor(const Color &color) = 0;
 
-    /// What the button that closes the browser says. Set it before the browser is presented.
+    /// Sets the label of the button that closes the browser. Call it before the browser is presented.
     virtual void setDismissButtonStyle(DismissButtonStyle style) = 0;
-    /// How much of the window the browser covers. Set it before the browser is presented.
+
+    /// Sets how much of the window the browser covers. Call it before the browser is presented.
     virtual void setModalPresentationStyle(ModalPresentationStyle style) = 0;
 };
 

@@ -1,5 +1,7 @@
-"""A mail server on the loopback, for the tests. Prints its port and then, as JSON, each mail as it came; a "connected"
-for each client where it never answers. The mode is accept, reject or silent."""
+"""Local mail server for the tests. Usage: smtp_server.py MODE
+
+Prints one JSON object a line: its port, then each mail. MODE is accept, reject (every recipient is refused) or silent:
+then it never answers, and prints "connected" for each client instead. Runs until its standard input is closed."""
 
 import asyncio
 import email
@@ -13,8 +15,8 @@ from aiosmtpd.smtp import SMTP
 mode = sys.argv[1]
 
 
-def say(**what):
-    print(json.dumps(what), flush=True)
+def report(**values):
+    print(json.dumps(values), flush=True)
 
 
 class Mails:
@@ -26,18 +28,18 @@ class Mails:
 
     async def handle_DATA(self, server, session, envelope):
         message = email.message_from_bytes(envelope.original_content)
-        say(to=envelope.rcpt_tos,
-            header_to=[a for _, a in email.utils.getaddresses(message.get_all("To", []) + message.get_all("Cc", [])
-                                                              + message.get_all("Bcc", []))],
-            sender=email.utils.parseaddr(message["From"])[1],
-            subject=str(email.header.make_header(email.header.decode_header(message["Subject"]))),
-            type=message.get_content_type(),
-            html=message.get_payload(decode=True).decode("utf-8"))
+        report(to=envelope.rcpt_tos,
+               header_to=[a for _, a in email.utils.getaddresses(message.get_all("To", []) + message.get_all("Cc", [])
+                                                                 + message.get_all("Bcc", []))],
+               sender=email.utils.parseaddr(message["From"])[1],
+               subject=str(email.header.make_header(email.header.decode_header(message["Subject"]))),
+               type=message.get_content_type(),
+               html=message.get_payload(decode=True).decode("utf-8"))
         return "250 OK"
 
 
 async def never_answer(reader, writer):
-    say(connected=True)
+    report(connected=True)
     await reader.read()
 
 
@@ -47,8 +49,8 @@ async def serve():
         server = await asyncio.start_server(never_answer, "127.0.0.1", 0)
     else:
         server = await loop.create_server(lambda: SMTP(Mails(), loop=loop), "127.0.0.1", 0)
-    say(port=server.sockets[0].getsockname()[1])
-    # Whoever started it is done when the input ends.
+    report(port=server.sockets[0].getsockname()[1])
+    # The test closes the input when it ends.
     await loop.run_in_executor(None, sys.stdin.read)
 
 

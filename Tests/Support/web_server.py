@@ -1,16 +1,16 @@
-"""A web server on the loopback, for the tests. Prints its ports, first the plain and then the secure one, whose
-certificate nobody has signed; given a folder, keeps key and certificate there. The pages are named by what they do."""
+"""Local web server for the tests. Usage: web_server.py FOLDER
+
+Prints two ports, for HTTP and for HTTPS with a self-signed certificate, and runs until its standard input is closed.
+Key and certificate are written to FOLDER. Each path is named after the behaviour of its page."""
 
 import http.server
 import pathlib
-import socket
 import ssl
 import subprocess
 import sys
 import threading
 
 folder = pathlib.Path(sys.argv[1])
-asked = {}
 
 PAGES = {
     "/": "<title>Bank of Anywhere</title><h1>Filing</h1><p>A page.",
@@ -55,29 +55,23 @@ class Pages(http.server.BaseHTTPRequestHandler):
         self.wfile.write(data)
 
     def do_GET(self):
-        asked[self.path] = asked.get(self.path, 0) + 1
         if self.path in PAGES:
             self.answer(PAGES[self.path])
         elif self.path == "/silent":
-            done.wait()
+            stopped.wait()
         elif self.path == "/endless":
             self.send_response(200)
             self.send_header("Content-Type", "text/html")
             self.end_headers()
             try:
                 self.wfile.write(b"<title>endless</title>" + b"<p>more and more of the page" * 200)
-                while not done.wait(0.1):
+                while not stopped.wait(0.1):
                     self.wfile.write(b"<p>more and more of the page")
             except OSError:
                 pass
         elif self.path == "/slow":
-            done.wait(0.5)
+            stopped.wait(0.5)
             self.answer("<title>slow</title><p>At last.")
-        elif self.path == "/second-time":
-            if asked[self.path] == 1:
-                self.connection.shutdown(socket.SHUT_RDWR)
-            else:
-                self.answer("<title>second time</title><p>Here.")
         elif self.path == "/empty-error":
             self.answer("", 500)
         elif self.path == "/not-found":
@@ -101,7 +95,7 @@ class Server(http.server.ThreadingHTTPServer):
         pass
 
 
-done = threading.Event()
+stopped = threading.Event()
 subprocess.run(["openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", "-subj", "/CN=127.0.0.1",
                 "-keyout", folder / "key.pem", "-out", folder / "certificate.pem"], check=True, capture_output=True)
 context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
@@ -111,6 +105,6 @@ secure.socket = context.wrap_socket(secure.socket, server_side=True)
 for server in (plain, secure):
     threading.Thread(target=server.serve_forever, daemon=True).start()
 print(plain.server_port, secure.server_port, flush=True)
-# Whoever started it is done when the input ends.
+# The test closes the input when it ends.
 sys.stdin.read()
-done.set()
+stopped.set()

@@ -1,0 +1,115 @@
+import QtQuick
+import QtWebEngine
+import TQFoundation
+
+// The web view of the in-app browser. Reports loading and problems to its BrowserPage, and denies whatever a page
+// requests of the user or the device.
+WebEngineView {
+    id: root
+
+    required property BrowserPage page
+
+    readonly property bool hasContent: contentsSize.height > 0
+    // The page that is shown, or would be if it had loaded.
+    property url requestedUrl: page.url
+
+    // Reloads the page, or loads the requested one if it is not shown.
+    function load() {
+        if (page.problem === BrowserPage.NoProblem && hasContent)
+            reload();
+        else
+            url = requestedUrl;
+    }
+
+    // Keeps nothing on disk. Refuses downloads, because nothing accepts them.
+    readonly property WebEngineProfile privateProfile: WebEngineProfile {
+        offTheRecord: true
+    }
+
+    // Replaces the server's error page if it is empty. The web view reports the error before it has received the text.
+    readonly property Timer errorPageCheck: Timer {
+        interval: 700
+        onTriggered: {
+            root.page.endLoading();
+            root.runJavaScript("document.documentElement.innerText.trim() === ''", isEmpty => {
+                if (isEmpty && !root.loading)
+                    root.page.fail(BrowserPage.Unreachable);
+            });
+        }
+    }
+
+    readonly property Connections timeout: Connections {
+        target: root.page
+
+        function onProblemChanged() {
+            if (root.page.problem === BrowserPage.TimedOut)
+                root.stop();
+        }
+    }
+
+    profile: privateProfile
+    // The default of web pages that set no colours of their own.
+    backgroundColor: "#ffffff"
+    settings {
+        errorPageEnabled: false
+        fullScreenSupportEnabled: false
+        javascriptCanOpenWindows: false
+        localContentCanAccessFileUrls: false
+        navigateOnDropEnabled: false
+        pluginsEnabled: false
+        unknownUrlSchemePolicy: WebEngineSettings.DisallowUnknownUrlSchemes
+    }
+
+    onLoadingChanged: info => {
+        errorPageCheck.stop();
+        if (info.status === WebEngineView.LoadStartedStatus) {
+            requestedUrl = info.url;
+            page.beginLoading();
+        } else if (info.status === WebEngineView.LoadFailedStatus && info.errorDomain === WebEngineLoadingInfo.HttpStatusCodeDomain)
+            errorPageCheck.restart();
+        else if (info.status === WebEngineView.LoadFailedStatus)
+            page.fail(info.errorDomain === WebEngineView.CertificateErrorDomain ? BrowserPage.Insecure : BrowserPage.Unreachable);
+        else if (info.status === WebEngineView.LoadStoppedStatus && !hasContent)
+            page.fail(BrowserPage.Unreachable);
+        else
+            page.endLoading();
+    }
+    onRenderProcessTerminated: page.fail(BrowserPage.Crashed)
+    onNavigationRequested: request => {
+        if (page.canOpen(request.url, request.isMainFrame))
+            request.accept();
+        else
+            request.reject();
+    }
+    onNewWindowRequested: request => {
+        if (request.userInitiated && page.canOpen(request.requestedUrl, true))
+            url = request.requestedUrl;
+    }
+
+    onAuthenticationDialogRequested: request => {
+        request.accepted = true;
+        request.dialogReject();
+    }
+    onCertificateError: error => error.rejectCertificate()
+    onColorDialogRequested: request => {
+        request.accepted = true;
+        request.dialogReject();
+    }
+    onContextMenuRequested: request => request.accepted = true
+    onFeaturePermissionRequested: (securityOrigin, feature) => grantFeaturePermission(securityOrigin, feature, false)
+    onFileDialogRequested: request => {
+        request.accepted = true;
+        request.dialogReject();
+    }
+    onFileSystemAccessRequested: request => request.reject()
+    onJavaScriptConsoleMessage: {}
+    onJavaScriptDialogRequested: request => {
+        request.accepted = true;
+        request.dialogReject();
+    }
+    onQuotaRequested: request => request.reject()
+    onRegisterProtocolHandlerRequested: request => request.reject()
+    onSelectClientCertificate: selection => selection.selectNone()
+    onTooltipRequested: request => request.accepted = true
+    onTouchSelectionMenuRequested: request => request.accepted = true
+}

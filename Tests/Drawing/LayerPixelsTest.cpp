@@ -1,10 +1,15 @@
 #include "CountedWindow.h"
+#include "DriftPath.h"
 #include "LayerItem.h"
 #include "RecordingPlatform.h"
 #include "StrokeReference.h"
 
 #include <QtGui/qscreen.h>
 #include <QtGui/qtransform.h>
+
+#include <cstdint>
+#include <random>
+#include <string>
 
 namespace TQFoundation {
 namespace {
@@ -92,6 +97,83 @@ TEST(LayerPixels, MatchesPixelsOfATransformedItem)
     item.setRotation(0);
     item.setPosition({100, 0});
     check(QTransform::fromTranslate(100, 0));
+}
+
+/// The lines that the background draws on a screen of 390 by 844 points, in a reproducible order.
+class DriftLines
+{
+public:
+    Path next() { return driftPath(getTransitPoints(screen, m_source), screen, m_source); }
+
+private:
+    static constexpr DriftScreen screen{390, 844};
+
+    std::int64_t draw(std::int64_t lowest, std::int64_t highest)
+    {
+        return std::uniform_int_distribution(lowest, highest)(m_random);
+    }
+
+    std::mt19937_64 m_random{17};
+    const RandomSource m_source{[this] { return static_cast<std::uint32_t>(draw(0, 3)); },
+                                [this] { return draw(195, 390); },
+                                [this] { return draw(0, 195); },
+                                [this] { return draw(0, 422); },
+                                [this] { return draw(422, 844); },
+                                [this](std::int64_t lowest, std::int64_t highest) -> IntegerSource {
+                                    return [this, lowest, highest] { return draw(lowest, highest); };
+                                }};
+};
+
+// AnimationView documents the bounds for the GPU. TQ_PIXEL_LINES sets the number of lines.
+TEST(LayerPixels, MatchesTheLinesOfTheBackground)
+{
+    const InstalledRecordingPlatform platform;
+    platform->records = false;
+    CountedWindow window;
+    const bool isExact = window.rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
+    const double scale = window.effectiveDevicePixelRatio();
+    LayerItem item(window.contentItem());
+    item.setTransformOrigin(QQuickItem::TopLeft);
+    DriftLines lines;
+    const int count = qEnvironmentVariable("TQ_PIXEL_LINES", QStringLiteral("24")).toInt();
+    // Plain, rotated, moved by parts of a pixel, and turned by half a turn.
+    struct Pose
+    {
+        QPointF position;
+        double rotation;
+        double scale;
+        int wrongLines = 0;
+    };
+    Pose poses[] = {{{0, 0}, 0, 1},    {{0, 0}, 0, 1},       {{60, 0}, 7, 1},
+                    {{300, 0}, 30, 1}, {{40.25, 9.5}, 0, 1}, {{390, 844}, 0, -1}};
+    for (int round = 0; round < count; ++round) {
+        ShapeLayer layer;
+        layer.path = lines.next();
+        layer.lineWidth = 2;
+        layer.strokeColor = {0, 0, 0, 0.2F};
+        Pose &pose = poses[static_cast<std::size_t>(round) % std::size(poses)];
+        item.setLayer(layer);
+        item.setPosition(pose.position);
+        item.setRotation(pose.rotation);
+        item.setScale(pose.scale);
+        const QTransform transform = QTransform::fromTranslate(pose.position.x(), pose.position.y())
+                                         .rotate(pose.rotation)
+                                         .scale(pose.scale, pose.scale);
+        const QImage shown = window.grabWindow();
+        const std::string wrong =
+            Testing::differences(moved(layer.path, transform), 1, scale, shown.width(), shown.height(),
+                                 [&](int x, int y) { return darkness(shown, x, y); });
+        pose.wrongLines += !wrong.empty();
+        if (isExact) {
+            EXPECT_EQ(wrong, "") << "line " << round;
+        }
+    }
+    for (const Pose &pose : poses) {
+        const double share = pose.wrongLines / (count / static_cast<double>(std::size(poses)));
+        EXPECT_LE(share, count < 1000 ? 0.26 : pose.rotation != 0 ? 0.1 : 0.01) << pose.rotation << ", " << pose.scale;
+        RecordProperty("wrong at " + std::to_string(pose.rotation) + " degrees, scale " + std::to_string(pose.scale),
+                       pose.wrongLines);
+    }
 }
 
 // Runs where CTest gives it two screens, of one and of two pixels a point.

@@ -1,6 +1,6 @@
 // BackgroundKernels KERNEL LINE LOTTIE: draws the 600 frames of a cycle in virtual time into a buffer of 1170 by 2532
-// pixels, several times, and prints one line of JSON: the median CPU time and the sum of alpha of the middle frame. Shows
-// no window. A kernel draws the line of the file LINE or the animation of the file LOTTIE.
+// pixels, several times, and prints one line of JSON: the median CPU time and the sum of alpha of the middle frame. A
+// kernel draws the line of the file LINE or the animation of the file LOTTIE.
 
 #include "Line.h"
 #include "StrokeMask.h"

@@ -32,9 +32,9 @@ benchmark::internal::Benchmark *measure(const char *name, Read read)
     });
 }
 
-constexpr int pixels = 108; // what an icon of 36 points has on this screen
+constexpr int pixels = 108; // side of an icon of 36 points at scale 3
 
-// All icons but hazel's, prepared as TQApp::icon() does, from another folder.
+// All icons except hazel's, from another folder, scaled like TQApp::icon().
 qsizetype prepareRowFrom(const QDir &folder)
 {
     constexpr const char *names[] = {"larch-page", "juniper-page", "ginkgo-page", "fir",       "elm-page",
@@ -88,7 +88,7 @@ int main(int argc, char *argv[])
     measure("versionText", [] { return TQMore::versionText(); });
     measure("localizedInLibrary", [key] { return localizedInLibrary(key); });
     measure("bare QTranslator", [&german] { return german.translate("TQFoundation", "Privacy Policy"); });
-    // The toolkit shares the work on large images out to threads, whose time counts as well.
+    // Qt scales large images on several threads, so the CPU time of the process counts.
     measure("icon row", prepareRow)->MeasureProcessCPUTime();
     measure("icon row of 1024-pixel artwork", [] {
         return prepareRowFrom(QDir(QStringLiteral(LARGE_ICONS)));

@@ -1,14 +1,14 @@
-# Installing, in three parts: what a host needs to run, what it needs to be built, and the QML module for those that do
-# not link the library. cmake/Packages.cmake makes a package of each.
+# Installation in three components: runtime (the shared library), development (headers, CMake and pkg-config files), and
+# qml (the QML module, for hosts that do not link the library). cmake/Packages.cmake makes a package of each.
 
 include(CMakePackageConfigHelpers)
 set(TQFOUNDATION_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/TQFoundation)
-# Below /usr, where Debian's own Qt looks for modules.
+# Below /usr, Debian's Qt searches for modules in qt6/qml.
 set(qml_folder ${CMAKE_INSTALL_LIBDIR}/qml)
 if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
     set(qml_folder ${CMAKE_INSTALL_LIBDIR}/qt6/qml)
 endif()
-set(TQFOUNDATION_INSTALL_QMLDIR ${qml_folder} CACHE STRING "Where QML modules go, below the prefix")
+set(TQFOUNDATION_INSTALL_QMLDIR ${qml_folder} CACHE STRING "Folder of QML modules, relative to the prefix")
 
 install(TARGETS TQFoundation EXPORT TQFoundationTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
@@ -35,14 +35,14 @@ install(FILES
     ${PROJECT_BINARY_DIR}/TQFoundationConfigVersion.cmake
     cmake/TQFoundationHostInfo.cmake
     DESTINATION ${TQFOUNDATION_INSTALL_CMAKEDIR} COMPONENT development)
-# Relative to where the file lies, so that the prefix can move.
+# Relative to the file's own folder, so that the prefix can be moved.
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
     BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/pkgconfig OUTPUT_VARIABLE prefix_from_pkgconfig)
 configure_file(cmake/tqfoundation.pc.in ${PROJECT_BINARY_DIR}/tqfoundation.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/tqfoundation.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 
-# The plugin finds the library from where it lies; one of the system does so by itself.
+# The plugin finds the library relative to its own folder; below /usr the dynamic linker finds it.
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_LIBDIR BASE_DIRECTORY ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation
     OUTPUT_VARIABLE library_from_plugin)
 if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")

@@ -1,4 +1,4 @@
-# Debian packages of the three installed parts. `make packages` builds them; CMAKE_INSTALL_PREFIX is /usr there.
+# Debian packages of the three installed components, for `make packages`, which sets CMAKE_INSTALL_PREFIX to /usr.
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME tqfoundation)
@@ -14,7 +14,7 @@ set(CPACK_COMPONENTS_ALL runtime development qml)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_STRIP_FILES ON)
-# Of folders and files that the packages hold, whatever the mask of whoever builds them.
+# Permissions of packaged folders, independent of the umask of the build.
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
@@ -40,12 +40,12 @@ and a recording platform for the tests of apps.")
 
 set(CPACK_DEBIAN_QML_PACKAGE_NAME qml6-module-tqfoundation)
 set(CPACK_DEBIAN_QML_PACKAGE_SECTION libs)
-# What else it links, the library links too.
+# The library package has all its other dependencies.
 set(CPACK_DEBIAN_QML_PACKAGE_DEPENDS "${library_package} ${version}, libc6")
 set(CPACK_COMPONENT_QML_DESCRIPTION "The QML module for apps that are written in QML alone and started by the
 QML runtime.")
 
-# What every package of Debian has to say of itself.
+# Changelog and copyright, which every Debian package has to contain.
 set(changelog ${PROJECT_BINARY_DIR}/debian/changelog.Debian.gz)
 string(TIMESTAMP date "%a, %d %b %Y 00:00:00 +0000" UTC)
 file(CONFIGURE OUTPUT debian/changelog CONTENT

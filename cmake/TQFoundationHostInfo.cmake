@@ -1,8 +1,8 @@
 # tq_add_host_info(<target> [DISPLAY_NAME <text>] [NAME <text>] [VERSION <text>] [BUILD <text>])
 #
-# Says who a host app is: writes an Info.plist with the given entries and embeds it in <target>, where the library reads
-# the app's name, version and build; on Apple systems it is the bundle's own as well. An entry that is not given is
-# missing, which the library takes as its documented fallback. Texts are taken verbatim.
+# Writes an Info.plist with the given entries and embeds it in <target>. The library reads the host app's name, version
+# and build from it; on Apple systems it is the bundle's Info.plist as well. For a missing entry the library uses its
+# documented fallback. Texts are taken verbatim.
 function(tq_add_host_info target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "DISPLAY_NAME;NAME;VERSION;BUILD" "")
     if(arg_UNPARSED_ARGUMENTS OR arg_KEYWORDS_MISSING_VALUES)
@@ -27,7 +27,7 @@ function(tq_add_host_info target)
 
     set(plist "${CMAKE_CURRENT_BINARY_DIR}/${target}-info/Info.plist")
     set(text "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n<dict>\n${entries}</dict>\n</plist>\n")
-    # Written only where it differs, so that nothing is built again for the same text.
+    # Written only if it differs, so that the same text causes no rebuild.
     file(CONFIGURE OUTPUT "${plist}" CONTENT "@text@" @ONLY)
     set_source_files_properties("${plist}" PROPERTIES QT_RESOURCE_ALIAS Info.plist)
     qt_add_resources(${target} "${target}_host_info" PREFIX / FILES "${plist}")

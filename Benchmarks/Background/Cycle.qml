@@ -1,6 +1,6 @@
 import QtQuick
 
-// The ten seconds of the background, over and over, on an item with a property strokeEnd.
+// Repeats the ten-second cycle of the background on an item with a property strokeEnd.
 ParallelAnimation {
     id: root
 

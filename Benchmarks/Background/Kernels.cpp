@@ -1,7 +1,6 @@
-// BackgroundKernels KERNEL LINE LOTTIE: draws the 600 frames of a cycle, in virtual time, each whole, into one buffer
-// of 1170 by 2532 pixels, several times over, and prints the median of the CPU times and how much ink the middle frame
-// holds as one line of JSON. Nothing is shown. Every kernel draws the line of the file LINE, or the animation of the
-// file LOTTIE.
+// BackgroundKernels KERNEL LINE LOTTIE: draws the 600 frames of a cycle in virtual time into a buffer of 1170 by 2532
+// pixels, several times, and prints one line of JSON: the median CPU time and the sum of alpha of the middle frame. A
+// kernel draws the line of the file LINE or the animation of the file LOTTIE.
 
 #include "Line.h"
 #include "StrokeMask.h"
@@ -30,7 +29,7 @@ constexpr double scale = 3;
 
 using Pixels = std::vector<std::uint32_t>; // premultiplied ARGB, row by row
 
-/// Draws the frame of that number over transparent pixels.
+/// Draws the frame with the given number over transparent pixels.
 using Kernel = std::function<void(int frame, Pixels &pixels)>;
 
 Moment momentOf(int frame)
@@ -38,8 +37,7 @@ Moment momentOf(int frame)
     return Moment(frame / 60.0);
 }
 
-/// As the library draws on the software backend: works out only what is newly drawn, and paints only the tiles that
-/// look different.
+/// The library's software backend: computes only newly revealed coverage and paints only changed tiles.
 class Ours
 {
 public:
@@ -114,7 +112,7 @@ private:
     StrokeMask m_mask;
     StrokeMask::Colors m_colors{};
     double m_opacity = 0;
-    Pixels m_edge; // a tile that reaches out of the picture
+    Pixels m_edge; // a tile that is partly outside the picture
 };
 
 Kernel withQPainter(const Line &line)
@@ -191,11 +189,11 @@ int main(int argc, char *argv[])
         : name == u"rlottie"              ? withRlottie(QString::fromLocal8Bit(argv[3]))
                                           : nullptr;
     if (!kernel)
-        return 3; // not there
+        return 3; // the file is missing
     Pixels pixels(static_cast<std::size_t>(width) * height);
     double ink = 0;
     std::vector<double> cycles;
-    // The first cycle does not count: it clears the picture and fills the caches.
+    // Warm-up: the first cycle clears the picture and fills the caches.
     const auto runCycle = [&](bool counts) {
         const double before = cpuTime();
         for (int frame = 0; frame < frameCount; ++frame) {

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-/// The line that all alternatives draw: the path data of SVG, "M x y C x y x y x y … Z", in points.
+/// The line that all alternatives draw, read from SVG path data: "M x y C x y x y x y … Z", in points.
 struct Line
 {
     explicit Line(const QString &file)
@@ -34,7 +34,7 @@ struct Line
         length = path.length();
     }
 
-    /// Strokes the line up to a share of its length, as wide and as faint as the background does.
+    /// Strokes the line up to a share of its length, with the width and opacity of the background.
     void stroke(QPainter &painter, double strokeEnd, double opacity) const
     {
         if (strokeEnd <= 0)
@@ -53,7 +53,7 @@ struct Line
     double length = 0;
 };
 
-/// What is drawn at a moment of the ten-second cycle.
+/// Opacity and stroke end at a time of the ten-second cycle.
 struct Moment
 {
     explicit Moment(double seconds)

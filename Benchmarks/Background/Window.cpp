@@ -1,9 +1,9 @@
-// BackgroundWindow ALTERNATIVE SECONDS LINE [LOTTIE]: shows the animated line in a window, lets it run in for a second,
-// measures for so many real seconds, and prints what that cost as one line of JSON.
+// BackgroundWindow ALTERNATIVE SECONDS LINE [LOTTIE]: shows the animated line in a window, warms up for a second,
+// measures for SECONDS of real time, and prints the cost as one line of JSON.
 //
 // LINE is a file with the path data of the line. `ours` writes it and the others read it, so that all draw the same
-// one. LOTTIE is the same as an animation for a Lottie player. `ours-20` shows twenty backgrounds, and `ticks` prints
-// what it costs to replace one line by the next.
+// line. LOTTIE is the same line as a Lottie animation. `ours-20` shows twenty backgrounds. `ticks` prints the cost of
+// replacing a line by the next.
 
 #include "Line.h"
 #include "ShapeLayer.h"
@@ -45,7 +45,7 @@ public:
     double screenScale() const override { return 3; }
 };
 
-/// Strokes the line anew in each frame.
+/// Strokes the whole line in each frame.
 class PaintedLine : public QQuickPaintedItem
 {
     Q_OBJECT
@@ -105,7 +105,7 @@ double cpuTime(clockid_t clock)
     return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) * 1e-6;
 }
 
-/// What the process has used by now. On the main thread.
+/// Resources that the process has used so far. GUI thread only.
 struct Usage
 {
     explicit Usage(int framesSoFar) : frames(framesSoFar)
@@ -121,7 +121,7 @@ struct Usage
     int frames;
 };
 
-// The memory that belongs to the process alone, in KiB. What files hold is shared with whoever else uses them.
+// Private memory of the process in KiB. Pages of files are shared and do not count.
 qint64 memory()
 {
     QFile status(QStringLiteral("/proc/self/smaps_rollup"));
@@ -134,7 +134,7 @@ qint64 memory()
     return 0;
 }
 
-// Writes what the background draws for the alternatives to draw as well.
+// Writes the line of the background to a file, for the alternatives.
 void writeLine(const AnimationView &view, const QString &file)
 {
     QFile data(file);
@@ -164,7 +164,7 @@ void measure(const QString &alternative, int seconds, const std::atomic<int> &fr
                                 << "\", \"frames\": " << after.frames - before.frames
                                 << ", \"process\": " << after.process - before.process << ", \"main\": "
                                 << after.main - before.main
-                                // Without the one that ends the measurement.
+                                // Without the wake-up that ends the measurement.
                                 << ", \"wakeUps\": " << after.wakeUps - before.wakeUps - 1
                                 << ", \"memory\": " << memory() << "}\n";
             std::_Exit(0);
@@ -179,8 +179,8 @@ double median(std::vector<double> numbers)
     return *middle;
 }
 
-/// Draws a new line every tenth of a second and counts the CPU time of both threads: what the tick itself takes, and by
-/// how much the frame that first shows a line costs the scene graph's thread more than the frames that follow.
+/// Draws a new line every tenth of a second and measures CPU time: of the tick on the GUI thread, and the extra cost on
+/// the render thread of the first frame of a line over the frames after it.
 class TickMeter
 {
 public:
@@ -204,7 +204,7 @@ private:
         m_ticks.push_back(cpuTime(CLOCK_THREAD_CPUTIME_ID) - before);
     }
 
-    // On the scene graph's thread, which takes over what is new only where a tick asks for it.
+    // On the render thread, which synchronises the line only after a tick.
     void noteFrame()
     {
         const double now = cpuTime(CLOCK_THREAD_CPUTIME_ID);
@@ -231,6 +231,70 @@ private:
     double m_before = 0;
 };
 
+/// Limits all alternatives to the same frame rate, because Xvfb has no vsync. Requests further frames on its own if
+/// \a swapsAnyway. Counts the frames in \a frames on the render thread.
+void paceFrames(QQuickView &view, bool swapsAnyway, std::atomic<int> &frames)
+{
+    QObject::connect(
+        &view, &QQuickWindow::frameSwapped, &view,
+        [&view, &frames, swapsAnyway] {
+            static auto next = std::chrono::steady_clock::now();
+            ++frames;
+            next = std::max(next + frameTime, std::chrono::steady_clock::now());
+            std::this_thread::sleep_until(next);
+            if (swapsAnyway)
+                view.update();
+        },
+        Qt::DirectConnection);
+}
+
+void setProperties(QQuickView &view, const QString &alternative, const Line *line, const QString &lottie)
+{
+    if (const int count = alternative.section(u'-', 1).toInt(); count > 0)
+        view.setInitialProperties({{QStringLiteral("count"), count}});
+    PaintedLine::line = line;
+    if (alternative == u"shapes")
+        view.setInitialProperties({{QStringLiteral("line"), line->svg}, {QStringLiteral("length"), line->length}});
+    if (alternative == u"lottie")
+        view.setInitialProperties({{QStringLiteral("source"), QUrl::fromLocalFile(lottie)}});
+}
+
+void showFile(QQuickView &view, const QString &name)
+{
+    view.setSource(QUrl(u"qrc:/Background/" + name + u".qml"));
+    if (view.status() != QQuickView::Ready)
+        qFatal("cannot load the alternative");
+    view.show();
+}
+
+int measureRaster(const Line &line, int seconds)
+{
+    RasterLine window(line);
+    window.resize(phone);
+    window.show();
+    measure(QStringLiteral("raster"), seconds, window.frames);
+    return QGuiApplication::exec();
+}
+
+int measureBackground(QQuickView &view, const QString &alternative, int seconds, const QString &file,
+                      std::atomic<int> &frames)
+{
+    showFile(view, QStringLiteral("ours"));
+    const QList<QQuickItem *> items = view.rootObject()->childItems();
+    QQuickItem *background = *std::ranges::find(items, QStringLiteral("background"), &QObject::objectName);
+    auto *animation = qobject_cast<AnimationView *>(background->childItems().value(0));
+    if (alternative == u"ours")
+        writeLine(*animation, file);
+    if (alternative == u"ours-hidden")
+        background->setVisible(false);
+    if (alternative == u"ticks") {
+        const TickMeter meter(view, *animation);
+        return QGuiApplication::exec();
+    }
+    measure(alternative, seconds, frames);
+    return QGuiApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -247,65 +311,21 @@ int main(int argc, char *argv[])
     installPlatform(std::make_unique<Phone>());
     static std::atomic<int> frames = 0;
 
-    const bool isTicks = alternative == u"ticks";
-    const bool isOurs = alternative.startsWith(u"ours") || isTicks;
+    const bool isOurs = alternative.startsWith(u"ours") || alternative == u"ticks";
     const bool isStill = alternative == u"idle" || alternative == u"empty" || alternative == u"rectangle";
-    const bool drawsLine = !isOurs && !isStill;
-    const std::optional<Line> line = drawsLine ? std::optional<Line>(file) : std::nullopt;
-    if (alternative == u"raster") {
-        RasterLine window(*line);
-        window.resize(phone);
-        window.show();
-        measure(alternative, seconds, window.frames);
-        return QGuiApplication::exec();
-    }
+    const std::optional<Line> line = isOurs || isStill ? std::nullopt : std::optional<Line>(file);
+    if (alternative == u"raster")
+        return measureRaster(*line, seconds);
 
     qmlRegisterType<PaintedLine>("Benchmark", 1, 0, "PaintedLine");
     QQuickView view;
     view.resize(phone);
     view.setResizeMode(QQuickView::SizeRootObjectToView);
-    if (const int count = alternative.section(u'-', 1).toInt(); count > 0)
-        view.setInitialProperties({{QStringLiteral("count"), count}});
-    if (line) {
-        PaintedLine::line = &*line;
-        if (alternative == u"shapes") {
-            view.setInitialProperties({{QStringLiteral("line"), line->svg}, {QStringLiteral("length"), line->length}});
-        } else if (alternative == u"lottie") {
-            view.setInitialProperties({{QStringLiteral("source"), QUrl::fromLocalFile(arguments.value(4))}});
-        }
-    }
-    // Where nothing paces the frames, all alternatives are held to the same rate. On the thread that renders.
-    QObject::connect(
-        &view, &QQuickWindow::frameSwapped, &view,
-        [&view, swapsAnyway = isStill && alternative != u"idle"] {
-            static auto next = std::chrono::steady_clock::now();
-            ++frames;
-            next = std::max(next + frameTime, std::chrono::steady_clock::now());
-            std::this_thread::sleep_until(next);
-            if (swapsAnyway)
-                view.update();
-        },
-        Qt::DirectConnection);
-    const QString name = isOurs   ? QStringLiteral("ours")
-        : alternative == u"empty" ? QStringLiteral("idle")
-                                  : alternative;
-    view.setSource(QUrl(u"qrc:/Background/" + name + u".qml"));
-    if (view.status() != QQuickView::Ready)
-        qFatal("cannot load the alternative");
-    view.show();
-    if (isOurs) {
-        const QList<QQuickItem *> items = view.rootObject()->childItems();
-        QQuickItem *background = *std::ranges::find(items, QStringLiteral("background"), &QObject::objectName);
-        auto *animation = qobject_cast<AnimationView *>(background->childItems().value(0));
-        if (alternative == u"ours")
-            writeLine(*animation, file);
-        if (alternative == u"ours-hidden")
-            background->setVisible(false);
-        if (isTicks) {
-            const TickMeter meter(view, *animation);
-            return QGuiApplication::exec();
-        }
-    }
+    setProperties(view, alternative, line ? &*line : nullptr, arguments.value(4));
+    paceFrames(view, isStill && alternative != u"idle", frames);
+    if (isOurs)
+        return measureBackground(view, alternative, seconds, file, frames);
+    showFile(view, alternative == u"empty" ? QStringLiteral("idle") : alternative);
     measure(alternative, seconds, frames);
     return QGuiApplication::exec();
 }

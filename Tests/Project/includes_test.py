@@ -54,7 +54,7 @@ for path in files.values():
         if folder_of(files[name]) not in allowed:
             failures.append(f"{path}: {folder} may not include {folder_of(files[name])} ({name})")
 
-# What QML uses: types that its folder may see.
+# Types that QML files use.
 qml_types = {path.stem: folder_of(path) for path in root.rglob("*.qml")}
 for path in files.values():
     text = path.read_text(encoding="utf-8")
@@ -101,7 +101,7 @@ for path in files.values():
     if path.suffix != ".cpp":
         continue
     folder, code = folder_of(path), code_of(path)
-    # What an unnamed namespace defines is the file's own.
+    # An unnamed namespace is internal to its file.
     code = re.sub(r"^namespace \{.*?^\} // namespace$|^namespace \{.*?^\}\s*$", "", code, flags=re.DOTALL | re.MULTILINE)
     defined = [(match[1], classes.get(match[1].split("::")[0]))
                for match in re.finditer(r"^[^\s#].*?((?:\w+::)+~?\w+)\([^;]*$", code, re.MULTILINE)]

@@ -1,4 +1,4 @@
-"""The baked shaders in the tree are those of the sources beside them."""
+"""The tracked baked shaders are up to date with their sources."""
 
 import pathlib
 import subprocess
@@ -14,5 +14,5 @@ with tempfile.TemporaryDirectory() as folder:
         if path.read_bytes() != (root / "Sources/Drawing/Shaders" / path.name).read_bytes():
             failures.append(f"{path.name} is out of date: run tools/bake-shaders")
 
-print("\n".join(failures) or f"{len(baked)} shaders, all as baked")
+print("\n".join(failures) or f"{len(baked)} shaders, all up to date")
 sys.exit(bool(failures) or not baked)

@@ -1,7 +1,7 @@
-"""The library exports its public classes and functions, and nothing else that a host could come to rely on.
+"""The library exports exactly the symbols of exported_symbols.txt: its public classes and functions.
 
-Arguments are cut, so that each name of exported_symbols.txt stands for all its overloads. Weak symbols do not count:
-they are templates and tables of the compiler, which every binary may hold."""
+Arguments are cut, so that a name stands for all its overloads. Weak symbols do not count: they are template instances
+and compiler-generated tables, which any binary may contain."""
 
 import pathlib
 import re
@@ -29,14 +29,14 @@ for line in lines.splitlines():
 if "--update" in sys.argv:
     listed_file.write_text("\n".join(sorted(exported)) + "\n")
 
-failures = [f"{name} is no part of namespace TQFoundation" for name in sorted(exported)
+failures = [f"{name} is not in namespace TQFoundation" for name in sorted(exported)
             if not name.startswith("TQFoundation::") and name != REGISTRATION]
 listed = set(listed_file.read_text().split("\n")) - {""}
 failures += [f"+ {name}" for name in sorted(exported - listed)]
 failures += [f"- {name}" for name in sorted(listed - exported)]
 if exported != listed:
-    failures.append("The library exports what + says anew and what - says no more, which breaks its hosts. Where that is "
-                    f"meant: {pathlib.Path(__file__).name} {library} --update")
+    failures.append("+ is newly exported, - is no longer exported, which breaks hosts. If intended, run "
+                    f"{pathlib.Path(__file__).name} {library} --update")
 
 print("\n".join(failures) or f"{len(exported)} names")
 sys.exit(bool(failures))

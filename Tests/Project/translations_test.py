@@ -1,5 +1,5 @@
-"""Every table has exactly the keys of the code, each with a finished translation that fits its place. What the library
-says in the user's language is marked for the tables, and what is marked is found."""
+"""Every translation table has exactly the keys of the code, each with a finished translation that fits its place. Every
+text that the library shows is marked for translation, and lupdate finds every mark."""
 
 import pathlib
 import re
@@ -21,7 +21,7 @@ def entries(path):
             finished = translation.get("type") is None
             found[name, message.findtext("source")] = (translation.text or "") if finished else None
             if name.startswith("TQFoundation") and not message.findtext("extracomment"):
-                failures.append(f"{path.name}: nothing tells where {message.findtext('source')[:40]!r} is seen")
+                failures.append(f"{path.name}: {message.findtext('source')[:40]!r} has no comment for translators")
     return found
 
 
@@ -33,11 +33,11 @@ def keys_of(sources, folder):
 
 
 def marked_in(text, where):
-    """What is marked for translation, read without lupdate: each mark's context and text."""
+    """Context and text of each QT_TRANSLATE_NOOP, found without lupdate."""
     literal = r'"((?:[^"\\]|\\.)*)"'
     found = re.findall(rf"QT_TRANSLATE_NOOP\(\s*{literal},\s*((?:{literal}\s*)+)\)", text)
     if len(found) != len(re.findall(r"\bQT_TRANSLATE_NOOP\(", text)):
-        failures.append(f"{where} marks something else than a text")
+        failures.append(f"{where} marks something other than a string literal")
     escapes = {"\\n": "\n", '\\"': '"', "\\\\": "\\"}
     return {(context, re.sub(r"\\.", lambda match: escapes[match[0]], "".join(re.findall(literal, texts))))
             for context, texts, _ in found}
@@ -49,9 +49,9 @@ def check_sources(sources, keys):
         text = path.read_text(encoding="utf-8")
         marked |= marked_in(text, path.name)
         for call in re.findall(r'(?:localizedInLibrary|interfaceString)\((?:QStringLiteral|QLatin1String|u)?\(?".*', text):
-            failures.append(f"{path.name} translates what is not marked: {call}")
+            failures.append(f"{path.name} translates an unmarked text: {call}")
         if re.search(r"\b(?:qsTr|qsTrId|qsTranslate|tr)\(", text):
-            failures.append(f"{path.name} asks the host's translators instead of the library's tables")
+            failures.append(f"{path.name} uses the host's translators instead of the library's tables")
     for context, key in sorted(marked ^ keys):
         failures.append(f"lupdate and the code differ in {key!r} of {context}")
 
@@ -72,17 +72,17 @@ def check(tables, keys, languages):
                 failures.append(f"{where} no finished translation")
                 continue
             if language == "en" and text != key:
-                failures.append(f"{where} English is the key itself")
+                failures.append(f"{where} the English text has to equal the key")
             if key.startswith("https://"):
                 local = language.startswith("zh_")
                 if not text.startswith("https://tqstudio.example/") or (text != key) != local:
-                    failures.append(f"{where} the site has pages in Chinese and English only")
+                    failures.append(f"{where} the website has only Chinese and English pages")
             elif text.count("\n\n") != key.count("\n\n"):
-                failures.append(f"{where} another number of blocks")
+                failures.append(f"{where} differs in the number of paragraphs")
             if key.endswith(" ") != text.endswith(" ") or text.endswith("  ") or text != text.lstrip():
-                failures.append(f"{where} blanks at the edges differ")
+                failures.append(f"{where} leading or trailing blanks differ")
             if key == "ICP-2099000001-" and not (text.endswith("-") and "2099000001" in text):
-                failures.append(f"{where} a filing's suffix follows directly")
+                failures.append(f"{where} has to end with the filing number and '-'")
 
 
 listed = next(line for line in (root / "CMakeLists.txt").read_text().splitlines() if line.startswith("set(languages "))

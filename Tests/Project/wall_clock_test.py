@@ -1,5 +1,5 @@
-"""The user's clock may jump by years: nothing in the library reads it. Times come from Platform::mediaTime() and from
-the toolkit's timers and animations, whose clocks never jump."""
+"""The library never reads the wall clock, which may jump by years. Times come from Platform::mediaTime() and from Qt's
+timers and animations, whose clocks are steady."""
 
 import pathlib
 import re
@@ -18,5 +18,5 @@ for path in files:
     if found:
         failures.append(f"{path}: reads {found}")
 
-print("\n".join(failures) or f"{len(files)} files, none of which keeps time by the user's clock")
+print("\n".join(failures) or f"{len(files)} files, none reads the wall clock")
 sys.exit(bool(failures or len(files) < 30))

@@ -120,10 +120,11 @@ Point getControlPoint(std::int64_t index, const std::vector<Point> &transitPoint
     const double middleX = screen.width * 0.5;
     const double middleY = screen.height * 0.5;
     const Halves half(screen);
-    if (end.x == middleX || end.y == middleY)
-        return {};
     const bool isRight = end.x > middleX;
     const bool isTop = end.y < middleY;
+    // No comparison holds for NaN.
+    if (!(isRight || end.x < middleX) || !(isTop || end.y > middleY))
+        return {};
     // The shapes differ from quarter to quarter on purpose.
     if (isRight && !isTop) {
         const std::int64_t x = random.positiveX();

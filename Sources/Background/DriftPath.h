@@ -76,7 +76,8 @@ std::vector<Point> getTransitPoints(const DriftScreen &screen, const RandomSourc
 /// belongs to the quarter of the screen in which that point lies. In the lower left it may lie off the screen.
 ///
 /// Draws once from a long-lived source and once from a fresh one. If the end point lies exactly on the centre row or
-/// column, the result is (0, 0) and nothing is drawn. An index outside the points stops the process.
+/// column, or a coordinate is NaN, the result is (0, 0) and nothing is drawn. An index outside the points stops the
+/// process.
 Point getControlPoint(std::int64_t index, const std::vector<Point> &transitPoints, const DriftScreen &screen,
                       const RandomSource &random);
 

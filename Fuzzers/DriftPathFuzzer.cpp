@@ -5,6 +5,7 @@
 #include "Require.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <fuzzer/FuzzedDataProvider.h>
@@ -81,7 +82,9 @@ struct Line
 class Expected
 {
 public:
-    Expected(const DriftScreen &screen, std::uint32_t first, const Values &values) : m_screen(screen), m_values(values)
+    Expected(const DriftScreen &screen, std::uint32_t first, Point anyEnd, const Values &values)
+        : m_screen(screen),
+          m_values(values)
     {
         halfWidth = integer(screen.width * 0.5);
         halfHeight = integer(screen.height * 0.5);
@@ -91,6 +94,7 @@ public:
             line.points.push_back(transit(slot % 4));
         for (const std::size_t end : {1U, 1U, 2U, 2U, 3U, 3U, 0U, 0U})
             line.controls.push_back(control(line.points[end]));
+        line.controls.push_back(control(anyEnd));
     }
 
     Line line;
@@ -187,9 +191,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t siz
     while (data.remaining_bytes() > 0 && values.list.size() < 24)
         values.list.push_back(data.ConsumeIntegral<std::int64_t>());
 
+    Point anyEnd; // also infinite and NaN, which no line has
+    if (values.list.size() > 1)
+        anyEnd = {std::bit_cast<double>(values.list[0]), std::bit_cast<double>(values.list[1])};
+
     std::optional<Line> expected;
     try {
-        expected = Expected(screen, first, values).line;
+        expected = Expected(screen, first, anyEnd, values).line;
     } catch (const Stops &) {
         return 0;
     }
@@ -212,6 +220,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t siz
     const std::vector<Point> points = getTransitPoints(screen, random);
     require(points == expected->points);
     const Path path = driftPath(points, screen, random);
+    const Point control = getControlPoint(0, {anyEnd}, screen, random);
+    require(control == expected->controls.back());
     require(draws == expected->draws);
     require(path.start == points[0] && path.isClosed && path.curves.size() == 4);
     for (std::size_t curve = 0; curve < 4; ++curve) {

@@ -2,7 +2,6 @@
 
 #include "Precondition.h"
 
-#include <array>
 #include <limits>
 
 namespace TQFoundation {
@@ -100,14 +99,12 @@ DriftRanges driftRanges(const DriftScreen &screen)
 
 std::vector<Point> getTransitPoints(const DriftScreen &screen, const RandomSource &random)
 {
-    using enum Slot;
-    constexpr std::array<Slot, 4> cycle{topRight, bottomRight, bottomLeft, topLeft};
     const Halves half(screen);
-    std::vector<Point> points(cycle.size());
+    std::vector<Point> points(4);
     const std::size_t first = random.chooser();
-    if (first < cycle.size()) {
-        for (std::size_t index = 0; index < cycle.size(); ++index)
-            points[index] = transitPoint(cycle.at((first + index) % cycle.size()), half, random);
+    if (first < points.size()) {
+        for (std::size_t index = 0; index < points.size(); ++index)
+            points[index] = transitPoint(static_cast<Slot>((first + index) % points.size()), half, random);
     }
     return points;
 }
@@ -120,10 +117,11 @@ Point getControlPoint(std::int64_t index, const std::vector<Point> &transitPoint
     const double middleX = screen.width * 0.5;
     const double middleY = screen.height * 0.5;
     const Halves half(screen);
-    if (end.x == middleX || end.y == middleY)
-        return {};
     const bool isRight = end.x > middleX;
     const bool isTop = end.y < middleY;
+    // No comparison holds for NaN.
+    if (!(isRight || end.x < middleX) || !(isTop || end.y > middleY))
+        return {};
     // The shapes differ from quarter to quarter on purpose.
     if (isRight && !isTop) {
         const std::int64_t x = random.positiveX();

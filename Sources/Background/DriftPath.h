@@ -10,10 +10,7 @@ namespace TQFoundation {
 
 // Geometry of one line of the animated background: a closed curve through four random points around the centre of the
 // screen. Coordinates are whole points, computed in checked signed 64-bit arithmetic. Overflow, division by zero and a
-// screen size that is not finite stop the process. Any thread.
-//
-// The names of the random sources assume a y axis that points up: positive y is the upper half of the screen, where the
-// screen's own y coordinate is small.
+// screen size that is not finite stop the process. In the names of the random sources, y points up. Any thread.
 
 /// Size of the screen that the line is laid out for, in points.
 struct DriftScreen
@@ -33,13 +30,12 @@ struct IntegerRange
     friend constexpr bool operator==(const IntegerRange &, const IntegerRange &) = default;
 };
 
-/// The ranges of the four long-lived random sources: the halves of the screen. Both halves of an axis contain the
-/// middle.
+/// The ranges of the long-lived random sources: halves of the screen, which share the middle.
 struct DriftRanges
 {
     IntegerRange positiveX; ///< Right half.
     IntegerRange negativeX; ///< Left half.
-    IntegerRange positiveY; ///< Upper half.
+    IntegerRange positiveY; ///< Upper half, where the screen's y is small.
     IntegerRange negativeY; ///< Lower half.
 
     friend constexpr bool operator==(const DriftRanges &, const DriftRanges &) = default;
@@ -76,7 +72,8 @@ std::vector<Point> getTransitPoints(const DriftScreen &screen, const RandomSourc
 /// belongs to the quarter of the screen in which that point lies. In the lower left it may lie off the screen.
 ///
 /// Draws once from a long-lived source and once from a fresh one. If the end point lies exactly on the centre row or
-/// column, the result is (0, 0) and nothing is drawn. An index outside the points stops the process.
+/// column, or a coordinate is NaN, the result is (0, 0) and nothing is drawn. An index outside the points stops the
+/// process.
 Point getControlPoint(std::int64_t index, const std::vector<Point> &transitPoints, const DriftScreen &screen,
                       const RandomSource &random);
 

@@ -17,6 +17,8 @@ using Testing::trapSignal;
 
 constexpr DriftScreen phone{390, 844};
 constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr std::int64_t minimum = std::numeric_limits<std::int64_t>::min();
+constexpr std::int64_t maximum = std::numeric_limits<std::int64_t>::max();
 
 /// Random source that returns prepared draws, 0 after the last one, and records which sources were asked.
 class Script
@@ -88,7 +90,7 @@ TEST(DriftRanges, CoverAllOfSigned64Bits)
 {
     const double largest = 9223372036854774784.0; // the double just below 2^63
     EXPECT_EQ(driftRanges({largest, 2}).positiveX.highest, 9223372036854774784);
-    EXPECT_EQ(driftRanges({-0x1p63, 2}).positiveX.highest, std::numeric_limits<std::int64_t>::min());
+    EXPECT_EQ(driftRanges({-0x1p63, 2}).positiveX.highest, minimum);
 }
 
 TEST(DriftRangesDeathTest, NonFiniteOrHugeScreenStopsProcess)
@@ -191,14 +193,43 @@ TEST(TransitPointsDeathTest, NonFiniteScreenStopsTheProcess)
 
 TEST(TransitPointsDeathTest, AnyOverflowStopsTheProcess)
 {
-    constexpr std::int64_t least = std::numeric_limits<std::int64_t>::min();
-    constexpr std::int64_t greatest = std::numeric_limits<std::int64_t>::max();
     // One case each: subtracting the middle, multiplying, dividing, and the last addition and subtraction.
-    EXPECT_EXIT(getTransitPoints(phone, Script({least}).source), testing::KilledBySignal(trapSignal), "");
-    EXPECT_EXIT(getTransitPoints(phone, Script({greatest}).source), testing::KilledBySignal(trapSignal), "");
-    EXPECT_EXIT(getTransitPoints({-2, 2}, Script({0, 0, least, 0}).source), testing::KilledBySignal(trapSignal), "");
-    EXPECT_EXIT(getTransitPoints({2, 2}, Script({0, 0, greatest, 0}).source), testing::KilledBySignal(trapSignal), "");
-    EXPECT_EXIT(getTransitPoints({2, 2}, Script({0, 0, 0, least}).source), testing::KilledBySignal(trapSignal), "");
+    EXPECT_EXIT(getTransitPoints(phone, Script({minimum}).source), testing::KilledBySignal(trapSignal), "");
+    EXPECT_EXIT(getTransitPoints(phone, Script({maximum}).source), testing::KilledBySignal(trapSignal), "");
+    EXPECT_EXIT(getTransitPoints({-2, 2}, Script({0, 0, minimum, 0}).source), testing::KilledBySignal(trapSignal), "");
+    EXPECT_EXIT(getTransitPoints({2, 2}, Script({0, 0, maximum, 0}).source), testing::KilledBySignal(trapSignal), "");
+    EXPECT_EXIT(getTransitPoints({2, 2}, Script({0, 0, 0, minimum}).source), testing::KilledBySignal(trapSignal), "");
+}
+
+// Which step stops the process is known from the neighbouring draw, which all steps accept.
+
+TEST(TransitPoints, AcceptResultsAtBothEndsOf64Bits)
+{
+    const auto y = [](const DriftScreen &screen, std::size_t index, std::int64_t draw) {
+        std::deque<std::int64_t> draws(4, static_cast<std::int64_t>(screen.width / 2));
+        draws.at(index) = draw;
+        return getTransitPoints(screen, Script(draws).source).at(index).y;
+    };
+    EXPECT_EQ(y({390, 2}, 0, minimum + 195), static_cast<double>(1 - minimum / 195)) << "subtracting the middle";
+    EXPECT_EQ(y({2, 2}, 3, minimum + 2), 0x1p63) << "subtracting from the middle";
+    EXPECT_EQ(y({2, -2}, 3, minimum + 1), -0x1p63) << "subtracting from the middle";
+    EXPECT_EQ(y({2, 2}, 2, maximum - 1), 0x1p63) << "adding to the middle";
+    EXPECT_EQ(y({2, -2}, 2, maximum), -0x1p63) << "adding to the middle";
+}
+
+TEST(TransitPointsDeathTest, OneStepBeyondEitherEndStopsTheProcess)
+{
+    const auto draw = [](const DriftScreen &screen, std::size_t index, std::int64_t value) {
+        std::deque<std::int64_t> draws(4, static_cast<std::int64_t>(screen.width / 2));
+        draws.at(index) = value;
+        static_cast<void>(getTransitPoints(screen, Script(draws).source));
+    };
+    // Subtracting the middle, subtracting from it, adding to it.
+    EXPECT_EXIT(draw({390, 2}, 0, minimum + 194), testing::KilledBySignal(trapSignal), "");
+    EXPECT_EXIT(draw({2, 2}, 3, minimum + 1), testing::KilledBySignal(trapSignal), "");
+    EXPECT_EXIT(draw({2, -14}, 3, -(maximum / 7)), testing::KilledBySignal(trapSignal), "");
+    EXPECT_EXIT(draw({2, 2}, 2, maximum), testing::KilledBySignal(trapSignal), "");
+    EXPECT_EXIT(draw({2, -4}, 2, std::int64_t{1} << 62), testing::KilledBySignal(trapSignal), "");
 }
 
 // Control points.
@@ -255,6 +286,16 @@ TEST(ControlPoint, IsZeroOnCentreRowOrColumn)
     }
 }
 
+TEST(ControlPoint, IsZeroWithoutDrawsForNaN)
+{
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    for (const Point &end : {Point{nan, 100}, Point{nan, 700}, Point{100, nan}, Point{300, nan}, Point{nan, nan}}) {
+        const auto [point, log] = control(end, phone, {100, 100});
+        EXPECT_EQ(point, Point());
+        EXPECT_EQ(log, Log());
+    }
+}
+
 TEST(ControlPoint, IsZeroForPointAtMiddleOfScreen)
 {
     const std::vector<Point> points = getTransitPoints(phone, Script({195, 195, 100, 50}).source);
@@ -282,8 +323,7 @@ TEST(ControlPointDeathTest, IndexOutOfRangeStopsTheProcess)
 {
     const Script script({100, 100});
     const std::vector<Point> points{{300, 195}, {250, 541}, {100, 638}, {50, 314}};
-    for (const std::int64_t index : {std::numeric_limits<std::int64_t>::min(), std::int64_t{-1}, std::int64_t{4},
-                                     std::numeric_limits<std::int64_t>::max()})
+    for (const std::int64_t index : {minimum, std::int64_t{-1}, std::int64_t{4}, maximum})
         EXPECT_EXIT(getControlPoint(index, points, phone, script.source), testing::KilledBySignal(trapSignal), "");
     EXPECT_EXIT(getControlPoint(0, {}, phone, script.source), testing::KilledBySignal(trapSignal), "");
 }
@@ -301,14 +341,12 @@ TEST(ControlPointDeathTest, ZeroHalfOfScreenStopsTheProcess)
 
 TEST(ControlPointDeathTest, AnyOverflowStopsTheProcess)
 {
-    constexpr std::int64_t least = std::numeric_limits<std::int64_t>::min();
-    constexpr std::int64_t greatest = std::numeric_limits<std::int64_t>::max();
-    for (const std::int64_t draw : {least, greatest}) {
+    for (const std::int64_t draw : {minimum, maximum}) {
         for (const Point &end : {Point{300, 195}, Point{250, 541}, Point{100, 638}, Point{50, 314}})
             EXPECT_EXIT(control(end, phone, {draw}), testing::KilledBySignal(trapSignal), "");
     }
     // The product fits, adding the middle overflows.
-    EXPECT_EXIT(control({3, 0}, {4, 2}, {greatest / 2}), testing::KilledBySignal(trapSignal), "");
+    EXPECT_EXIT(control({3, 0}, {4, 2}, {maximum / 2}), testing::KilledBySignal(trapSignal), "");
 }
 
 // The line.

@@ -1,5 +1,6 @@
 #include "ShuffledDistribution.h"
 
+#include "ChiSquare.h"
 #include "DeathTest.h"
 
 #include <cmath>
@@ -10,23 +11,10 @@
 namespace TQFoundation {
 namespace {
 
+using Testing::isUniform;
+
 constexpr std::int64_t least = std::numeric_limits<std::int64_t>::min();
 constexpr std::int64_t greatest = std::numeric_limits<std::int64_t>::max();
-
-// Pearson's chi-square test for uniformity. The bound is five standard deviations above the mean, which a uniform
-// source exceeds less than once in a million tests.
-bool isUniform(const std::vector<int> &counts)
-{
-    double total = 0;
-    for (const int count : counts)
-        total += count;
-    const double expected = total / static_cast<double>(counts.size());
-    double chiSquare = 0;
-    for (const int count : counts)
-        chiSquare += (count - expected) * (count - expected) / expected;
-    const double freedom = static_cast<double>(counts.size()) - 1;
-    return chiSquare < freedom + 5 * std::sqrt(2 * freedom) + 5;
-}
 
 // Index of the bin, of equally large bins, that a draw falls in.
 std::size_t bin(std::int64_t draw, std::int64_t lowest, std::int64_t highest, std::size_t bins)

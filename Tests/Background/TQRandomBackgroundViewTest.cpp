@@ -7,6 +7,7 @@
 #include <TQFoundation/TQRandomBackgroundView.h>
 
 #include <QtGui/qaccessible.h>
+#include <QtGui/qimage.h>
 
 namespace TQFoundation {
 namespace {
@@ -122,6 +123,27 @@ TEST_F(TQRandomBackgroundViewTest, ResizesItsView)
     sized.setSize({30, 40});
     sized.setParentItem(window.contentItem());
     EXPECT_EQ(viewIn(&sized)->size(), QSizeF(30, 40));
+}
+
+TEST_F(TQRandomBackgroundViewTest, DrawsForWholeScreenWithoutSize)
+{
+    QQuickWindow window;
+    window.setColor(Qt::white);
+    window.resize(390, 844);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    TQRandomBackgroundView background(Color(Rgba{}), window.contentItem());
+    platform->advance(9.1);
+    const QImage image = window.grabWindow();
+    for (const QPoint &corner : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)}) {
+        const QSize half = image.size() / 2;
+        QImage blank(half, image.format());
+        blank.fill(Qt::white);
+        const QPoint place(corner.x() * half.width(), corner.y() * half.height());
+        EXPECT_FALSE(image.copy(QRect(place, half)) == blank) << corner.x() << ',' << corner.y();
+    }
+    background.setSize(window.size());
+    EXPECT_TRUE(window.grabWindow() == image);
 }
 
 TEST_F(TQRandomBackgroundViewTest, UpdatesDoNotRestartTheTimer)

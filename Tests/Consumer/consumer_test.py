@@ -76,3 +76,8 @@ with tempfile.TemporaryDirectory() as name:
     else:
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
         stays(binary / host.name)
+    if host.name == "SmallestHost":
+        # A copy for an app without a guide.
+        copy = folder / "Main.qml"
+        copy.write_text((host / "Main.qml").read_text().replace("TQApp.hazel", "TQApp.fir"))
+        stays(tools / "qml", "-I", prefix / "lib/qml", copy)

@@ -7,7 +7,7 @@ import sys
 
 root = pathlib.Path(sys.argv[1])
 QUOTED = {"cpp": (".cpp", ".h", ".py"), "qml": (".qml",), "cmake": ("CMakeLists.txt", ".cmake")}
-PLAIN = {"mermaid", "sh", "text"}
+PLAIN = {"mermaid", "sh", "text", "xml"}
 LONGEST_HOST = 30
 failures = []
 

@@ -76,7 +76,13 @@ with tempfile.TemporaryDirectory() as name:
     else:
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
         stays(binary / host.name)
-    if host.name == "SmallestHost":
+    if host.name == "MoreHost":
+        stays(binary / host.name, "CHN")
+        stays(binary / host.name, "USA")
+    elif host.name == "FirstApp":
+        for step in ("Step1.qml", "Step2.qml", "Step3.qml"):
+            stays(tools / "qml", "-I", prefix / "lib/qml", host / step)
+    elif host.name == "SmallestHost":
         # A copy for an app without a guide.
         copy = folder / "Main.qml"
         copy.write_text((host / "Main.qml").read_text().replace("TQApp.hazel", "TQApp.fir"))

@@ -92,6 +92,19 @@ functions = set(re.findall(r"^    static QString (\w+)\(", more, re.MULTILINE))
 named = set(re.findall(r"\b(\w+(?:Text|Url))\b", section(readme, "### More screen"))) - {"openUrl"}
 compare("rows of the More screen in README.md", named, functions)
 
+# Each step of the first app adds lines to the one before.
+steps = [path.read_text(encoding="utf-8").splitlines()
+         for path in [*sorted((root / "Tests/Consumer/FirstApp").glob("Step?.qml")),
+                      root / "Tests/Consumer/FirstApp/Main.qml"]]
+for number, (step, following) in enumerate(zip(steps, steps[1:]), 1):
+    rest = iter(following)
+    if lines := [line for line in step if line not in rest]:
+        failures.append(f"step {number} of the first app has lines that the next one lacks: {lines}")
+length = sum(len((root / "Tests/Consumer/FirstApp" / name).read_text(encoding="utf-8").splitlines())
+             for name in ("CMakeLists.txt", "main.cpp", "Main.qml"))
+if length > 60:
+    failures.append(f"the first app has {length} lines, more than 60")
+
 # The sample Info.plist has the entries that tq_add_host_info() writes.
 adopt = (root / "docs/adopt-the-library.md").read_text(encoding="utf-8")
 sample = plistlib.loads(re.search(r"```xml\n(.*?)```", adopt, re.DOTALL)[1].encode())

@@ -46,7 +46,7 @@ compare("dotted arrows in CONTRIBUTING.md", dotted, upwards)
 in_readme = {name for row in re.findall(r"^\| (`[\w/`, ]+`) \|", readme.split("## Folders")[1], re.MULTILINE)
              for name in re.findall(r"`([\w/]+)`", row)}
 tracked = {path.name for path in root.iterdir()
-           if path.is_dir() and not path.name.startswith(".") and path.name not in ("build", "Sources", "shots")}
+           if path.is_dir() and not path.name.startswith(".") and path.name not in ("build", "LICENSES", "Sources", "shots")}
 compare("folders in README.md", in_readme, tracked | {f"Sources/{folder}" for folder in layers})
 
 

@@ -1,5 +1,5 @@
-"""What the documentation quotes stands, word for word, in a file that the tests compile or run; indentation aside. What
-it links to and shows is there."""
+"""Code in the documents is quoted, except for indentation, from files that the tests compile or run. Linked files and
+pictures exist."""
 
 import pathlib
 import re

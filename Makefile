@@ -1,6 +1,6 @@
 # The front door. Everything below is CMake with the presets of CMakePresets.json.
 .DEFAULT_GOAL := help
-.PHONY: help run test sanitize fuzz storm soak coverage lint docs bench install packages pictures format clean
+.PHONY: help run test sanitize fuzz storm soak coverage lint docs bench install packages pictures release-check format clean
 
 PREFIX ?= /usr/local
 ARGS ?=
@@ -30,6 +30,7 @@ help:
 	@echo "make install    install to PREFIX ($(PREFIX))"
 	@echo "make packages   build Debian packages into build/packages/packages"
 	@echo "make pictures   write the pictures of the documentation anew"
+	@echo "make release-check  check everything before a release; takes hours"
 	@echo "make format     format all sources"
 	@echo "make clean      remove what was built"
 
@@ -122,6 +123,9 @@ pictures:
 	cmake --preset release -DTQFOUNDATION_TESTS=OFF
 	cmake --build --preset release
 	tools/take-pictures $(release)/Example/Grove docs/pictures
+
+release-check:
+	tools/release-check
 
 format:
 	clang-format -i $(sources)

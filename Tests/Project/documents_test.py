@@ -60,6 +60,13 @@ def section(page, heading):
     return re.split(rf"^#{{1,{len(level)}}} ", page.split(f"\n{heading}\n")[1], flags=re.MULTILINE)[0]
 
 
+# Files and folders that a page names.
+pages = [*root.glob("*.md"), *(root / "docs").glob("*.md")]
+paths = {(page.name, path) for page in pages if page.name != "CHANGELOG.md"
+         for path in re.findall(r"`((?:Sources|Resources|Example|Tests|Fuzzers|Benchmarks|cmake|tools)/[\w./-]+)`",
+                                page.read_text(encoding="utf-8"))}
+failures += [f"{page}: {path} does not exist" for page, path in sorted(paths) if not (root / path).exists()]
+
 # Building and installing.
 install = section(readme, "## Install it")
 cmake = (root / "CMakeLists.txt").read_text(encoding="utf-8")
@@ -111,5 +118,5 @@ sample = plistlib.loads(re.search(r"```xml\n(.*?)```", adopt, re.DOTALL)[1].enco
 host_info = (root / "cmake/TQFoundationHostInfo.cmake").read_text(encoding="utf-8")
 compare("sample Info.plist", set(sample), set(re.findall(r"CFBundle\w+", host_info)))
 
-print("\n".join(failures) or f"{len(layers)} folders with their dependencies, {len(in_readme)} in README.md")
+print("\n".join(failures) or f"{len(layers)} folders with their dependencies, {len(in_readme)} in README.md, {len(paths)} paths")
 sys.exit(bool(failures))

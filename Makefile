@@ -1,6 +1,6 @@
 # Entry points for developers. Every target runs CMake with a preset of CMakePresets.json.
 .DEFAULT_GOAL := help
-.PHONY: help run test sanitize fuzz storm soak coverage lint docs bench install packages pictures format clean
+.PHONY: help run test sanitize fuzz storm soak coverage lint docs bench install packages pictures release-check format clean
 
 PREFIX ?= /usr/local
 ARGS ?=
@@ -25,6 +25,7 @@ help:
 	@echo "make bench      run the benchmarks, print tables and update docs/cost.md"
 	@echo "make install    install to PREFIX=$(PREFIX)"
 	@echo "make packages   build Debian packages into build/packages/packages"
+	@echo "make release-check  check everything before a release; takes hours"
 	@echo "make pictures   update the pictures of the documentation"
 	@echo "make format     format all sources with clang-format"
 	@echo "make clean      remove the build folder"
@@ -118,6 +119,9 @@ pictures:
 	cmake --preset release -DTQFOUNDATION_TESTS=OFF
 	cmake --build --preset release
 	tools/take-pictures $(release)/Example/Grove docs/pictures
+
+release-check:
+	tools/release-check
 
 format:
 	clang-format -i $(sources)

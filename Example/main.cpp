@@ -61,6 +61,7 @@ void nameApplication(const Options &options)
     QCoreApplication::setOrganizationName(QStringLiteral("TQ Studio"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("tqstudio.example"));
     QCoreApplication::setApplicationName(u"Grove " + options.caseName());
+    QGuiApplication::setDesktopFileName(QStringLiteral("example.tqstudio.grove"));
 }
 
 void install(const Options &options)

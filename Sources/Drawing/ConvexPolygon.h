@@ -21,7 +21,7 @@ public:
     /// In the order in which they were added.
     std::span<const Point> corners() const { return std::span(m_corners).first(m_count); }
 
-    /// The part of it inside \a box; without corners if there is none.
+    /// The part of it inside \a box; without corners if they do not overlap.
     ConvexPolygon cut(const Bounds &box) const
     {
         return cut(&Point::x, box.left, true)

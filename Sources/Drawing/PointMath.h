@@ -6,8 +6,7 @@
 
 namespace TQFoundation {
 
-// Points as vectors of the plane, x to the right and y downwards.
-
+/// @{ Points as vectors of the plane, x to the right and y downwards.
 inline Point operator+(Point a, Point b)
 {
     return {a.x + b.x, a.y + b.y};
@@ -22,6 +21,7 @@ inline Point operator*(double factor, Point a)
 {
     return {factor * a.x, factor * a.y};
 }
+/// @}
 
 /// The dot product.
 inline double dot(Point a, Point b)

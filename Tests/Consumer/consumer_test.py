@@ -76,3 +76,14 @@ with tempfile.TemporaryDirectory() as name:
     else:
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
         keeps_running(binary / host.name)
+    if host.name == "MoreHost":
+        keeps_running(binary / host.name, "CHN")
+        keeps_running(binary / host.name, "USA")
+    elif host.name == "FirstApp":
+        for step in ("Step1.qml", "Step2.qml", "Step3.qml"):
+            keeps_running(tools / "qml", "-I", prefix / "lib/qml", host / step)
+    elif host.name == "SmallestHost":
+        # A copy for an app without a guide.
+        copy = folder / "Main.qml"
+        copy.write_text((host / "Main.qml").read_text().replace("TQApp.hazel", "TQApp.fir"))
+        keeps_running(tools / "qml", "-I", prefix / "lib/qml", copy)

@@ -13,7 +13,7 @@ namespace {
 struct Display
 {
     double refreshRate = 60; ///< Hertz.
-    double reportedRate = 60; ///< What the pacer is told.
+    double reportedRate = 60; ///< The rate that the pacer gets.
     bool blocks = true; ///< Whether a swap waits for the next refresh.
     double hostRate = 0; ///< Frames a second in which the host changes something; 0 for never.
     double renderTime = 0.0005; ///< Seconds for each frame.
@@ -119,7 +119,7 @@ TEST(FramePacer, DrawsNoSlowerThanAMisreportedRate)
         EXPECT_GE(result.framesPerSecond, 45) << rate;
         EXPECT_LE(result.framesPerSecond, rate) << rate;
     }
-    // A display slower than it reports is early for nobody.
+    // A display slower than it reports blocks every frame.
     const Result slow = draw({.refreshRate = 60, .reportedRate = 120});
     EXPECT_EQ(slow.longestHold, 0);
     EXPECT_NEAR(slow.framesPerSecond, 60, 0.2);

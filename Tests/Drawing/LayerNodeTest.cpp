@@ -118,7 +118,7 @@ TEST_F(LayerInAWindow, FollowsTheTimeline)
     CountedWindow window({100, 40});
     LayerItem item(window.contentItem());
     item.setLayer(Testing::driftingLayer(straight({5, 20}, {95, 20}), 0));
-    // Where the line is drawn to, in points, and how opaque it is.
+    // The end of the drawn part, in points, and its opacity.
     struct Moment
     {
         double time;
@@ -438,7 +438,7 @@ TEST_F(LayerInAWindow, IsDrawnIntoLayersOfTheSceneGraph)
     EXPECT_TRUE(window.rests());
 }
 
-// What the screen shows after many frames, each of which painted only what had changed.
+// The picture on the screen after many frames, each of which painted changes only.
 TEST_F(LayerInAWindow, PaintsNothingTwiceAmongChangingItems)
 {
     if (QGuiApplication::platformName() != u"offscreen")

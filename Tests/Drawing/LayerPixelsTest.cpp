@@ -124,6 +124,20 @@ private:
                                 }};
 };
 
+/// How an item that shows a line is placed, and how many lines had wrong pixels there.
+struct Pose
+{
+    QPointF position;
+    double rotation = 0;
+    double scale = 1;
+    int wrongLines = 0;
+
+    QTransform transform() const
+    {
+        return QTransform::fromTranslate(position.x(), position.y()).rotate(rotation).scale(scale, scale);
+    }
+};
+
 // AnimationView documents the bounds for the GPU. TQ_PIXEL_LINES sets the number of lines.
 TEST(LayerPixels, MatchesTheLinesOfTheBackground)
 {
@@ -136,14 +150,7 @@ TEST(LayerPixels, MatchesTheLinesOfTheBackground)
     item.setTransformOrigin(QQuickItem::TopLeft);
     DriftLines lines;
     const int count = qEnvironmentVariable("TQ_PIXEL_LINES", QStringLiteral("24")).toInt();
-    // Plain, rotated, moved by parts of a pixel, and turned by half a turn.
-    struct Pose
-    {
-        QPointF position;
-        double rotation;
-        double scale;
-        int wrongLines = 0;
-    };
+    // Plain twice, rotated twice, moved by parts of a pixel, and turned by half a turn.
     Pose poses[] = {{{0, 0}, 0, 1},    {{0, 0}, 0, 1},       {{60, 0}, 7, 1},
                     {{300, 0}, 30, 1}, {{40.25, 9.5}, 0, 1}, {{390, 844}, 0, -1}};
     for (int round = 0; round < count; ++round) {
@@ -156,12 +163,9 @@ TEST(LayerPixels, MatchesTheLinesOfTheBackground)
         item.setPosition(pose.position);
         item.setRotation(pose.rotation);
         item.setScale(pose.scale);
-        const QTransform transform = QTransform::fromTranslate(pose.position.x(), pose.position.y())
-                                         .rotate(pose.rotation)
-                                         .scale(pose.scale, pose.scale);
         const QImage shown = window.grabWindow();
         const std::string wrong =
-            Testing::differences(moved(layer.path, transform), 1, scale, shown.width(), shown.height(),
+            Testing::differences(moved(layer.path, pose.transform()), 1, scale, shown.width(), shown.height(),
                                  [&](int x, int y) { return darkness(shown, x, y); });
         pose.wrongLines += !wrong.empty();
         if (isExact) {

@@ -16,7 +16,7 @@ namespace {
 using Testing::CountedWindow;
 using Testing::LayerItem;
 
-/// A layer by the real clock, drawn in a thread of the scene graph's own.
+/// A layer that follows the real clock, drawn on a render thread.
 class LayerInItsOwnThread : public testing::Test
 {
 protected:
@@ -35,7 +35,7 @@ protected:
         EXPECT_TRUE(!window || window->rests());
     }
 
-    // How often the main thread wakes up meanwhile, the end of the wait not counted.
+    // Wake-ups of the GUI thread within that time, without the one at its end.
     static int wakeUpsWithin(int milliseconds)
     {
         int wakeUps = 0;

@@ -45,6 +45,10 @@ def qml_functions(lines):
 def has_contract(path, lines):
     """Whether a comment stands before the type that the header is named after; without one, before its first
     declaration."""
+    # A header of constants documents its namespace.
+    if any(re.match(rf"namespace [\w:]+::{path.stem} {{", line) and lines[k - 1].startswith("///")
+           for k, line in enumerate(lines)):
+        return True
     declaration = r"(?!using|namespace|extern|static_assert|Q_|QT_|[{}])[A-Za-z]"
     forward = r"(class|struct|enum class) [\w:]+;"
     named = [k for k, line in enumerate(lines)

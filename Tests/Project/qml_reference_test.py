@@ -16,7 +16,7 @@ failures = []
 
 # Helpers of a type written in QML, which apps do not use.
 HELPERS = {"TQAppView": {"mirrored", "step", "farthest", "siblings", "scrollTo", "scrollToStart", "open"}}
-NAMES = {"QString": "string", "QStringList": "list<string>", "QVariant": "var", "QColor": "color", "QImage": "image",
+NAMES = {"QString": "string", "QStringList": "list<string>", "QVariant": "var", "QColor": "color", "QImage": "image", "QUrl": "url",
          "TQFoundation::Color": "tqColor", "TQFoundation::TQApp": "tqApp", "QQuickWindow": "Window",
          "QQuickItem": "Item", "QObject": "QtObject", "": ""}
 

@@ -28,8 +28,8 @@ int main(int argc, char *argv[])
     window.resize(390, 844);
     window.show();
 
-    if (TQGuideView::shouldShowGuide()) {
-        const TQApp app = TQApp::hazel;
+    const TQApp app = TQApp::hazel;
+    if (!app.guideText().isEmpty() && TQGuideView::shouldShowGuide()) {
         const auto guide = TQGuideView::initFromNib(app.tintColor(), app.guideText(), [] { qInfo("Welcome."); });
         guide->showGuide(&window);
     }

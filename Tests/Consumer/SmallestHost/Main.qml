@@ -2,12 +2,12 @@ import QtQuick
 import TQFoundation
 
 Window {
-    id: root
-    width: 390; height: 844; visible: true
+    id: root; width: 390; height: 844; visible: true
     title: TQApp.name
-    Component.onCompleted: if (guide.shouldShowGuide()) guide.showGuide(root)
+    readonly property tqApp app: TQApp.hazel
+    Component.onCompleted: if (app.guideText.length > 0 && guide.shouldShowGuide()) guide.showGuide(root)
 
-    TQGuide { id: guide; tintColor: TQApp.hazel.tintColor; descriptions: TQApp.hazel.guideText }
-    TQAppView { app: TQApp.hazel; width: root.width }
+    TQGuide { id: guide; tintColor: root.app.tintColor; descriptions: root.app.guideText }
+    TQAppView { app: root.app; width: root.width }
     Text { text: TQMore.versionText; y: 60 }
 }

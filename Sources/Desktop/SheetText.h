@@ -36,10 +36,11 @@ public:
         MailFailed,
         MailProgramCrashed,
         MailProgramTimedOut,
-        // Browser: buttons
+        // Browser: labels and buttons
         Close,
         Back,
         Reload,
+        Loading,
         // Browser: why there is no page
         PageUnreachable,
         PageInsecure,

@@ -90,7 +90,11 @@ WebEngineView {
     onJavaScriptConsoleMessage: {}
     onJavaScriptDialogRequested: request => {
         request.accepted = true;
-        request.dialogReject();
+        // The user may always leave a page.
+        if (request.type === JavaScriptDialogRequest.DialogTypeBeforeUnload)
+            request.dialogAccept();
+        else
+            request.dialogReject();
     }
     onQuotaRequested: request => request.reject()
     onRegisterProtocolHandlerRequested: request => request.reject()

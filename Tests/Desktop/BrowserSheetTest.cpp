@@ -371,6 +371,24 @@ TEST_F(BrowserSheet, FollowsLinksToNewWindowsByExactAddress)
     EXPECT_EQ(titles.first(), titles.last());
 }
 
+TEST_F(BrowserSheet, LeavesPagesThatAskToStay)
+{
+    for (const char *target : {"target=_self", "target=_blank"}) {
+        load(plain + u"/stay-link?" + QLatin1String(target));
+        ASSERT_TRUE(isTitled("stay"));
+        EXPECT_TRUE(clickUntilTitled("Bank of Anywhere")) << target;
+        close();
+    }
+    load(plain + u"/elsewhere-in-place?stay");
+    ASSERT_TRUE(isTitled("link"));
+    ASSERT_TRUE(clickUntilTitled("stay"));
+    ASSERT_TRUE(comes([this] { return button("Back")->isEnabled() && !isLoading(); }));
+    click(web()); // a page that was never clicked cannot ask
+    QTest::qWait(200);
+    click(button("Back"));
+    EXPECT_TRUE(isTitled("link"));
+}
+
 TEST_F(BrowserSheet, FocusesTryAgainIfThereIsNoPage)
 {
     load(secure);

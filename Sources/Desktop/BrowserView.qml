@@ -81,7 +81,6 @@ WebEngineView {
         request.dialogReject();
     }
     onContextMenuRequested: request => request.accepted = true
-    onFeaturePermissionRequested: (securityOrigin, feature) => grantFeaturePermission(securityOrigin, feature, false)
     onFileDialogRequested: request => {
         request.accepted = true;
         request.dialogReject();
@@ -96,11 +95,26 @@ WebEngineView {
         else
             request.dialogReject();
     }
-    onQuotaRequested: request => request.reject()
     onRegisterProtocolHandlerRequested: request => request.reject()
     onSelectClientCertificate: selection => selection.selectNone()
     onTooltipRequested: request => request.accepted = true
     onTouchSelectionMenuRequested: request => request.accepted = true
+
+    // Signals that only some versions of Qt emit: permissionRequested replaces featurePermissionRequested from 6.8 on.
+    Connections {
+        target: root
+        ignoreUnknownSignals: true
+
+        function onFeaturePermissionRequested(securityOrigin, feature) {
+            root.grantFeaturePermission(securityOrigin, feature, false);
+        }
+        function onPermissionRequested(permission) {
+            permission.deny();
+        }
+        function onQuotaRequested(request) {
+            request.reject();
+        }
+    }
 
     Connections {
         target: root.page

@@ -218,6 +218,11 @@ Mit den besten Wünschen und vorzüglicher Hochachtung</translation>
         <translation>Neu laden</translation>
     </message>
     <message>
+        <source>Loading…</source>
+        <extracomment>Below the name of a site while a page is being loaded, in the in-app browser.</extracomment>
+        <translation>Wird geladen …</translation>
+    </message>
+    <message>
         <source>There is no mail program on this device.</source>
         <extracomment>Why a mail was not sent.</extracomment>
         <translation>Auf diesem Gerät gibt es kein Mailprogramm.</translation>

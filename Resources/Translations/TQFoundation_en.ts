@@ -218,6 +218,11 @@ Best regards.</translation>
         <translation>Reload</translation>
     </message>
     <message>
+        <source>Loading…</source>
+        <extracomment>Below the name of a site while a page is being loaded, in the in-app browser.</extracomment>
+        <translation>Loading…</translation>
+    </message>
+    <message>
         <source>There is no mail program on this device.</source>
         <extracomment>Why a mail was not sent.</extracomment>
         <translation>There is no mail program on this device.</translation>

@@ -218,6 +218,11 @@ Reciba mis más respetuosos saludos y mis mejores deseos.</translation>
         <translation>Recargar</translation>
     </message>
     <message>
+        <source>Loading…</source>
+        <extracomment>Below the name of a site while a page is being loaded, in the in-app browser.</extracomment>
+        <translation>Cargando…</translation>
+    </message>
+    <message>
         <source>There is no mail program on this device.</source>
         <extracomment>Why a mail was not sent.</extracomment>
         <translation>No hay ningún programa de correo en este dispositivo.</translation>

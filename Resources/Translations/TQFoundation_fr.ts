@@ -218,6 +218,11 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
         <translation>Recharger</translation>
     </message>
     <message>
+        <source>Loading…</source>
+        <extracomment>Below the name of a site while a page is being loaded, in the in-app browser.</extracomment>
+        <translation>Chargement…</translation>
+    </message>
+    <message>
         <source>There is no mail program on this device.</source>
         <extracomment>Why a mail was not sent.</extracomment>
         <translation>Aucun programme de messagerie n’est installé sur cet appareil.</translation>

@@ -218,6 +218,11 @@ Best regards.</source>
         <translation>फिर से लोड करें</translation>
     </message>
     <message>
+        <source>Loading…</source>
+        <extracomment>Below the name of a site while a page is being loaded, in the in-app browser.</extracomment>
+        <translation>लोड हो रहा है…</translation>
+    </message>
+    <message>
         <source>There is no mail program on this device.</source>
         <extracomment>Why a mail was not sent.</extracomment>
         <translation>इस डिवाइस पर कोई मेल प्रोग्राम नहीं है।</translation>

@@ -218,6 +218,11 @@ Voglia gradire, con i migliori auguri, i miei più distinti saluti.</translation
         <translation>Ricarica</translation>
     </message>
     <message>
+        <source>Loading…</source>
+        <extracomment>Below the name of a site while a page is being loaded, in the in-app browser.</extracomment>
+        <translation>Caricamento in corso…</translation>
+    </message>
+    <message>
         <source>There is no mail program on this device.</source>
         <extracomment>Why a mail was not sent.</extracomment>
         <translation>Su questo dispositivo non c’è alcun programma di posta.</translation>

@@ -218,6 +218,11 @@ Best regards.</source>
         <translation>새로 고침</translation>
     </message>
     <message>
+        <source>Loading…</source>
+        <extracomment>Below the name of a site while a page is being loaded, in the in-app browser.</extracomment>
+        <translation>불러오는 중…</translation>
+    </message>
+    <message>
         <source>There is no mail program on this device.</source>
         <extracomment>Why a mail was not sent.</extracomment>
         <translation>이 기기에 메일 프로그램이 없습니다.</translation>

@@ -218,6 +218,11 @@ Met de meeste hoogachting en mijn beste wensen</translation>
         <translation>Herlaad</translation>
     </message>
     <message>
+        <source>Loading…</source>
+        <extracomment>Below the name of a site while a page is being loaded, in the in-app browser.</extracomment>
+        <translation>Laden…</translation>
+    </message>
+    <message>
         <source>There is no mail program on this device.</source>
         <extracomment>Why a mail was not sent.</extracomment>
         <translation>Er is geen mailprogramma op dit apparaat.</translation>

@@ -218,6 +218,11 @@ Receba meus sinceros votos de estima e consideração.</translation>
         <translation>Recarregar</translation>
     </message>
     <message>
+        <source>Loading…</source>
+        <extracomment>Below the name of a site while a page is being loaded, in the in-app browser.</extracomment>
+        <translation>Carregando…</translation>
+    </message>
+    <message>
         <source>There is no mail program on this device.</source>
         <extracomment>Why a mail was not sent.</extracomment>
         <translation>Não há nenhum programa de e-mail neste dispositivo.</translation>

@@ -2,7 +2,8 @@ import QtQuick
 import QtWebEngine
 import TQFoundation
 
-// The bar of the in-app browser: Close, Back, the name of the site and Reload, above a progress bar while loading.
+// The bar of the in-app browser: Close, Back, the name of the site and Reload. While a page is being loaded it shows a
+// text and a progress bar.
 Item {
     id: root
 
@@ -17,7 +18,8 @@ Item {
     signal closeClicked
     signal reloadClicked
 
-    height: Math.max(56, siteLabel.height + 16)
+    // Leaves room for both texts, so that the page does not move when loading ends.
+    height: Math.max(56, siteLabel.implicitHeight + loadingLabel.implicitHeight + 16)
 
     BarButton {
         id: close
@@ -53,22 +55,35 @@ Item {
         }
     }
 
-    Text {
-        id: siteLabel
-
+    Column {
         anchors { left: parent.left; right: parent.right; margins: 2 * close.width + 6; verticalCenter: parent.verticalCenter }
-        text: root.site
-        textFormat: Text.PlainText
-        horizontalAlignment: Text.AlignHCenter
-        verticalAlignment: Text.AlignVCenter
-        fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: Math.round(0.7 * root.sheet.textSize)
-        // The end of a host name is the part that its owner cannot choose freely.
-        elide: Text.ElideLeft
-        font { pixelSize: root.sheet.textSize; weight: Font.DemiBold }
-        color: root.sheet.ink
-        Accessible.role: Accessible.Heading
-        Accessible.name: text
+
+        BarText {
+            id: siteLabel
+
+            width: parent.width
+            text: root.site
+            minimumPixelSize: Math.round(0.7 * root.sheet.textSize)
+            // The end of a host name is the part that its owner cannot choose freely.
+            elide: Text.ElideLeft
+            font { pixelSize: root.sheet.textSize; weight: Font.DemiBold }
+            color: root.sheet.ink
+            Accessible.role: Accessible.Heading
+        }
+
+        BarText {
+            id: loadingLabel
+
+            width: parent.width
+            // Hidden if it does not fit, even in its smallest size.
+            visible: root.web.loading && implicitWidth * (minimumPixelSize + 1) <= width * font.pixelSize
+            text: SheetText.of(SheetText.Loading)
+            minimumPixelSize: 11
+            elide: Text.ElideRight
+            font.pixelSize: Math.round(0.75 * root.sheet.textSize)
+            color: root.sheet.quietInk
+            Accessible.role: Accessible.StaticText
+        }
     }
 
     BarButton {
@@ -104,11 +119,20 @@ Item {
         color: root.tint
         Accessible.role: Accessible.ProgressBar
         Accessible.name: root.web.loadProgress + "%"
+        Accessible.description: loadingLabel.text
     }
 
     component BarButton: SheetButton {
         horizontalPadding: 0
         verticalPadding: 0
+    }
+
+    component BarText: Text {
+        textFormat: Text.PlainText
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        fontSizeMode: Text.HorizontalFit
+        Accessible.name: text
     }
 
     component Icon: Item {

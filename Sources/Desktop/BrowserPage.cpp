@@ -45,6 +45,14 @@ QString BrowserPage::siteOf(const QUrl &shown) const
     return shown.scheme() == u"https" ? authority : QString(u"http://" + authority);
 }
 
+QString BrowserPage::linkScript(const QUrl &target) const
+{
+    // An encoded URL contains no quotation mark and no backslash. XML documents do not create HTML elements by default.
+    return QStringLiteral("Object.assign(document.createElementNS('http://www.w3.org/1999/xhtml', 'a'), {href: \"%1\", "
+                          "rel: 'noreferrer'}).click()")
+        .arg(QString::fromLatin1(target.toEncoded()));
+}
+
 void BrowserPage::beginLoading()
 {
     setProblem(NoProblem);

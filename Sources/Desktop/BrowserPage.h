@@ -61,6 +61,9 @@ public:
     /// page.
     Q_INVOKABLE QString siteOf(const QUrl &shown) const;
 
+    /// A script that clicks a link to \a target without a referrer. Run it in a page, but not in the page's own world.
+    Q_INVOKABLE QString linkScript(const QUrl &target) const;
+
     /// Call it when a page starts to load. Clears the problem and starts the timeout.
     Q_INVOKABLE void beginLoading();
 

@@ -40,7 +40,7 @@ Sheet {
             sheet: root
             tint: root.tint
             web: view
-            site: root.page.siteOf(view.url)
+            site: root.page.siteOf(notice.coversPage && root.page.problem !== BrowserPage.Crashed ? view.requestedUrl : view.url)
             onCloseClicked: root.page.closed()
             onReloadClicked: root.load()
         }

@@ -10,44 +10,29 @@ WebEngineView {
     required property BrowserPage page
 
     readonly property bool hasContent: contentsSize.height > 0
-    // The page that is shown, or would be if it had loaded.
+    // The page that began to load last.
     property url requestedUrl: page.url
 
-    // Reloads the page, or loads the requested one if it is not shown.
+    // Reloads the shown page, or loads the requested one after a problem.
     function load() {
         if (page.problem === BrowserPage.NoProblem && hasContent)
             reload();
-        else
+        else if (page.problem === BrowserPage.Crashed || !hasContent || page.siteOf(url) === page.siteOf(requestedUrl))
             url = requestedUrl;
+        else
+            follow(requestedUrl);
+    }
+
+    // Navigates as a link in the shown page would. `url` remains the address of the shown page until another one
+    // arrives; assigning to `url` would change it at once, so that the shown page could pose as another site.
+    function follow(target: url) {
+        runJavaScript(page.linkScript(target), WebEngineScript.ApplicationWorld); // qmllint disable unqualified
     }
 
     // Keeps nothing on disk. Refuses downloads, because nothing accepts them.
-    readonly property WebEngineProfile privateProfile: WebEngineProfile {
+    profile: WebEngineProfile {
         offTheRecord: true
     }
-
-    // Replaces the server's error page if it is empty. The web view reports the error before it has received the text.
-    readonly property Timer errorPageCheck: Timer {
-        interval: 700
-        onTriggered: {
-            root.page.endLoading();
-            root.runJavaScript("document.documentElement.innerText.trim() === ''", isEmpty => {
-                if (isEmpty && !root.loading)
-                    root.page.fail(BrowserPage.Unreachable);
-            });
-        }
-    }
-
-    readonly property Connections timeout: Connections {
-        target: root.page
-
-        function onProblemChanged() {
-            if (root.page.problem === BrowserPage.TimedOut)
-                root.stop();
-        }
-    }
-
-    profile: privateProfile
     // The default of web pages that set no colours of their own.
     backgroundColor: "#ffffff"
     settings {
@@ -83,7 +68,7 @@ WebEngineView {
     }
     onNewWindowRequested: request => {
         if (request.userInitiated && page.canOpen(request.requestedUrl, true))
-            url = request.requestedUrl;
+            follow(request.requestedUrl);
     }
 
     onAuthenticationDialogRequested: request => {
@@ -96,7 +81,6 @@ WebEngineView {
         request.dialogReject();
     }
     onContextMenuRequested: request => request.accepted = true
-    onFeaturePermissionRequested: (securityOrigin, feature) => grantFeaturePermission(securityOrigin, feature, false)
     onFileDialogRequested: request => {
         request.accepted = true;
         request.dialogReject();
@@ -105,11 +89,53 @@ WebEngineView {
     onJavaScriptConsoleMessage: {}
     onJavaScriptDialogRequested: request => {
         request.accepted = true;
-        request.dialogReject();
+        // The user may always leave a page.
+        if (request.type === JavaScriptDialogRequest.DialogTypeBeforeUnload)
+            request.dialogAccept();
+        else
+            request.dialogReject();
     }
-    onQuotaRequested: request => request.reject()
     onRegisterProtocolHandlerRequested: request => request.reject()
     onSelectClientCertificate: selection => selection.selectNone()
     onTooltipRequested: request => request.accepted = true
     onTouchSelectionMenuRequested: request => request.accepted = true
+
+    // Signals that only some versions of Qt emit: permissionRequested replaces featurePermissionRequested from 6.8 on.
+    Connections {
+        target: root
+        ignoreUnknownSignals: true
+
+        function onFeaturePermissionRequested(securityOrigin, feature) {
+            root.grantFeaturePermission(securityOrigin, feature, false);
+        }
+        function onPermissionRequested(permission) {
+            permission.deny();
+        }
+        function onQuotaRequested(request) {
+            request.reject();
+        }
+    }
+
+    Connections {
+        target: root.page
+
+        function onProblemChanged() {
+            if (root.page.problem === BrowserPage.TimedOut)
+                root.stop();
+        }
+    }
+
+    // Replaces the server's error page if it is empty. The web view reports the error before it has received the text.
+    Timer {
+        id: errorPageCheck
+
+        interval: 700
+        onTriggered: {
+            root.page.endLoading();
+            root.runJavaScript("document.documentElement.innerText.trim() === ''", isEmpty => {
+                if (isEmpty && !root.loading)
+                    root.page.fail(BrowserPage.Unreachable);
+            });
+        }
+    }
 }

@@ -76,6 +76,8 @@ constexpr std::array texts{
     Text{SheetText::Back, QT_TRANSLATE_NOOP("TQFoundationInterface", "Back")},
     //: Button that loads the page once more, in the in-app browser.
     Text{SheetText::Reload, QT_TRANSLATE_NOOP("TQFoundationInterface", "Reload")},
+    //: Below the name of a site while a page is being loaded, in the in-app browser.
+    Text{SheetText::Loading, QT_TRANSLATE_NOOP("TQFoundationInterface", "Loading…")},
 
     //: Stands in place of a web page.
     Text{SheetText::PageUnreachable,

@@ -40,10 +40,11 @@ public:
         MailFailed,
         MailProgramCrashed,
         MailProgramTimedOut,
-        // Browser: buttons
+        // Browser: labels and buttons
         Close,
         Back,
         Reload,
+        Loading,
         // Browser: errors of loading
         PageUnreachable,
         PageInsecure,

@@ -37,6 +37,14 @@ TEST(BrowserPage, NamesTheHostAndMarksUnencryptedConnections)
     EXPECT_EQ(siteOf("data:text/html,bank.example"), QString());
 }
 
+TEST(BrowserPage, QuotesTheTargetInItsLinkScript)
+{
+    const QString script = BrowserPage().linkScript(QUrl(QStringLiteral("https://links.example/\"\\\u2028'?\"#\\")));
+    EXPECT_TRUE(script.contains(QStringLiteral("{href: \"https://links.example/%22%5C%E2%80%A8'?%22#%5C\", rel: ")))
+        << script.toStdString();
+    EXPECT_EQ(script.count(u'"'), 2);
+}
+
 TEST(BrowserPage, TimesOutAfterThirtySeconds)
 {
     Testing::InstalledRecordingPlatform platform;

@@ -7,6 +7,7 @@
 #include <QtGui/qopenglcontext.h>
 #include <QtNetwork/qtcpserver.h>
 #include <QtNetwork/qtcpsocket.h>
+#include <QtTest/qsignalspy.h>
 
 #include <algorithm>
 #include <csignal>
@@ -252,6 +253,142 @@ TEST_F(BrowserSheet, GoesBackToThePreviousPage)
     EXPECT_TRUE(isTitled("link"));
 }
 
+TEST_F(BrowserSheet, NamesTheShownPageWhileAnotherLoads)
+{
+    for (const char *page : {"/elsewhere-in-place", "/elsewhere", "/elsewhere-in-frame", "/elsewhere-rewriting"}) {
+        load(plain + QLatin1String(page) + u"?silent");
+        ASSERT_TRUE(isTitled("link")) << page;
+        const QSignalSpy names(text(plain.toUtf8().constData()), SIGNAL(textChanged(QString)));
+        ASSERT_TRUE(clickUntilLoading()) << page;
+        QTest::qWait(200);
+        EXPECT_TRUE(isLoadingShown()) << page;
+        platform->advance(31);
+        settle();
+        EXPECT_TRUE(text(timedOutText)) << page;
+        EXPECT_TRUE(web()->isVisible()) << page;
+        ASSERT_TRUE(comes([this] { return !isLoading(); })) << page;
+        EXPECT_TRUE(comes([this] { return !isLoadingShown(); })) << page;
+        click(button("Try Again"));
+        ASSERT_TRUE(comes([this] { return isLoading(); })) << page;
+        QTest::qWait(200);
+        EXPECT_TRUE(isNamed(plain)) << page;
+        EXPECT_EQ(names.size(), 0) << page;
+        close();
+    }
+}
+
+TEST_F(BrowserSheet, NamesTheNextPageOnceItIsShown)
+{
+    for (const char *page : {"/elsewhere-in-place", "/elsewhere"}) {
+        load(plain + QLatin1String(page) + u"?endless");
+        ASSERT_TRUE(isTitled("link"));
+        ASSERT_TRUE(clickUntilTitled("endless")) << page;
+        EXPECT_TRUE(isNamed(elsewhere)) << page;
+        EXPECT_TRUE(isLoading()) << page;
+        EXPECT_TRUE(isLoadingShown()) << page;
+        close();
+        load(plain + QLatin1String(page) + u"?redirect");
+        ASSERT_TRUE(isTitled("link"));
+        ASSERT_TRUE(clickUntilTitled("Bank of Anywhere")) << page;
+        EXPECT_TRUE(isNamed(elsewhere)) << page;
+        close();
+    }
+    load(plain + u"/redirect-elsewhere");
+    EXPECT_TRUE(isTitled("Bank of Anywhere"));
+    EXPECT_TRUE(isNamed(elsewhere));
+}
+
+TEST_F(BrowserSheet, KeepsTheNameIfALinkIsADownload)
+{
+    load(plain + u"/elsewhere?attachment");
+    ASSERT_TRUE(isTitled("link"));
+    const QSignalSpy names(text(plain.toUtf8().constData()), SIGNAL(textChanged(QString)));
+    const QSignalSpy progress(web(), SIGNAL(loadProgressChanged()));
+    ASSERT_TRUE(comes([this, &progress] {
+        click(web());
+        QTest::qWait(200);
+        return progress.size() > 0 && !isLoading();
+    }));
+    EXPECT_FALSE(isProblemShown());
+    EXPECT_EQ(names.size(), 0);
+}
+
+TEST_F(BrowserSheet, NamesTheFailedPageOnlyBesideItsErrorMessage)
+{
+    load(plain + u"/elsewhere?round");
+    ASSERT_TRUE(isTitled("link"));
+    ASSERT_TRUE(clickUntilLoading());
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        ASSERT_TRUE(comes([this] {
+            EXPECT_TRUE(isNamed(web()->isVisible() ? plain : elsewhere));
+            return isProblemShown();
+        }));
+        EXPECT_TRUE(text(unreachableText));
+        EXPECT_TRUE(isNamed(elsewhere));
+        click(button("Try Again"));
+        ASSERT_TRUE(comes([this] { return isLoading(); }));
+    }
+}
+
+TEST_F(BrowserSheet, NamesTheShownPageWhileGoingBack)
+{
+    load(plain + u"/silent-later?");
+    ASSERT_TRUE(isTitled("link"));
+    ASSERT_TRUE(clickUntilTitled("Bank of Anywhere"));
+    ASSERT_TRUE(comes([this] { return button("Back")->isEnabled() && !isLoading(); }));
+    click(button("Back"));
+    ASSERT_TRUE(comes([this] { return isLoading(); }));
+    QTest::qWait(200);
+    EXPECT_TRUE(isNamed(elsewhere));
+    EXPECT_TRUE(isLoadingShown());
+}
+
+TEST_F(BrowserSheet, FollowsLinksToNewWindowsInAnyDocument)
+{
+    for (const char *page : {"/sandboxed", "/drawing"}) {
+        load(plain + QLatin1String(page));
+        ASSERT_TRUE(isTitled("link")) << page;
+        EXPECT_TRUE(clickUntilTitled("Bank of Anywhere")) << page;
+        EXPECT_TRUE(isNamed(elsewhere)) << page;
+        ASSERT_TRUE(comes([this] { return button("Back")->isEnabled(); }));
+        click(button("Back"));
+        EXPECT_TRUE(isTitled("link")) << page;
+        close();
+    }
+}
+
+TEST_F(BrowserSheet, FollowsLinksToNewWindowsByExactAddress)
+{
+    QStringList titles;
+    for (const char *target : {"target=_self", "target=_blank"}) {
+        load(plain + u"/echo-links?" + QLatin1String(target));
+        ASSERT_TRUE(isTitled("links"));
+        ASSERT_TRUE(clickUntilLoading());
+        ASSERT_TRUE(comes([this] { return title().startsWith(u"/echo?"); })) << target;
+        titles += title();
+        close();
+    }
+    EXPECT_EQ(titles.first(), titles.last());
+}
+
+TEST_F(BrowserSheet, LeavesPagesThatAskToStay)
+{
+    for (const char *target : {"target=_self", "target=_blank"}) {
+        load(plain + u"/stay-link?" + QLatin1String(target));
+        ASSERT_TRUE(isTitled("stay"));
+        EXPECT_TRUE(clickUntilTitled("Bank of Anywhere")) << target;
+        close();
+    }
+    load(plain + u"/elsewhere-in-place?stay");
+    ASSERT_TRUE(isTitled("link"));
+    ASSERT_TRUE(clickUntilTitled("stay"));
+    ASSERT_TRUE(comes([this] { return button("Back")->isEnabled() && !isLoading(); }));
+    click(web()); // a page that was never clicked cannot ask
+    QTest::qWait(200);
+    click(button("Back"));
+    EXPECT_TRUE(isTitled("link"));
+}
+
 TEST_F(BrowserSheet, FocusesTryAgainIfThereIsNoPage)
 {
     load(secure);
@@ -297,31 +434,39 @@ class BrowserSheetIn : public BrowserSheet, public testing::WithParamInterface<c
 {
 protected:
     BrowserSheetIn() { Testing::useLanguage(GetParam()); }
+
+    /// Expects a whole sheet in every window, except that \a address may be elided at its start.
+    void expectFitsAnyWindow(const QString &address)
+    {
+        const QQuickItem *const sheet = Layout::popupOf(web());
+        for (const QSize size :
+             {QSize(320, 568), QSize(1280, 800), QSize(390, 844), QSize(240, 240), QSize(820, 1180)}) {
+            window->resize(size);
+            settle();
+            window->grabWindow();
+            QStringList flaws = Layout::flawsOf(sheet);
+            flaws.removeIf([&address](const QString &flaw) { return flaw.contains(address) && flaw.endsWith(u"cut"); });
+            EXPECT_EQ(flaws, QStringList()) << size.width();
+            EXPECT_TRUE(Layout::isInSight(window->activeFocusItem())) << size.width();
+        }
+    }
 };
 
 TEST_P(BrowserSheetIn, FitsAnyWindowAndTextSize)
 {
-    const QSize sizes[] = {{320, 568}, {1280, 800}, {390, 844}, {240, 240}, {820, 1180}};
     for (const double points : {9.0, 18.0}) {
         QFont font = QGuiApplication::font();
         font.setPointSizeF(points);
         QGuiApplication::setFont(font);
         browse(secure);
-        const QQuickItem *const page = web();
-        ASSERT_TRUE(comes([page] { return !page->isVisible(); }));
+        ASSERT_TRUE(comes([this] { return !web()->isVisible(); }));
         settle();
-        const QQuickItem *const sheet = Layout::popupOf(window->activeFocusItem());
-        for (const QSize size : sizes) {
-            window->resize(size);
-            settle();
-            window->grabWindow();
-            // A long address is elided at its start.
-            QStringList flaws = Layout::flawsOf(sheet);
-            flaws.removeIf(
-                [this](const QString &flaw) { return flaw.contains(secure.mid(8)) && flaw.endsWith(u"cut"); });
-            EXPECT_EQ(flaws, QStringList()) << size.width();
-            EXPECT_TRUE(Layout::isInSight(window->activeFocusItem())) << size.width();
-        }
+        expectFitsAnyWindow(secure.mid(8));
+        root->dismiss();
+        slide();
+        browse(plain + u"/silent");
+        ASSERT_TRUE(comes([this] { return isLoading(); }));
+        expectFitsAnyWindow(plain.mid(7));
         root->dismiss();
         slide();
     }

@@ -20,6 +20,7 @@ protected:
         EXPECT_TRUE(comes([this] { return server.canReadLine(); }));
         const QList<QByteArray> ports = server.readLine().trimmed().split(' ');
         plain = u"http://127.0.0.1:" + QString::fromLatin1(ports.value(0));
+        elsewhere = u"http://localhost:" + QString::fromLatin1(ports.value(0));
         secure = u"https://127.0.0.1:" + QString::fromLatin1(ports.value(1));
     }
 
@@ -62,6 +63,11 @@ protected:
     bool isProblemShown() const { return button("Try Again"); }
     QString title() const { return web()->property("title").toString(); }
 
+    /// Whether the bar names the site \a address.
+    bool isNamed(const QString &address) const { return text(address.toUtf8().constData()); }
+    /// Whether the bar says that a page is being loaded.
+    bool isLoadingShown() const { return text("Loading…"); }
+
     /// Waits until the title of the page is \a text. False after the timeout.
     bool isTitled(const char *text) const
     {
@@ -71,11 +77,13 @@ protected:
     /// Clicks the page until the title is \a text: a page that was just loaded may ignore the first clicks.
     bool clickUntilTitled(const char *text)
     {
-        return comes([this, text] {
-            click(web());
-            QTest::qWait(50);
-            return title() == QLatin1String(text);
-        });
+        return clickUntil([this, text] { return title() == QLatin1String(text); });
+    }
+
+    /// Clicks the page until another one is being loaded.
+    bool clickUntilLoading()
+    {
+        return clickUntil([this] { return isLoading(); });
     }
 
     /// The process ids of the render processes. Each is a child of a child of this process.
@@ -100,9 +108,20 @@ protected:
 
     QProcess server;
     QString plain; ///< The server's address over HTTP, without a path.
+    QString elsewhere; ///< The same address under another host name: for the browser, another site.
     QString secure; ///< The server's address over HTTPS with a self-signed certificate, without a path.
 
 private:
+    template <typename Condition>
+    bool clickUntil(const Condition &condition)
+    {
+        return comes([this, &condition] {
+            click(web());
+            QTest::qWait(50);
+            return condition();
+        });
+    }
+
     static QQuickItem *findWeb(const QQuickItem *from)
     {
         const QList<QQuickItem *> children = from->childItems();

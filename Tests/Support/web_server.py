@@ -3,6 +3,7 @@
 Prints two ports, for HTTP and for HTTPS with a self-signed certificate, and runs until its standard input is closed.
 Key and certificate are written to FOLDER. Each path is named after the behaviour of its page."""
 
+import html
 import http.server
 import pathlib
 import ssl
@@ -11,6 +12,7 @@ import sys
 import threading
 
 folder = pathlib.Path(sys.argv[1])
+asked = set()
 
 PAGES = {
     "/": "<title>Bank of Anywhere</title><h1>Filing</h1><p>A page.",
@@ -34,9 +36,25 @@ PAGES = {
              "document.cookie = 'c=1; max-age=9999'; localStorage.k = 1;</script>",
     "/frames": "<title>frames</title><iframe srcdoc='inner'></iframe><iframe src='about:blank'></iframe>"
                "<iframe src='data:text/html,inner'></iframe>",
+    "/stay": "<title>stay</title><script>addEventListener('beforeunload', e => { e.preventDefault();"
+             "e.returnValue = 'stay'; })</script><p>This page asks whether to leave it.",
     "/scripts": "<script>let n = 0; for (let i = 0; i < 2000; ++i) { const e = document.createElement('p');"
                 "e.textContent = i; document.documentElement.append(e); n += e.offsetHeight > 0 && i % 10 === 0; }"
                 "document.title = 'scripts';</script>",
+}
+
+# Pages that are one link to this server under another host name. The query of such a page is the path of its link.
+HREF = "'//localhost:' + location.port + '/' + location.search.substring(1)"
+LINK = "<title>link</title><a {} style='position:fixed;inset:0'>elsewhere</a>"
+ELSEWHERE = {
+    "/elsewhere": LINK.format("target=_blank") + f"<script>document.querySelector('a').href = {HREF}</script>",
+    "/elsewhere-in-place": LINK.format("") + f"<script>document.querySelector('a').href = {HREF}</script>",
+    "/elsewhere-in-frame": "<iframe style='position:fixed;inset:0;width:100%;height:100%'></iframe><title>link</title>"
+                           "<script>document.querySelector('iframe').srcdoc = '<a target=_blank "
+                           f"style=position:fixed;inset:0 href=' + {HREF} + '>elsewhere</a>'</script>",
+    "/elsewhere-rewriting": LINK.format("target=_blank") + f"<script>document.querySelector('a').href = {HREF};"
+                            "HTMLElement.prototype.click = document.createElementNS = () => null; let n = 0;"
+                            "setInterval(() => history.pushState(0, '', '/' + ++n % 10), 20);</script>",
 }
 
 
@@ -55,8 +73,30 @@ class Pages(http.server.BaseHTTPRequestHandler):
         self.wfile.write(data)
 
     def do_GET(self):
+        path, _, query = self.path.partition("?")
         if self.path in PAGES:
             self.answer(PAGES[self.path])
+        elif path in ELSEWHERE:
+            self.answer(ELSEWHERE[path])
+        elif path == "/stay-link":
+            self.answer(PAGES["/stay"] + f"<a {query} href='/' style='position:fixed;inset:0'>all of the page leads on</a>")
+        elif path == "/sandboxed":
+            self.answer(LINK.format(f"target=_blank href='//localhost:{self.server.server_port}/'"),
+                        Content_Security_Policy="sandbox allow-popups; default-src 'none'; style-src 'unsafe-inline'")
+        elif path == "/drawing":
+            self.answer("<svg xmlns='http://www.w3.org/2000/svg'><title>link</title>"
+                        f"<a target='_blank' href='//localhost:{self.server.server_port}/'>"
+                        "<rect width='100%' height='100%'/></a></svg>", Content_Type="image/svg+xml")
+        elif path == "/echo":
+            self.answer("<title>" + html.escape(self.path) + "</title>")
+        elif path == "/echo-links":
+            self.answer(f"<title>links</title><a {query} style='position:fixed;inset:0' "
+                        "href='/echo?%20%22%23%25%2B%26+&amp;%C3%A9&#233;%E4&lt;\"&#x2028;#f'>odd characters</a>")
+        elif path == "/silent-later":
+            if path in asked:
+                stopped.wait()
+            asked.add(path)
+            self.answer(ELSEWHERE["/elsewhere-in-place"], Cache_Control="no-store")
         elif self.path == "/silent":
             stopped.wait()
         elif self.path == "/endless":
@@ -78,6 +118,8 @@ class Pages(http.server.BaseHTTPRequestHandler):
             self.answer("<title>not found</title><h1>Nothing here</h1>", 404)
         elif self.path == "/redirect":
             self.answer("", 302, Location="/")
+        elif self.path == "/redirect-elsewhere":
+            self.answer("", 302, Location=f"http://localhost:{self.server.server_port}/")
         elif self.path == "/round":
             self.answer("", 302, Location="/round")
         elif self.path == "/attachment":

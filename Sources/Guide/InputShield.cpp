@@ -78,16 +78,20 @@ void InputShield::takeFocus()
         return;
     QQuickItem *const content = m_window->contentItem();
     QQuickItem *const focused = focusedItem(*m_window);
-    if (enclosingOverlay(focused) == m_overlay)
-        return;
-    if (focused != content)
-        m_previousFocus = focused;
-    m_overlay->forceActiveFocus();
+    if (enclosingOverlay(focused) != m_overlay) {
+        if (focused != content)
+            m_previousFocus = focused;
+        m_overlay->forceActiveFocus();
+    }
     // Works around Qt: an item whose window was destroyed still reports active focus, and the next inactive window
-    // would keep a dangling pointer to it.
+    // would keep a dangling pointer to it. Here it becomes the window's focus item, which the content item then clears.
     if (!content->hasFocus() && m_overlay->hasActiveFocus()) {
+        QQuickItem *const inner = m_overlay->scopedFocusItem();
+        setFocus(true);
+        setFocus(false);
         content->setFocus(true);
-        content->setFocus(false);
+        if (inner)
+            inner->setFocus(true);
     }
 }
 
@@ -159,23 +163,12 @@ void InputShield::suspendPopupFilters()
 
 bool InputShield::event(QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::DragEnter:
+    if (event->type() == QEvent::DragEnter)
         static_cast<QDragEnterEvent *>(event)->setDropAction(Qt::IgnoreAction);
-        [[fallthrough]];
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseMove:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::Wheel:
-    case QEvent::HoverEnter:
-    case QEvent::HoverMove:
-    case QEvent::HoverLeave:
-        event->accept();
-        return true;
-    default:
+    else if (!event->isPointerEvent())
         return QQuickItem::event(event);
-    }
+    event->accept();
+    return true;
 }
 
 bool InputShield::eventFilter(QObject *watched, QEvent *event)

@@ -27,4 +27,19 @@ void addAsTopmostChild(QQuickItem *item, QQuickItem *host)
         item->stackAfter(last);
 }
 
+bool isAbove(const QQuickItem *item, const QQuickItem *other)
+{
+    if (item->isAncestorOf(other) || other->isAncestorOf(item))
+        return false;
+    while (item->parentItem() && !item->parentItem()->isAncestorOf(other))
+        item = item->parentItem();
+    const QQuickItem *const parent = item->parentItem();
+    if (!parent)
+        return false;
+    while (other->parentItem() != parent)
+        other = other->parentItem();
+    const QList<QQuickItem *> siblings = parent->childItems();
+    return item->z() > other->z() || (item->z() == other->z() && siblings.indexOf(item) > siblings.indexOf(other));
+}
+
 } // namespace TQFoundation

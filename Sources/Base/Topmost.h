@@ -9,4 +9,8 @@ namespace TQFoundation {
 /// \a host. GUI thread.
 void addAsTopmostChild(QQuickItem *item, QQuickItem *host);
 
+/// Whether \a item is painted above \a other. False if they have no common ancestor or if one is the other or contains
+/// it. Neither may be null. GUI thread.
+bool isAbove(const QQuickItem *item, const QQuickItem *other);
+
 } // namespace TQFoundation

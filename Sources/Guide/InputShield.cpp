@@ -1,13 +1,14 @@
 #include "InputShield.h"
 
+#include "Topmost.h"
+#include "TQFoundation/ViewController.h"
+
 #include <QtCore/qcoreapplication.h>
 #include <QtGui/qevent.h>
 #include <QtGui/qpointingdevice.h>
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
-#include <vector>
 
 namespace TQFoundation {
 namespace {
@@ -46,14 +47,28 @@ QQuickItem *focusedItem(const QQuickWindow &window)
     return item;
 }
 
-// The popup overlays of \a window.
-std::vector<QQuickItem *> popupLayers(const QQuickWindow &window)
+// The item that contains the popups of \a window; null if it has none yet.
+QQuickItem *popupLayer(const QQuickWindow &window)
 {
     const QList<QQuickItem *> children = window.contentItem()->childItems();
-    std::vector<QQuickItem *> layers;
-    std::ranges::copy_if(children, std::back_inserter(layers),
-                         [](const QQuickItem *child) { return child->inherits("QQuickOverlay"); });
-    return layers;
+    const auto layer =
+        std::ranges::find_if(children, [](const QQuickItem *child) { return child->inherits("QQuickOverlay"); });
+    return layer == children.end() ? nullptr : *layer;
+}
+
+bool isInside(const QQuickItem &item, const QQuickItem *other)
+{
+    return other && (other == &item || item.isAncestorOf(other));
+}
+
+// Whether any point of \a event was pressed inside \a item. Hover events have no pressed points.
+bool isPressedInside(const QQuickItem &item, const QPointerEvent &event)
+{
+    const bool isHover =
+        event.type() == QEvent::MouseMove && static_cast<const QMouseEvent &>(event).buttons() == Qt::NoButton;
+    return !isHover && std::ranges::any_of(event.points(), [&item](const QEventPoint &point) {
+        return item.contains(item.mapFromScene(point.scenePressPosition()));
+    });
 }
 
 } // namespace
@@ -72,22 +87,76 @@ InputShield::~InputShield()
     detach();
 }
 
-void InputShield::takeFocus()
+void InputShield::updateStacking()
 {
     if (!m_window || !m_window->contentItem())
         return;
+    QQuickItem *const layer = popupLayer(*m_window);
+    if (layer) {
+        constexpr auto once = Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection);
+        connect(layer, &QQuickItem::childrenChanged, this, &InputShield::updateStacking, once);
+        connect(layer, &QQuickItem::zChanged, this, &InputShield::updateStacking, once);
+        if (const auto popups = layer->childItems(); !isAbove(layer, m_overlay))
+            m_popupsBelow = {popups.begin(), popups.end()};
+    }
+    QQuickItem *const presented = presentedAbove(layer);
+    m_cover = presented && presented->parentItem() == layer ? layer : presented;
+    // The popup layer filters the window's events before any item receives them, and closes or blocks popups.
+    if (layer && m_cover == layer)
+        m_window->installEventFilter(layer);
+    else if (layer)
+        m_window->removeEventFilter(layer);
+    QQuickItem *const focusedOverlay = enclosingOverlay(focusedItem(*m_window));
+    if (m_cover) {
+        cancelPress();
+        if (focusedOverlay == m_overlay)
+            presented->forceActiveFocus();
+        return;
+    }
+    if (layer && layer->parentItem() == m_overlay->parentItem() && isAbove(layer, m_overlay))
+        addAsTopmostChild(m_overlay, m_overlay->parentItem());
+    if (!focusedOverlay || focusedOverlay == m_overlay || isAbove(m_overlay, focusedOverlay))
+        takeFocus();
+}
+
+// The topmost modal popup or view of a controller that was presented above the overlay; null if there is none.
+QQuickItem *InputShield::presentedAbove(const QQuickItem *layer) const
+{
+    QQuickItem *topmost = nullptr;
+    const auto consider = [&](QQuickItem *item) {
+        if (item->isVisible() && isAbove(item, topmost ? topmost : m_overlay))
+            topmost = item;
+    };
+    for (auto link = ViewController::rootOf(m_window); link; link = link->presentedViewController()) {
+        if (QQuickItem *const view = link->view())
+            consider(view);
+    }
+    const QList<QQuickItem *> popups = layer ? layer->childItems() : QList<QQuickItem *>();
+    for (QQuickItem *const popup : popups) {
+        if (popup->parent() && popup->parent()->property("modal").toBool() && !m_popupsBelow.contains(popup))
+            consider(popup);
+    }
+    return topmost;
+}
+
+void InputShield::takeFocus()
+{
     QQuickItem *const content = m_window->contentItem();
     QQuickItem *const focused = focusedItem(*m_window);
-    if (enclosingOverlay(focused) == m_overlay)
-        return;
-    if (focused != content)
-        m_previousFocus = focused;
-    m_overlay->forceActiveFocus();
+    if (enclosingOverlay(focused) != m_overlay) {
+        if (focused != content)
+            m_previousFocus = focused;
+        m_overlay->forceActiveFocus();
+    }
     // Works around Qt: an item whose window was destroyed still reports active focus, and the next inactive window
-    // would keep a dangling pointer to it.
+    // would keep a dangling pointer to it. Here it becomes the window's focus item, which the content item then clears.
     if (!content->hasFocus() && m_overlay->hasActiveFocus()) {
+        QQuickItem *const inner = m_overlay->scopedFocusItem();
+        setFocus(true);
+        setFocus(false);
         content->setFocus(true);
-        content->setFocus(false);
+        if (inner)
+            inner->setFocus(true);
     }
 }
 
@@ -95,15 +164,14 @@ void InputShield::restoreFocus(const QQuickWindow &window)
 {
     QQuickItem *const previous = std::exchange(m_previousFocus, nullptr);
     QQuickItem *const overlay = enclosingOverlay(focusedItem(window));
-    if (previous && previous->window() == &window && previous->isVisible() && previous->isEnabled()
+    if (previous && previous->window() == &window && previous->isVisible() && previous->isEnabled() && !m_cover
         && (!overlay || overlay == m_overlay))
         previous->forceActiveFocus();
 }
 
 bool InputShield::contains(const QPointF &point) const
 {
-    const bool coversWindow = m_window && m_overlay->parentItem() == m_window->contentItem();
-    return coversWindow || m_overlay->contains(point);
+    return (m_window && m_overlay->parentItem() == m_window->contentItem()) || m_overlay->contains(point);
 }
 
 void InputShield::itemChange(ItemChange change, const ItemChangeData &data)
@@ -122,19 +190,24 @@ void InputShield::attach(QQuickWindow *window)
     window->installEventFilter(this);
     connect(window, &QQuickWindow::activeFocusItemChanged, this, [this] {
         QQuickItem *const focused = m_window ? m_window->activeFocusItem() : nullptr;
-        if (focused && !focused->isAncestorOf(this) && !enclosingOverlay(focused))
+        if (!focused || m_cover || enclosingOverlay(focused))
+            return;
+        // A popup receives the focus before it may be raised above the overlay, an ancestor while the overlay leaves.
+        const QQuickItem *const layer = popupLayer(*m_window);
+        if (focused->isAncestorOf(this) || (layer && layer->isAncestorOf(focused)))
+            QMetaObject::invokeMethod(this, &InputShield::updateStacking, Qt::QueuedConnection);
+        else
             takeFocus();
     });
-    connect(window->contentItem(), &QQuickItem::childrenChanged, this, &InputShield::suspendPopupFilters,
+    connect(window->contentItem(), &QQuickItem::childrenChanged, this, &InputShield::updateStacking,
             Qt::QueuedConnection);
-    suspendPopupFilters();
+    QMetaObject::invokeMethod(this, &InputShield::updateStacking, Qt::QueuedConnection);
 }
 
 void InputShield::detach()
 {
-    QQuickWindow *const window = m_window;
-    m_window = nullptr;
-    m_touchId.reset();
+    QQuickWindow *const window = std::exchange(m_window, nullptr);
+    m_pressed.reset();
     if (!window)
         return;
     window->removeEventFilter(this);
@@ -142,96 +215,85 @@ void InputShield::detach()
     // A window that is being destroyed has no content item any more.
     if (QQuickItem *const content = window->contentItem()) {
         content->disconnect(this);
-        for (QQuickItem *const layer : popupLayers(*window))
+        if (QQuickItem *const layer = popupLayer(*window)) {
+            layer->disconnect(this);
             window->installEventFilter(layer);
+        }
         restoreFocus(*window);
     }
-}
-
-// A popup overlay filters the window's events before any item receives them, and closes or blocks popups.
-void InputShield::suspendPopupFilters()
-{
-    if (!m_window)
-        return;
-    for (QQuickItem *const layer : popupLayers(*m_window))
-        m_window->removeEventFilter(layer);
+    m_cover = nullptr;
 }
 
 bool InputShield::event(QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::DragEnter:
+    if (event->type() == QEvent::DragEnter)
         static_cast<QDragEnterEvent *>(event)->setDropAction(Qt::IgnoreAction);
-        [[fallthrough]];
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseMove:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::Wheel:
-    case QEvent::HoverEnter:
-    case QEvent::HoverMove:
-    case QEvent::HoverLeave:
-        event->accept();
-        return true;
-    default:
+    else if (!event->isPointerEvent())
         return QQuickItem::event(event);
-    }
+    event->accept();
+    return true;
 }
 
-bool InputShield::eventFilter(QObject *watched, QEvent *event)
+bool InputShield::eventFilter(QObject *, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
-        if (!isPressedInside(static_cast<QMouseEvent &>(*event)))
-            return false;
-        redirectMouse(static_cast<QMouseEvent &>(*event));
-        return true;
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
-        if (!isPressedInside(static_cast<QTouchEvent &>(*event)))
-            return false;
-        redirectTouch(static_cast<QTouchEvent &>(*event));
-        return true;
+        return filterPointer(static_cast<QPointerEvent &>(*event));
     case QEvent::TouchCancel:
-        cancelTouch(static_cast<QTouchEvent &>(*event));
+        cancelPress();
         return false;
     case QEvent::TabletPress:
     case QEvent::TabletMove:
     case QEvent::TabletRelease:
+    case QEvent::NativeGesture:
         // Qt sends an ignored tablet event again as a mouse event.
         event->ignore();
-        return true;
-    case QEvent::NativeGesture:
-        return true;
+        return !m_cover;
     case QEvent::ShortcutOverride:
         // Accepting it turns a shortcut of the host into an ordinary key press.
-        event->accept();
-        return true;
+        event->setAccepted(!m_cover);
+        return !m_cover;
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-        if (m_window && enclosingOverlay(m_window->activeFocusItem()))
-            return false;
-        event->accept();
-        return true;
+        return filterKey(static_cast<QKeyEvent &>(*event));
     default:
-        return QQuickItem::eventFilter(watched, event);
+        return false;
     }
 }
 
-// Whether any point of \a event was pressed on the shield. Hover events need no redirection.
-bool InputShield::isPressedInside(const QPointerEvent &event) const
+bool InputShield::filterKey(QKeyEvent &event)
 {
-    if (event.pointingDevice() == itemOnlyDevice())
+    QQuickItem *const focused = m_window ? m_window->activeFocusItem() : nullptr;
+    const QQuickItem *const overlay = enclosingOverlay(focused);
+    const bool isAllowed = m_cover ? isInside(*m_cover, focused) : overlay != nullptr;
+    if (!isAllowed)
+        event.accept();
+    // The focused item itself would move the focus to an item below.
+    else if (overlay == m_overlay && (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab))
+        QCoreApplication::sendEvent(m_overlay, &event);
+    else
         return false;
-    if (event.type() == QEvent::MouseMove && static_cast<const QMouseEvent &>(event).buttons() == Qt::NoButton)
+    return true;
+}
+
+bool InputShield::filterPointer(QPointerEvent &event)
+{
+    if (event.pointingDevice() == itemOnlyDevice() || !isPressedInside(*this, event)
+        || (m_cover && isPressedInside(*m_cover, event)))
         return false;
-    return std::ranges::any_of(event.points(), [this](const QEventPoint &point) {
-        return contains(mapFromScene(point.scenePressPosition()));
-    });
+    if (m_cover)
+        event.accept();
+    else if (event.isSinglePointEvent())
+        redirectMouse(static_cast<QMouseEvent &>(event));
+    else
+        redirectTouch(static_cast<QTouchEvent &>(event));
+    return true;
 }
 
 void InputShield::redirectMouse(QMouseEvent &event)
@@ -239,11 +301,7 @@ void InputShield::redirectMouse(QMouseEvent &event)
     // Ends a gesture that began before the overlay was shown.
     event.setExclusiveGrabber(event.points().first(), nullptr);
     event.clearPassiveGrabbers(event.points().first());
-    QMouseEvent redirected(event.type(), event.position(), event.scenePosition(), event.globalPosition(),
-                           event.button(), event.buttons(), event.modifiers(), itemOnlyDevice());
-    redirected.setTimestamp(event.timestamp());
-    QCoreApplication::sendEvent(m_window, &redirected);
-    event.setAccepted(redirected.isAccepted());
+    event.setAccepted(resend(event.type(), event.points().first(), event.button(), event.buttons(), &event));
 }
 
 // The first touch point becomes the mouse; others are consumed.
@@ -253,37 +311,35 @@ void InputShield::redirectTouch(QTouchEvent &event)
     for (const QEventPoint &point : event.points()) {
         event.setExclusiveGrabber(point, nullptr);
         event.clearPassiveGrabbers(point);
-        if (!m_touchId && event.type() == QEvent::TouchBegin) {
-            m_touchId = point.id();
-            sendMouse(QEvent::MouseButtonPress, point.scenePosition(), point.globalPosition(), event);
-        } else if (m_touchId == point.id() && point.state() == QEventPoint::Released) {
-            m_touchId.reset();
-            sendMouse(QEvent::MouseButtonRelease, point.scenePosition(), point.globalPosition(), event);
-        } else if (m_touchId == point.id() && point.state() == QEventPoint::Updated) {
-            sendMouse(QEvent::MouseMove, point.scenePosition(), point.globalPosition(), event);
-        }
+        const bool isTracked = m_pressed && m_pressed->id() == point.id();
+        if (!m_pressed && event.type() == QEvent::TouchBegin)
+            resend(QEvent::MouseButtonPress, point, Qt::LeftButton, Qt::LeftButton, &event);
+        else if (isTracked && point.state() == QEventPoint::Released)
+            resend(QEvent::MouseButtonRelease, point, Qt::LeftButton, Qt::NoButton, &event);
+        else if (isTracked && point.state() == QEventPoint::Updated)
+            resend(QEvent::MouseMove, point, Qt::NoButton, Qt::LeftButton, &event);
     }
 }
 
-// Cancels every touch point of the window. A release outside of all items is no click.
-void InputShield::cancelTouch(const QTouchEvent &event)
+// Ends a press without a click: releases it outside of all items, at the same height so that no Flickable scrolls.
+void InputShield::cancelPress()
 {
-    if (!std::exchange(m_touchId, std::nullopt))
+    if (!m_pressed)
         return;
-    constexpr QPointF outside(-1e6, -1e6);
-    sendMouse(QEvent::MouseMove, outside, outside, event);
-    sendMouse(QEvent::MouseButtonRelease, outside, outside, event);
+    const QEventPoint outside(0, QEventPoint::Updated, {-1e6, m_pressed->scenePosition().y()}, {});
+    resend(QEvent::MouseMove, outside, Qt::NoButton, Qt::LeftButton);
+    resend(QEvent::MouseButtonRelease, outside, Qt::LeftButton, Qt::NoButton);
 }
 
-void InputShield::sendMouse(QEvent::Type type, QPointF position, QPointF globalPosition, const QTouchEvent &touch)
+// Whether an item accepted the event.
+bool InputShield::resend(QEvent::Type type, const QEventPoint &point, Qt::MouseButton button, Qt::MouseButtons buttons,
+                         const QInputEvent *source)
 {
-    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    const Qt::MouseButtons buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent redirected(type, position, position, globalPosition, button, buttons, touch.modifiers(),
-                           itemOnlyDevice());
-    redirected.setTimestamp(touch.timestamp());
-    if (m_window)
-        QCoreApplication::sendEvent(m_window, &redirected);
+    QMouseEvent event(type, point.scenePosition(), point.scenePosition(), point.globalPosition(), button, buttons,
+                      source ? source->modifiers() : Qt::NoModifier, itemOnlyDevice());
+    event.setTimestamp(source ? source->timestamp() : 0);
+    m_pressed = buttons ? std::optional(point) : std::nullopt;
+    return m_window && QCoreApplication::sendEvent(m_window, &event) && event.isAccepted();
 }
 
 } // namespace TQFoundation

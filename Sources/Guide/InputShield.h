@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QtCore/qlist.h>
 #include <QtCore/qpointer.h>
+#include <QtGui/qeventpoint.h>
 #include <QtQuick/qquickitem.h>
 #include <QtQuick/qquickwindow.h>
 
@@ -11,11 +13,15 @@ class QPointerEvent;
 namespace TQFoundation {
 
 /// Makes an overlay input-modal: consumes pointer, wheel, hover, drag, key and shortcut events meant for items below
-/// it.
+/// the overlay.
 ///
 /// The first child of the overlay, which owns it and must be a focus scope. The overlay's other children receive their
 /// events as usual. Keyboard focus stays inside the overlay while it is in a window. Afterwards the item that had the
-/// focus before gets it back, if it is still in that window, visible and enabled. GUI thread.
+/// focus before gets it back, if it is still in that window, visible and enabled.
+///
+/// A modal popup or a controller's view that is presented above the overlay receives focus, keys and pointer events
+/// until it is dismissed. The overlay then covers the window's popups again and has the focus back. While a popup lies
+/// above, shortcuts work as below any modal popup. GUI thread.
 class InputShield final : public QQuickItem
 {
 public:
@@ -23,8 +29,9 @@ public:
     explicit InputShield(QQuickItem *overlay);
     ~InputShield() override;
 
-    /// Moves the keyboard focus into the overlay. Does nothing if it is there already or the overlay has no window.
-    void takeFocus();
+    /// Follows a change of the stacking order: takes the keyboard focus, or gives it to what is presented above. Called
+    /// in the event loop after most changes; call it to have the effect at once. Does nothing without a window.
+    void updateStacking();
 
     /// Whether \a point, in the overlay's coordinates, is shielded: any point if the overlay is a child of its window's
     /// content item, else the points of the overlay.
@@ -38,18 +45,23 @@ protected:
 private:
     void attach(QQuickWindow *window);
     void detach();
-    void suspendPopupFilters();
+    QQuickItem *presentedAbove(const QQuickItem *layer) const;
+    void takeFocus();
     void restoreFocus(const QQuickWindow &window);
-    bool isPressedInside(const QPointerEvent &event) const;
+    bool filterKey(QKeyEvent &event);
+    bool filterPointer(QPointerEvent &event);
     void redirectMouse(QMouseEvent &event);
     void redirectTouch(QTouchEvent &event);
-    void cancelTouch(const QTouchEvent &event);
-    void sendMouse(QEvent::Type type, QPointF position, QPointF globalPosition, const QTouchEvent &touch);
+    void cancelPress();
+    bool resend(QEvent::Type type, const QEventPoint &point, Qt::MouseButton button, Qt::MouseButtons buttons,
+                const QInputEvent *source = nullptr);
 
     QQuickItem *const m_overlay;
     QPointer<QQuickWindow> m_window;
     QPointer<QQuickItem> m_previousFocus;
-    std::optional<int> m_touchId; // the touch point that acts as the mouse
+    QPointer<QQuickItem> m_cover; // popup layer or view that is presented above the overlay
+    QList<QPointer<QQuickItem>> m_popupsBelow; // popups that were open when the overlay was on top
+    std::optional<QEventPoint> m_pressed; // last point of the press that is being re-sent
 };
 
 } // namespace TQFoundation

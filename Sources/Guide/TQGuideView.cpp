@@ -175,7 +175,7 @@ void TQGuideView::showGuide(QQuickWindow *inWindow, QQuickItem *orInView)
     else if (inWindow)
         host = inWindow->contentItem();
     addAsTopmostChild(this, host);
-    m_shield->takeFocus();
+    m_shield->updateStacking();
     announceParagraph();
     animateOpacity(this, 1, overlayFade, [alive = weak_from_this().lock()] {});
 }
@@ -280,7 +280,8 @@ void TQGuideView::updateShownArea()
     QRectF shown(0, 0, width(), height());
     if (m_window && m_window->contentItem()) {
         const QQuickItem *content = m_window->contentItem();
-        shown &= mapRectFromItem(content, QRectF(QPointF(), content->size()));
+        // The content item of a window that another window renders may have no size.
+        shown &= mapRectFromItem(content, QRectF(QPointF(), m_window->size()));
         for (const QQuickItem *ancestor = parentItem(); ancestor; ancestor = ancestor->parentItem()) {
             if (ancestor->clip())
                 shown &= mapRectFromItem(ancestor, ancestor->clipRect());

@@ -24,7 +24,7 @@ class InputShield;
 /// Shown once per installation: the tap past the last paragraph stores a flag, calls the app's closure, fades the
 /// overlay out and removes it. Make it with initFromNib() if shouldShowGuide() is true, then call showGuide() once. Its
 /// parent item and its running animations share its ownership, so the app need not keep it. While it is in a window it
-/// consumes all input meant for items below it and keeps the keyboard focus.
+/// consumes all input meant for items below it and keeps the focus, until a sheet is presented above it.
 ///
 /// The process stops if a label or button is missing when it is used, or if the index is outside the paragraphs when
 /// one is read. Not for use in QML: hosts declare `TQGuide` instead. GUI thread.

@@ -33,13 +33,12 @@ void ViewController::present(std::shared_ptr<ViewController> next)
     }
     next->m_presenting = this;
     m_presented = std::move(next);
-    // A controller without a view shows its screens in the window of the nearest view below it.
-    const ViewController *link = this;
-    while (link && !link->m_view)
-        link = link->m_presenting;
+    QQuickWindow *window = nullptr;
+    for (const ViewController *link = this; link && !window; link = link->m_presenting)
+        window = link->m_view && link->m_view->window() ? link->m_view->window() : link->m_rootWindow.data();
     // A controller that cannot appear may dismiss itself during the call.
     const auto presented = m_presented;
-    presented->appear(link ? link->m_view->window() : nullptr);
+    presented->appear(window);
 }
 
 void ViewController::dismiss()
@@ -71,8 +70,13 @@ std::shared_ptr<ViewController> ViewController::rootOf(QWindow *window)
 
 void ViewController::setRoot(QQuickWindow *window, const std::shared_ptr<ViewController> &root)
 {
-    if (window)
-        window->setProperty(rootProperty, root ? QVariant::fromValue(root) : QVariant());
+    if (!window)
+        return;
+    if (const auto former = window->property(rootProperty).value<std::shared_ptr<ViewController>>())
+        former->m_rootWindow = nullptr;
+    window->setProperty(rootProperty, root ? QVariant::fromValue(root) : QVariant());
+    if (root)
+        root->m_rootWindow = window;
 }
 
 void ViewController::appear(QQuickWindow *window)

@@ -5,10 +5,10 @@
 #include <QtCore/qobject.h>
 #include <QtCore/qpointer.h>
 #include <QtQuick/qquickitem.h>
+#include <QtQuick/qquickwindow.h>
 
 #include <memory>
 
-class QQuickWindow;
 class QWindow;
 
 namespace TQFoundation {
@@ -41,7 +41,8 @@ public:
     /// The controller that this one presents; null if it presents none.
     std::shared_ptr<ViewController> presentedViewController() const { return m_presented; }
 
-    /// Shows \a next over everything in this controller's window and shares its ownership. Does nothing if \a next is
+    /// Shows \a next over everything in this controller's window and shares its ownership. The window is that of the
+    /// nearest view below, or the one whose root the chain begins with. Does nothing if \a next is
     /// null, is presented already or comes before this controller in its chain, or if this controller presents one.
     void present(std::shared_ptr<ViewController> next);
 
@@ -65,7 +66,7 @@ public:
                                                    const QString &error);
 
 protected:
-    /// Shows the view above everything in \a window, which is null if the presenting controller is in no window.
+    /// Shows the view above everything in \a window, which is null if no controller below has a window.
     virtual void appear(QQuickWindow *window);
 
     /// Removes the view from its window.
@@ -73,6 +74,7 @@ protected:
 
 private:
     QPointer<QQuickItem> m_view;
+    QPointer<QQuickWindow> m_rootWindow; // the window whose root this is
     std::shared_ptr<ViewController> m_presented;
     ViewController *m_presenting = nullptr;
 };

@@ -70,5 +70,31 @@ TEST(Topmost, IgnoresNullItselfAndDescendants)
     EXPECT_EQ(item.parentItem(), nullptr);
 }
 
+TEST(Topmost, ComparesStackingOfItemsInOneTree)
+{
+    QQuickItem root;
+    QQuickItem first(&root);
+    QQuickItem second(&root);
+    QQuickItem insideFirst(&first);
+    QQuickItem insideSecond(&second);
+    insideFirst.setZ(5);
+    EXPECT_TRUE(isAbove(&second, &first)) << "the later of equal siblings";
+    EXPECT_TRUE(isAbove(&insideSecond, &insideFirst)) << "their ancestors decide";
+    EXPECT_FALSE(isAbove(&insideFirst, &insideSecond));
+    first.setZ(1);
+    EXPECT_TRUE(isAbove(&insideFirst, &insideSecond));
+}
+
+TEST(Topmost, FindsNothingAboveAncestorsOrOtherTrees)
+{
+    QQuickItem root;
+    QQuickItem child(&root);
+    QQuickItem other;
+    EXPECT_FALSE(isAbove(&child, &root));
+    EXPECT_FALSE(isAbove(&root, &child));
+    EXPECT_FALSE(isAbove(&child, &child));
+    EXPECT_FALSE(isAbove(&child, &other));
+}
+
 } // namespace
 } // namespace TQFoundation

@@ -10,6 +10,8 @@
 #include <QtGui/qpalette.h>
 #include <QtGui/qscreen.h>
 #include <QtQuick/qquickitem.h>
+#include <QtQuick/qquickrendercontrol.h>
+#include <QtQuick/qquickview.h>
 
 #include <algorithm>
 #include <cmath>
@@ -17,6 +19,7 @@
 namespace TQFoundation {
 namespace {
 
+using Testing::keyScene;
 using Testing::ScreenReader;
 using Testing::useLanguage;
 
@@ -171,6 +174,19 @@ TEST_F(GuideNib, ScrollsLongParagraphByTouchWheelAndKeys)
     EXPECT_FALSE(platform->calls.contains(QStringLiteral("softImpact()")));
 }
 
+TEST_F(GuideNib, KeepsScrollPositionAtTouchCancel)
+{
+    const auto guide = shownIn({320, 480}, longText());
+    QPointingDevice *const screen = QTest::createTouchDevice();
+    QTest::touchEvent(&window, screen).press(0, {100, 300});
+    for (int y = 290; y >= 200; y -= 10)
+        QTest::touchEvent(&window, screen).move(0, {100, y});
+    const double before = scroller(*guide)->property("contentY").toDouble();
+    EXPECT_GT(before, 0);
+    QWindowSystemInterface::handleTouchCancelEvent<QWindowSystemInterface::SynchronousDelivery>(&window, screen);
+    EXPECT_NEAR(scroller(*guide)->property("contentY").toDouble(), before, 1);
+}
+
 TEST_F(GuideNib, StartsNextParagraphAtTop)
 {
     const auto guide = shownIn({320, 480}, longText());
@@ -239,6 +255,37 @@ TEST_F(GuideNib, KeepsContentInsideResizedWindow)
     window.grabWindow();
     EXPECT_EQ(guide->shownArea(), QRectF(0, 0, 800, 600));
     EXPECT_EQ(guide->size(), QSizeF(1000, 900));
+}
+
+TEST_F(GuideNib, FillsWindowWhoseContentItemHasNoSize)
+{
+    QQuickRenderControl control;
+    QQuickWindow offscreen(&control);
+    offscreen.resize(390, 500);
+    offscreen.contentItem()->setSize({0, 0});
+    platform->scenes = keyScene(&offscreen);
+    const auto guide = shown({longText()});
+    clock.pass(600);
+    control.polishItems();
+    EXPECT_EQ(guide->shownArea(), QRectF(0, 0, 390, 500));
+    EXPECT_TRUE(QRectF(0, 0, 390, 500).contains(sceneRect(guide->nextButton())));
+    offscreen.resize(300, 400);
+    control.polishItems();
+    EXPECT_EQ(guide->shownArea(), QRectF(0, 0, 300, 400));
+}
+
+TEST_F(GuideNib, FillsQuickViewWithoutSource)
+{
+    QQuickView view;
+    view.setResizeMode(QQuickView::SizeRootObjectToView);
+    view.resize(390, 500);
+    view.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&view));
+    platform->scenes = keyScene(&view);
+    const auto guide = shown({longText()});
+    clock.pass(600);
+    view.grabWindow();
+    EXPECT_EQ(guide->shownArea(), QRectF(0, 0, 390, 500));
 }
 
 TEST_F(GuideNib, KeepsContentInsideClippingHost)

@@ -89,6 +89,37 @@ TEST(ViewController, PresentsInWindowOfNearestViewBelow)
     EXPECT_EQ(view.window(), &window);
 }
 
+TEST(ViewController, PresentsInWindowOfRootWithoutView)
+{
+    QQuickWindow window;
+    QQuickItem views[2];
+    const Controller root = controller();
+    ViewController::setRoot(&window, root);
+    const Controller first = controller(&views[0]);
+    root->present(first);
+    EXPECT_EQ(views[0].window(), &window);
+    root->dismiss();
+    const Controller hosts = controller();
+    root->present(hosts);
+    hosts->present(first);
+    EXPECT_EQ(views[0].window(), &window) << "through a controller without a view";
+    root->dismiss();
+    ViewController::setRoot(&window, nullptr);
+    const Controller second = controller(&views[1]);
+    root->present(second);
+    EXPECT_EQ(views[1].window(), nullptr) << "a former root has no window";
+}
+
+TEST(ViewController, PresentsInWindowOfRootWhoseViewIsElsewhere)
+{
+    QQuickWindow window;
+    QQuickItem detached;
+    QQuickItem view;
+    ViewController::setRoot(&window, controller(&detached));
+    ViewController::rootOf(&window)->present(controller(&view));
+    EXPECT_EQ(view.window(), &window);
+}
+
 TEST(ViewController, DismissesAllControllersAbove)
 {
     QQuickWindow window;

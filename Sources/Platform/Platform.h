@@ -103,7 +103,8 @@ public:
     virtual QVariant userDefault(const QString &key) const = 0;
 
     /// Stores a setting of the host. It is on disk once control is back in the event loop. A store that cannot be
-    /// written or read whole, or would lose something on being written, stays as it is.
+    /// written or read whole, or would lose something on being written, stays as it is. From then on userDefault()
+    /// returns \a value in this process, even if it could not be stored.
     virtual void setUserDefault(const QString &key, const QVariant &value) = 0;
 
     /// The host's scenes, in no particular order.

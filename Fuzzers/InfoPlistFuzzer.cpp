@@ -1,5 +1,5 @@
-// Arbitrary bytes as a host's property list. What is read has only the promised types, and what was read, written anew,
-// is read the same.
+// Arbitrary bytes as a host's property list. The values have only the documented types, and are the same if they are
+// serialised and parsed again.
 
 #include "InfoPlist.h"
 #include "Require.h"
@@ -17,21 +17,21 @@ namespace {
 QByteArray escaped(const QString &text)
 {
     QString safe = text.toHtmlEscaped();
-    // A line end that stands for itself is read as a line feed.
+    // XML readers turn an unescaped carriage return into a line feed.
     return safe.replace(u'\r', QStringLiteral("&#13;")).toUtf8();
 }
 
-QByteArray written(const QVariant &value);
+QByteArray serialised(const QVariant &value);
 
-QByteArray written(const QVariantMap &dictionary)
+QByteArray serialised(const QVariantMap &dictionary)
 {
     QByteArray xml = "<dict>";
     for (auto entry = dictionary.begin(); entry != dictionary.end(); ++entry)
-        xml += "<key>" + escaped(entry.key()) + "</key>" + written(entry.value());
+        xml += "<key>" + escaped(entry.key()) + "</key>" + serialised(entry.value());
     return xml + "</dict>";
 }
 
-QByteArray written(const QVariant &value)
+QByteArray serialised(const QVariant &value)
 {
     switch (value.typeId()) {
     case QMetaType::QString:
@@ -51,11 +51,11 @@ QByteArray written(const QVariant &value)
         QByteArray xml = "<array>";
         const QVariantList values = value.toList();
         for (const QVariant &element : values)
-            xml += written(element);
+            xml += serialised(element);
         return xml + "</array>";
     }
     case QMetaType::QVariantMap:
-        return written(value.toMap());
+        return serialised(value.toMap());
     default:
         require(false);
         return {};
@@ -95,7 +95,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const QVariantMap read = parseInfoPlist(xml);
     require(areSame(read, parseInfoPlist(xml)));
     if (!read.isEmpty()) {
-        const QByteArray again = "<plist>" + written(read) + "</plist>";
+        const QByteArray again = "<plist>" + serialised(read) + "</plist>";
         require(again.size() > TQFoundation::largestInfoPlist || areSame(read, parseInfoPlist(again)));
     }
     return 0;

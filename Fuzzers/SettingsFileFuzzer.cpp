@@ -1,117 +1,153 @@
-// Arbitrary bytes as an app's settings file. Reading the flag changes nothing. Writing it leaves a file that cannot be
-// read whole as it is; in any other the flag is true afterwards and every other setting is what it was.
+// Arbitrary bytes as a settings file, with QSettings as the oracle. A file that the library allows to be rewritten
+// keeps every entry and value. A file that QSettings wrote is allowed, unless QSettings reads it differently itself.
 
 #include "Require.h"
+#include "SettingsFile.h"
 
-#include <TQFoundation/DesktopPlatform.h>
-
-#include <QtCore/qdir.h>
+#include <QtCore/qdatastream.h>
 #include <QtCore/qfile.h>
 #include <QtCore/qsettings.h>
-#include <QtCore/qstringconverter.h>
 #include <QtCore/qtemporarydir.h>
+#include <QtCore/qvariant.h>
 #include <QtGui/qguiapplication.h>
 
+#include <algorithm>
 #include <cstdint>
+#include <utility>
 
+using TQFoundation::canRewriteSettingsFile;
 using TQFoundation::Fuzzing::require;
 
 namespace {
 
 const QString flag = QStringLiteral("KeyOfDidShowGuide");
 
-/// An app in a home of its own. Settings are parsed once per file and process, so each input gets a file name of its
-/// own.
-struct App
+QByteArray streamed(const QVariant &value)
 {
-    App()
-    {
-        qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
-        QCoreApplication::setOrganizationName(QStringLiteral("Fuzzers"));
-        QDir(home.path()).mkdir(QStringLiteral("Fuzzers"));
-    }
-
-    QString file() const
-    {
-        return QString(home.path() + u"/Fuzzers/" + QCoreApplication::applicationName() + u".conf");
-    }
-
-    int count = 1;
-    char name[8] = "Fuzzers";
-    char *arguments[2] = {name, nullptr};
-    QTemporaryDir home;
-    QGuiApplication application{count, arguments};
-};
-
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    require(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
-
-void write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    require(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream << value;
+    return bytes;
 }
 
 bool isList(const QVariant &value)
 {
-    return value.typeId() == QMetaType::QStringList || value.typeId() == QMetaType::QVariantList;
+    return value.typeId() == QMetaType::QVariantList || value.typeId() == QMetaType::QStringList;
 }
 
-// All settings but the flag, as the texts that stand for them: a file keeps no types, and some of those that it tells
-// of have neither a text nor an equality. An empty list is written as no value at all, and a mark of byte order
-// after an escape is lost on Qt's way back.
-QMap<QString, QStringList> others(const QString &path)
+// Some types have no equality, a NaN is not equal to itself, and the order of a hash is random. QSettings reads some
+// lists of texts as lists of values.
+bool areSame(const QVariant &one, const QVariant &other)
 {
-    const QSettings settings(path, QSettings::NativeFormat);
-    QMap<QString, QStringList> values;
-    const QStringList keys = settings.allKeys();
-    for (const QString &key : keys) {
-        if (key == flag)
-            continue;
-        const QVariant value = settings.value(key);
-        QStringList texts = isList(value) || !value.isValid() ? value.toStringList() : QStringList{value.toString()};
-        values.insert(key, texts.replaceInStrings(QString(QChar::ByteOrderMark), QString()));
+    if (isList(one) && isList(other)) {
+        const QVariantList ones = one.toList();
+        const QVariantList others = other.toList();
+        return std::ranges::equal(ones, others,
+                                  [](const auto &left, const auto &right) { return areSame(left, right); });
     }
-    return values;
+    return one.typeId() == other.typeId() && (streamed(one) == streamed(other) || one == other);
+}
+
+bool areSame(const QVariantMap &ones, const QVariantMap &others)
+{
+    return ones.keys() == others.keys()
+        && std::equal(ones.begin(), ones.end(), others.begin(),
+                      [](const QVariant &one, const QVariant &other) { return areSame(one, other); });
+}
+
+/// A settings file with a name of its own, because QSettings parses a file once per process.
+class File
+{
+public:
+    explicit File(const QByteArray &content)
+    {
+        QFile file(m_path);
+        require(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    }
+    File(const File &) = delete;
+    File &operator=(const File &) = delete;
+    ~File() { QFile::remove(m_path); }
+
+    QByteArray content() const
+    {
+        QFile file(m_path);
+        require(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    /// All values, and whether there was no error.
+    std::pair<QVariantMap, bool> read() const
+    {
+        const QSettings settings(m_path, QSettings::IniFormat);
+        QVariantMap values;
+        const QStringList keys = settings.allKeys();
+        for (const QString &key : keys)
+            values.insert(key, settings.value(key));
+        return {values, settings.status() == QSettings::NoError};
+    }
+
+    /// Stores the flag.
+    void rewrite() const
+    {
+        QSettings settings(m_path, QSettings::IniFormat);
+        settings.setValue(flag, true);
+        settings.sync();
+    }
+
+private:
+    static QString newPath()
+    {
+        static const QTemporaryDir folder;
+        static quint64 count = 0;
+        return folder.filePath(QString::number(++count) + u".ini");
+    }
+
+    const QString m_path = newPath();
+};
+
+// The lines of entries, counted without their syntax.
+qsizetype entryCount(const QByteArray &content)
+{
+    const QList<QByteArray> lines = QByteArray(content).replace('\r', '\n').split('\n');
+    return std::ranges::count_if(
+        lines, [](const QByteArray &line) { return !line.trimmed().isEmpty() && !line.trimmed().startsWith('['); });
+}
+
+// Whether an application can store the values: no key has an empty part, and every type can be streamed.
+bool canBeStored(const QVariantMap &values)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream << values;
+    const QStringList keys = values.keys();
+    return stream.status() == QDataStream::Ok
+        && std::ranges::none_of(keys, [](const QString &key) { return key.split(u'/').contains(QString()); });
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    static App app;
-    static quint64 run = 0;
-    QCoreApplication::setApplicationName(QString::number(++run));
-    const QString path = app.file();
-    const QByteArray before(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    write(path, before);
-    const QString copy = path + u".copy.conf";
-    write(copy, before);
-    {
-        TQFoundation::DesktopPlatform platform;
-        static_cast<void>(platform.userDefault(flag));
-        require(contents(path) == before);
-        platform.setUserDefault(flag, true);
-    }
-    if (contents(path) != before) {
-        QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-        const QString text = utf8.decode(before);
-        require(!utf8.hasError());
-        const QMap<QString, QStringList> kept = others(copy);
-        const QString again = path + u".again.conf";
-        require(QFile::copy(path, again));
-        const QMap<QString, QStringList> left = others(again);
-        for (auto setting = kept.begin(); setting != kept.end(); ++setting)
-            require(left.contains(setting.key()) && left[setting.key()] == setting.value());
-        require(QSettings(again, QSettings::NativeFormat).value(flag).toString() == u"true");
-        QFile::remove(again);
-    }
-    QFile::remove(copy);
-    QFile::remove(path);
+    // Some types that a file may hold, such as pictures, need the application object.
+    static int count = 1;
+    static char name[] = "Fuzzer";
+    static char *arguments[] = {name, nullptr};
+    static const QGuiApplication application(count, arguments);
+
+    const QByteArray content(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const bool isAllowed = canRewriteSettingsFile(content);
+    auto [values, isWhole] = File(content).read();
+    require(!isAllowed || (isWhole && values.size() == entryCount(content)));
+
+    const File once(content);
+    once.rewrite();
+    const QVariantMap kept = File(once.content()).read().first;
+    values.insert(flag, QStringLiteral("true"));
+    require(!isAllowed || areSame(values, kept));
+
+    const File twice(once.content());
+    twice.rewrite();
+    const bool isStable = twice.content() == once.content();
+    require(!isStable || !canBeStored(kept) || canRewriteSettingsFile(once.content()));
     return 0;
 }

@@ -1,4 +1,4 @@
-// A stored flag of any type and value. Only true, or a number equal to 1, counts as shown.
+// A stored flag of any type and value. The guide counts as shown only if it is true or a number equal to 1.
 
 #include "RecordingPlatform.h"
 #include "Require.h"
@@ -72,7 +72,7 @@ Stored stored(FuzzedDataProvider &data)
     case 13:
         return {QVariant(QMetaType(data.ConsumeIntegral<int>() & 0xFFFF)), false};
     case 14:
-        return {QVariant::fromValue(QVariant(true)), true}; // A variant in a variant is the inner one.
+        return {QVariant::fromValue(QVariant(true)), true}; // a nested variant is unwrapped
     default:
         return {};
     }
@@ -82,7 +82,7 @@ Stored stored(FuzzedDataProvider &data)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t size)
 {
-    // Some of the types, such as pictures, are only there in an app.
+    // Some types, such as pictures, need the application object.
     static int count = 1;
     static char name[] = "Fuzzer";
     static char *arguments[] = {name, nullptr};

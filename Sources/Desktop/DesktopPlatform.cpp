@@ -6,11 +6,11 @@
 #include "InfoPlist.h"
 #include "Precondition.h"
 #include "Sendmail.h"
+#include "SettingsStore.h"
 
 #include <QtCore/qdir.h>
 #include <QtCore/qfile.h>
 #include <QtCore/qfileinfo.h>
-#include <QtCore/qtemporaryfile.h>
 #include <QtCore/qurl.h>
 #include <QtGui/qdesktopservices.h>
 #include <QtGui/qguiapplication.h>
@@ -18,14 +18,13 @@
 #include <QtQuick/qquickrendercontrol.h>
 #include <QtQuick/qquickwindow.h>
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
 namespace TQFoundation {
 namespace {
 
-// The host's property list, or nothing where there is none. An unreadable one is an empty list.
+// The host's property list; nothing if it is missing, empty if it cannot be read.
 std::optional<QByteArray> hostInfoPlist()
 {
     QStringList candidates{QStringLiteral(":/Info.plist")};
@@ -37,7 +36,7 @@ std::optional<QByteArray> hostInfoPlist()
 #endif
     }
     for (const QString &path : std::as_const(candidates)) {
-        // Opening a pipe or a device instead of a regular file could wait for ever.
+        // Opening a pipe or a device could block forever.
         if (!QFileInfo(path).isFile())
             continue;
         QFile file(path);
@@ -55,52 +54,11 @@ QVariant applicationValue(const QString &key)
         return nonEmpty(QCoreApplication::applicationName());
     if (key == u"CFBundleShortVersionString")
         return nonEmpty(QCoreApplication::applicationVersion());
-    // Qt answers with the application name where no display name was set.
+    // Qt returns the application name if no display name was set.
     if (key == u"CFBundleDisplayName"
         && QGuiApplication::applicationDisplayName() != QCoreApplication::applicationName())
         return nonEmpty(QGuiApplication::applicationDisplayName());
     return {};
-}
-
-// Whether the settings lie in a text file, which keeps no types.
-bool isText(const QSettings &settings)
-{
-#if defined(Q_OS_DARWIN) || defined(Q_OS_WIN)
-    return settings.format() == QSettings::IniFormat;
-#else
-    static_cast<void>(settings);
-    return true;
-#endif
-}
-
-// Whether all that the settings hold can be read and asked for: what cannot be would be lost when they are written
-// anew, as would what a name with an empty part is then taken for, and what is no text in UTF-8 or UTF-16; and groups
-// called general in any case become one. Asked of a copy, because Qt parses a file once in a process and tells of
-// errors only whoever came first. Where there is no room for a copy, nothing is known to be whole.
-bool isWhole(const QSettings &settings)
-{
-    QFile file(settings.fileName());
-    if (!isText(settings) || !file.exists())
-        return true;
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray content = file.readAll();
-    if (!QUtf8StringView(content).isValidUtf8())
-        return false;
-    for (const QString &folder : {QDir::tempPath(), QFileInfo(file).path()}) {
-        QTemporaryFile copy(QString(folder + u"/settings.XXXXXX"));
-        if (!copy.open() || copy.write(content) != content.size() || !copy.flush())
-            continue;
-        const QSettings read(copy.fileName(), settings.format());
-        const QStringList keys = read.allKeys();
-        const auto stays = [&read](const QString &key) {
-            const bool isInGeneral = key.startsWith(u"general/", Qt::CaseInsensitive);
-            return !key.split(u'/').contains(QString()) && (!isInGeneral || key.startsWith(u"General/"))
-                && std::ranges::all_of(read.value(key).toStringList(), &QString::isValidUtf16);
-        };
-        return read.status() == QSettings::NoError && std::ranges::all_of(keys, stays);
-    }
-    return false;
 }
 
 ActivationState activationState(Qt::ApplicationState state)
@@ -124,7 +82,7 @@ QWindow *topLevelOf(QWindow *window)
     return window;
 }
 
-// The window on the screen that shows this one: itself, unless its contents are rendered into another.
+// The window on the screen: the window itself, unless QQuickRenderControl renders it into another.
 QWindow *windowOnScreen(QWindow *window)
 {
     if (auto *quick = qobject_cast<QQuickWindow *>(window)) {
@@ -136,15 +94,12 @@ QWindow *windowOnScreen(QWindow *window)
 
 } // namespace
 
-DesktopPlatform::DesktopPlatform()
+DesktopPlatform::DesktopPlatform() : m_settings(std::make_unique<SettingsStore>())
 {
     m_clock.start();
 }
 
-DesktopPlatform::~DesktopPlatform()
-{
-    delete m_settings;
-}
+DesktopPlatform::~DesktopPlatform() = default;
 
 QSizeF DesktopPlatform::screenBounds() const
 {
@@ -172,24 +127,12 @@ QVariant DesktopPlatform::infoDictionaryValue(const QString &key) const
 
 QVariant DesktopPlatform::userDefault(const QString &key) const
 {
-    const QSettings *stored = settings();
-    if (!stored)
-        return {};
-    QVariant value = stored->value(key);
-    if (isText(*stored) && value.typeId() == QMetaType::QString) {
-        if (value.toString() == u"true")
-            return true;
-        if (value.toString() == u"false")
-            return false;
-    }
-    return value;
+    return m_settings->value(key);
 }
 
 void DesktopPlatform::setUserDefault(const QString &key, const QVariant &value)
 {
-    QSettings *stored = settings();
-    if (stored && isWhole(*stored))
-        stored->setValue(key, value);
+    m_settings->setValue(key, value);
 }
 
 QList<Scene> DesktopPlatform::connectedScenes() const
@@ -247,17 +190,6 @@ std::shared_ptr<RepeatingTimer> DesktopPlatform::makeTimer(double interval, std:
 QString DesktopPlatform::resourceRoot() const
 {
     return QStringLiteral(":/qt-project.org/imports/TQFoundation");
-}
-
-QSettings *DesktopPlatform::settings() const
-{
-    if (!m_settings && QCoreApplication::instance()) {
-        m_settings =
-            new QSettings(QSettings::defaultFormat(), QSettings::UserScope, QCoreApplication::organizationName(),
-                          QCoreApplication::applicationName(), QCoreApplication::instance());
-        m_settings->setFallbacksEnabled(false);
-    }
-    return m_settings;
 }
 
 std::unique_ptr<Platform> makeDefaultPlatform()

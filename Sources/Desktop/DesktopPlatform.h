@@ -3,14 +3,17 @@
 #include "TQFoundation/Platform.h"
 
 #include <QtCore/qelapsedtimer.h>
-#include <QtCore/qpointer.h>
-#include <QtCore/qsettings.h>
+
+#include <memory>
 
 namespace TQFoundation {
 
-/// The platform of a desktop, and what a phone's platform starts from: everything that Qt itself can answer.
+class SettingsStore;
+
+/// The platform of a desktop, and the base class of a phone's: everything that Qt itself can answer.
 ///
-/// A host whose system knows more derives from it, overrides what it knows and installs the result; installPlatform().
+/// If a host knows more about its system, it derives from this class, overrides those functions and installs an object
+/// of its class: installPlatform().
 class TQFOUNDATION_EXPORT DesktopPlatform : public Platform
 {
 public:
@@ -20,27 +23,26 @@ public:
     QSizeF screenBounds() const override;
     double screenScale() const override;
 
-    /// A desktop has no storefront: always nothing.
+    /// Always empty: a desktop has no storefront.
     std::optional<QString> storefrontCountryCode() const override;
 
-    /// From the property list ":/Info.plist" where one is embedded, else from a regular file "Info.plist" beside the
-    /// executable (of a bundle: in its Contents). It is read at each call, so nothing is ever stale. Of a list that
-    /// cannot be read or parsed every entry is missing.
+    /// An entry of the embedded property list ":/Info.plist"; without one, of the regular file "Info.plist" beside the
+    /// executable (in a bundle: in its Contents). The list is read at each call. If it cannot be read or parsed, every
+    /// entry is missing.
     ///
-    /// A host without any list is described by its application object: "CFBundleDisplayName" and
-    /// "CFBundleShortVersionString" where it was given a display name and a version, "CFBundleName" by its
-    /// application name, and no build.
+    /// Without a list the application object answers: "CFBundleName" is the application name, "CFBundleDisplayName"
+    /// and "CFBundleShortVersionString" are its display name and version if they were set. The build is missing.
     QVariant infoDictionaryValue(const QString &key) const override;
 
-    /// From the application's own settings file, never from its organisation's or from the system's, which other apps
-    /// share. An invalid value also where no application object exists.
+    /// From the application's own QSettings, never from those of its organisation or the system, which other
+    /// applications share. Invalid if no application object exists.
     ///
-    /// Settings files that are texts keep no types: there exactly the texts "true" and "false" are booleans.
+    /// Settings in a text file have no types: there exactly the texts "true" and "false" are booleans.
     QVariant userDefault(const QString &key) const override;
     void setUserDefault(const QString &key, const QVariant &value) override;
 
-    /// One window scene with the visible top-level windows. Key is the window that has the keyboard focus, or the Qt
-    /// Quick window that is drawn into it.
+    /// One window scene with the visible top-level windows. The key window is the one with the keyboard focus. So is a
+    /// Qt Quick window that is rendered into it.
     QList<Scene> connectedScenes() const override;
 
     void openUrl(const QUrl &url) override;
@@ -48,28 +50,28 @@ public:
     /// Whether one of programFolders() holds an executable program called sendmail.
     bool canSendMail() const override;
 
-    /// A sheet that sends through that program, looked for again when the user sends.
+    /// A sheet that sends through that program, which is looked up again when the user sends.
     std::shared_ptr<MailComposer> makeMailComposer() override;
 
-    /// A sheet with the web view of Qt WebEngine. Where that is not installed or cannot run, presenting the browser
-    /// hands its page to openUrl() instead.
+    /// A sheet with the web view of Qt WebEngine. If that is not installed or cannot run, presenting the browser calls
+    /// openUrl() instead.
     std::shared_ptr<InAppBrowser> makeInAppBrowser(const QUrl &url) override;
 
-    /// Nothing: a desktop has no haptics.
+    /// Does nothing: a desktop has no haptics.
     void softImpact() override;
+
+    /// Seconds of a monotonic clock since this object was made.
     double mediaTime() const override;
     std::shared_ptr<RepeatingTimer> makeTimer(double interval, std::function<void()> tick) override;
     QString resourceRoot() const override;
 
 protected:
-    /// Where the sendmail program is looked for, in this order: /usr/sbin, /usr/lib, and the folders of PATH.
+    /// The folders that may hold the sendmail program, in the order of the search: /usr/sbin, /usr/lib, and PATH.
     virtual QStringList programFolders() const;
 
 private:
-    QSettings *settings() const;
-
     QElapsedTimer m_clock;
-    mutable QPointer<QSettings> m_settings; // a child of the application object, which writes it out when it goes
+    std::unique_ptr<SettingsStore> m_settings;
 };
 
 } // namespace TQFoundation

@@ -14,35 +14,35 @@ namespace TQFoundation {
 DesktopTimer::DesktopTimer(const QElapsedTimer &clock, double interval, std::function<void()> tick)
     : m_clock(clock),
       m_interval(interval),
-      m_made(now()),
+      m_start(now()),
       m_tick(std::move(tick))
 {
     m_shot.setSingleShot(true);
     m_shot.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&m_shot, &QTimer::timeout, &m_shot, [this] { tickOnTheGrid(); });
+    QObject::connect(&m_shot, &QTimer::timeout, &m_shot, [this] { onTimeout(); });
 }
 
 void DesktopTimer::fire()
 {
     const auto alive = shared_from_this();
-    // A copy, because the tick may invalidate the timer that holds it.
+    // A copy, because the tick may invalidate this timer.
     if (const auto tick = m_tick)
         tick();
 }
 
 void DesktopTimer::schedule()
 {
-    if (m_heldByEventLoop || !m_tick)
+    if (m_self || !m_tick)
         return;
-    m_heldByEventLoop = shared_from_this();
+    m_self = shared_from_this();
     if (auto *application = QCoreApplication::instance())
         QObject::connect(application, &QObject::destroyed, &m_shot, [this] { invalidate(); });
-    arm();
+    startShot();
 }
 
 void DesktopTimer::invalidate()
 {
-    const auto alive = std::exchange(m_heldByEventLoop, nullptr);
+    const auto alive = std::exchange(m_self, nullptr);
     m_shot.stop();
     const auto tick = std::exchange(m_tick, nullptr);
 }
@@ -52,18 +52,18 @@ double DesktopTimer::now() const
     return static_cast<double>(m_clock.nsecsElapsed()) * 1e-9;
 }
 
-void DesktopTimer::arm()
+void DesktopTimer::startShot()
 {
-    const double wait = nextTick(m_made, m_interval, now()) - now();
-    m_shot.start(std::chrono::milliseconds(std::max(0LL, std::llround(std::ceil(wait * 1e3)))));
+    const double delay = nextTick(m_start, m_interval, now()) - now();
+    m_shot.start(std::chrono::milliseconds(std::max(0LL, std::llround(std::ceil(delay * 1e3)))));
 }
 
-void DesktopTimer::tickOnTheGrid()
+void DesktopTimer::onTimeout()
 {
     const auto alive = shared_from_this();
     fire();
-    if (m_heldByEventLoop)
-        arm();
+    if (m_self)
+        startShot();
 }
 
 } // namespace TQFoundation

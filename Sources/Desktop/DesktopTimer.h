@@ -7,12 +7,13 @@
 
 namespace TQFoundation {
 
-/// A timer of Qt's event loop: single shots, each armed for the next multiple of the interval, because a repeating
-/// QTimer shifts its grid after a stall. Main thread only.
+/// A repeating timer on Qt's event loop: single shots, each armed for the next multiple of the interval, because a
+/// repeating QTimer shifts its grid after a stall. GUI thread only.
 class DesktopTimer final : public RepeatingTimer, public std::enable_shared_from_this<DesktopTimer>
 {
 public:
-    /// Ticks every \a interval seconds of \a clock, counted from now. Held by `std::shared_ptr`.
+    /// Calls \a tick every \a interval seconds (more than 0) of \a clock, counted from now, once scheduled. Make it
+    /// with `std::make_shared`.
     DesktopTimer(const QElapsedTimer &clock, double interval, std::function<void()> tick);
 
     void fire() override;
@@ -21,15 +22,15 @@ public:
 
 private:
     double now() const;
-    void arm();
-    void tickOnTheGrid();
+    void startShot();
+    void onTimeout();
 
     const QElapsedTimer m_clock;
     const double m_interval;
-    const double m_made;
+    const double m_start;
     std::function<void()> m_tick;
     QTimer m_shot;
-    std::shared_ptr<DesktopTimer> m_heldByEventLoop;
+    std::shared_ptr<DesktopTimer> m_self; // set while scheduled, so that the event loop keeps the timer alive
 };
 
 } // namespace TQFoundation

@@ -8,11 +8,11 @@
 namespace TQFoundation {
 namespace {
 
-constexpr int deepestNesting = 64;
+constexpr int maximumDepth = 64;
 
 std::optional<QVariant> readValue(QXmlStreamReader &xml, int depth);
 
-// Moves to the next child element. False at the parent's end, and (with an error raised) at stray text.
+// Moves to the next child element. False at the parent's end; raises an error at stray text.
 bool nextElement(QXmlStreamReader &xml)
 {
     while (!xml.atEnd()) {
@@ -77,10 +77,10 @@ std::optional<QVariant> numberOf(Number number, bool parsed)
     return parsed ? std::optional<QVariant>(number) : std::nullopt;
 }
 
-// Reads the element that the reader stands at, up to its end.
+// Reads the current element to its end.
 std::optional<QVariant> readValue(QXmlStreamReader &xml, int depth)
 {
-    if (depth >= deepestNesting)
+    if (depth >= maximumDepth)
         return std::nullopt;
     const QString type = xml.name().toString();
     if (type == u"dict")
@@ -115,7 +115,7 @@ std::optional<QVariant> readDocument(QXmlStreamReader &xml)
 {
     while (!xml.atEnd() && !xml.isStartElement()) {
         xml.readNext();
-        // A list has no use for entities of its own, and a few bytes of them can stand for gigabytes.
+        // Property lists need no entities, and a few bytes of them can expand to gigabytes.
         if (xml.isDTD() && !xml.entityDeclarations().isEmpty())
             return std::nullopt;
     }

@@ -5,14 +5,14 @@
 
 namespace TQFoundation {
 
-/// The top-level dictionary of an XML property list, each value with its own type: QString, qlonglong, double, bool,
-/// QDateTime, QByteArray, QVariantList or QVariantMap. Of a key that stands twice the last value counts.
+/// Parses the top-level dictionary of an XML property list. Each value keeps its type: QString, qlonglong, double,
+/// bool, QDateTime, QByteArray, QVariantList or QVariantMap. The last value of a repeated key wins.
 ///
-/// All or nothing: empty for anything that is not a well-formed list whose root is a dictionary, for one that declares
-/// entities, nests deeper than 64 levels or is larger than largestInfoPlist. Any thread.
+/// Empty if the list is not well-formed, its root is not a dictionary, it declares entities, it nests deeper than 64
+/// levels or it is larger than largestInfoPlist. Any thread.
 QVariantMap parseInfoPlist(const QByteArray &xml);
 
-/// Bytes; real lists have a few thousand.
+/// Largest size in bytes; real lists have a few thousand.
 inline constexpr qsizetype largestInfoPlist = 1 << 20;
 
 } // namespace TQFoundation

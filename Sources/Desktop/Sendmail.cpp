@@ -11,7 +11,7 @@
 namespace TQFoundation {
 namespace {
 
-/// Does not end the program when it goes itself, unless that still waits for a part of the message.
+/// Unlike QProcess, leaves the program running on destruction; kills it only if part of the message is unwritten.
 class Program final : public QProcess
 {
 public:
@@ -29,7 +29,7 @@ public:
     }
 };
 
-// The exit codes of sysexits.h, which all sendmail programs share.
+// The exit codes of sysexits.h, which all sendmail programs use.
 Sendmail::Outcome outcomeOf(int exitCode)
 {
     switch (exitCode) {
@@ -66,8 +66,8 @@ QString sendmailProgram(const QStringList &folders)
 
 Sendmail::~Sendmail()
 {
-    if (m_bound)
-        m_bound->invalidate();
+    if (m_timeout)
+        m_timeout->invalidate();
 }
 
 void Sendmail::start(const QString &program, const QByteArray &message)
@@ -76,9 +76,9 @@ void Sendmail::start(const QString &program, const QByteArray &message)
     m_process = process;
     process->setStandardOutputFile(QProcess::nullDevice());
     connect(process, &QProcess::readyReadStandardError, this, [this, process] {
-        constexpr qsizetype longest = 4096;
-        m_said += process->readAllStandardError();
-        m_said = m_said.right(longest);
+        constexpr qsizetype maximumSize = 4096;
+        m_stderr += process->readAllStandardError();
+        m_stderr = m_stderr.right(maximumSize);
     });
     connect(process, &QProcess::finished, this, [this](int exitCode, QProcess::ExitStatus status) {
         finish(status == QProcess::NormalExit ? outcomeOf(exitCode) : Outcome::crashed);
@@ -90,12 +90,12 @@ void Sendmail::start(const QString &program, const QByteArray &message)
         finish(Outcome::noProgram);
     });
     connect(process, &QProcess::finished, process, &QObject::deleteLater);
-    m_bound = platform().makeTimer(patience, [this] {
+    m_timeout = platform().makeTimer(timeout, [this] {
         if (m_process)
             m_process->kill();
         finish(Outcome::unanswered);
     });
-    m_bound->schedule();
+    m_timeout->schedule();
     process->start(program, {QStringLiteral("-t"), QStringLiteral("-i")});
     if (process->isOpen()) {
         process->write(message);
@@ -107,10 +107,10 @@ void Sendmail::finish(Outcome outcome)
 {
     if (std::exchange(m_finished, true))
         return;
-    m_bound->invalidate();
-    QString line = QString::fromLocal8Bit(m_said.trimmed());
+    m_timeout->invalidate();
+    QString line = QString::fromLocal8Bit(m_stderr.trimmed());
     line = line.mid(line.lastIndexOf(u'\n') + 1).left(300);
-    // What a terminal would obey.
+    // Control characters may be commands to a terminal.
     for (QChar &character : line) {
         if (character.category() == QChar::Other_Control)
             character = u' ';

@@ -13,50 +13,50 @@ namespace TQFoundation {
 
 class RepeatingTimer;
 
-/// The program called sendmail in the first of \a folders that holds an executable one; empty where none does.
+/// The path of the first executable file "sendmail" in \a folders; empty if there is none. Any thread.
 QString sendmailProgram(const QStringList &folders);
 
-/// Hands one message to a sendmail program, which passes it on to whom its header names. Main thread only.
+/// Passes one message to a sendmail program, which sends it to the recipients in its header. GUI thread only.
 ///
-/// Nothing waits. A program that has the whole message goes on by itself when this object or the application goes; one
-/// that has not is ended with the application, so that no half of a mail is sent.
+/// Asynchronous. If this object or the application is destroyed, a program that has read the whole message continues.
+/// Otherwise it is killed with the application, so that no partial mail is sent.
 class Sendmail : public QObject
 {
     Q_OBJECT
 
 public:
     enum class Outcome {
-        sent, ///< The program has taken charge of the mail.
-        noProgram, ///< It could not be started.
-        notSetUp, ///< It says that its configuration is missing or wrong.
-        unreachable, ///< It says that it cannot reach the server for now.
-        rejected, ///< It says that the server does not want this mail or its recipient.
-        failed, ///< It gives another reason.
-        crashed, ///< It was ended before it was done.
-        unanswered ///< It was ended because it was still busy after `patience`: the mail may have gone.
+        sent, ///< The program accepted the mail.
+        noProgram, ///< The program could not be started.
+        notSetUp, ///< Its configuration is missing or wrong.
+        unreachable, ///< The server cannot be reached at the moment.
+        rejected, ///< The server rejected this mail or its recipient.
+        failed, ///< It exited with another code.
+        crashed, ///< It was killed or crashed.
+        unanswered ///< It was killed after `timeout`; the mail may have been sent.
     };
     Q_ENUM(Outcome)
 
-    /// How long the program may take, in seconds.
-    static constexpr double patience = 30;
+    /// The longest run time of the program, in seconds.
+    static constexpr double timeout = 30;
 
     using QObject::QObject;
     ~Sendmail() override;
 
-    /// Starts \a program and hands it \a message. Call it once.
+    /// Starts \a program and writes \a message to its standard input. Call it once.
     void start(const QString &program, const QByteArray &message);
 
 Q_SIGNALS:
-    /// Comes once, for a program that cannot be started at once. \a detail is what the program itself said last, one
-    /// line of plain text, or empty.
+    /// Emitted once, before start() returns if the program cannot be started. \a detail is the last line that the
+    /// program wrote to its standard error: plain text of 300 characters at most, or empty.
     void finished(TQFoundation::Sendmail::Outcome outcome, const QString &detail);
 
 private:
     void finish(Outcome outcome);
 
     QPointer<QProcess> m_process;
-    std::shared_ptr<RepeatingTimer> m_bound;
-    QByteArray m_said;
+    std::shared_ptr<RepeatingTimer> m_timeout;
+    QByteArray m_stderr;
     bool m_finished = false;
 };
 

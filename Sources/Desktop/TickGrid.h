@@ -2,10 +2,10 @@
 
 namespace TQFoundation {
 
-/// The first moment after \a now that is a whole number of \a interval after \a start: when a repeating timer that was
-/// made at \a start ticks next. All in seconds of one clock; \a interval is more than 0.
+/// The next tick of a repeating timer that was made at \a start: the first whole multiple of \a interval after
+/// \a start that is later than \a now. All in seconds of one clock; \a interval is more than 0.
 ///
-/// Moments that have passed are dropped, not made up for. A \a now before \a start gives the first tick.
+/// Missed ticks are dropped. If \a now is before \a start, it is the first tick. Any thread.
 double nextTick(double start, double interval, double now) noexcept;
 
 } // namespace TQFoundation

@@ -103,7 +103,8 @@ public:
     virtual QVariant userDefault(const QString &key) const = 0;
 
     /// Stores a setting of the host, on disk once control is back in the event loop. The store does not change if it
-    /// cannot be written or read whole, or if rewriting it would lose entries.
+    /// cannot be written or read whole, or if rewriting it would lose entries. From then on userDefault() returns
+    /// \a value in this process, even if it is not stored.
     virtual void setUserDefault(const QString &key, const QVariant &value) = 0;
 
     /// The host's scenes, in no particular order.

@@ -1,5 +1,5 @@
-// A host whose list is embedded by tq_add_host_info: its entries arrive as they were written, and a list beside the
-// executable does not count.
+// A host with a property list embedded by tq_add_host_info(). Checks that its entries are read unchanged, and that the
+// list beside the executable is ignored.
 
 #include <TQFoundation/TQApp.h>
 

@@ -17,7 +17,7 @@ QByteArray list(const QByteArray &dictionary)
         + dictionary + "</dict></plist>\n";
 }
 
-TEST(InfoPlist, ValuesKeepTheirTypes)
+TEST(InfoPlist, KeepsTypesOfValues)
 {
     const QVariantMap map = parseInfoPlist(list("<key>text</key><string> a &amp; b </string>"
                                                 "<key>empty</key><string/>"
@@ -44,13 +44,13 @@ TEST(InfoPlist, ValuesKeepTheirTypes)
     EXPECT_EQ(map.value(QStringLiteral("map")).toMap().value(QStringLiteral("k")), QVariant(1LL));
 }
 
-TEST(InfoPlist, OfARepeatedKeyTheLastValueCounts)
+TEST(InfoPlist, LastValueOfRepeatedKeyWins)
 {
     const QVariantMap map = parseInfoPlist(list("<key>k</key><string>a</string><key>k</key><string>b</string>"));
     EXPECT_EQ(map.value(QStringLiteral("k")), QVariant(QStringLiteral("b")));
 }
 
-TEST(InfoPlist, CommentsAndLineBreaksBetweenElementsDoNotMatter)
+TEST(InfoPlist, IgnoresCommentsAndBlanksBetweenElements)
 {
     EXPECT_EQ(parseInfoPlist(list("\n<!-- who -->\n<key>k</key>\n\t<string>v</string>\n")).size(), 1);
 }
@@ -58,7 +58,7 @@ TEST(InfoPlist, CommentsAndLineBreaksBetweenElementsDoNotMatter)
 class BrokenInfoPlist : public testing::TestWithParam<QByteArray>
 {};
 
-TEST_P(BrokenInfoPlist, HasNoEntries)
+TEST_P(BrokenInfoPlist, IsEmpty)
 {
     EXPECT_TRUE(parseInfoPlist(GetParam()).isEmpty());
 }
@@ -77,9 +77,9 @@ INSTANTIATE_TEST_SUITE_P(
                     list("<key>k</key><string>&undeclared</string>"), list("<key>k</key><string>\xff\xfe</string>"),
                     list("<key><b/></key><string>v</string>"), list("&elsewhere;<key>k</key><string>v</string>")));
 
-TEST(InfoPlist, OneThatDeclaresEntitiesHasNoEntries)
+TEST(InfoPlist, RefusesListThatDeclaresEntities)
 {
-    // Each line stands for ten of the one before.
+    // Each entity expands to ten of the previous one.
     QByteArray bomb = "<!DOCTYPE plist [<!ENTITY e0 \"0123456789\">";
     for (int level = 1; level < 10; ++level) {
         const QByteArray inner = "&e" + QByteArray::number(level - 1) + ';';
@@ -93,14 +93,14 @@ TEST(InfoPlist, OneThatDeclaresEntitiesHasNoEntries)
     EXPECT_TRUE(parseInfoPlist(wide).isEmpty());
 }
 
-TEST(InfoPlist, OneThatNamesAnExternalEntityReadsNoFile)
+TEST(InfoPlist, ReadsNoExternalEntity)
 {
     const QByteArray external = "<!DOCTYPE plist [<!ENTITY e SYSTEM \"file:///etc/hostname\">]>"
                                 "<plist><dict><key>k</key><string>&e;</string></dict></plist>";
     EXPECT_TRUE(parseInfoPlist(external).isEmpty());
 }
 
-TEST(InfoPlist, OneThatIsNestedTooDeeplyHasNoEntries)
+TEST(InfoPlist, RefusesDeepNesting)
 {
     const auto nested = [](int depth) {
         return list("<key>k</key>" + QByteArray("<array>").repeated(depth) + QByteArray("</array>").repeated(depth));
@@ -110,7 +110,7 @@ TEST(InfoPlist, OneThatIsNestedTooDeeplyHasNoEntries)
     EXPECT_TRUE(parseInfoPlist(nested(60'000)).isEmpty());
 }
 
-TEST(InfoPlist, OneThatIsTooLargeHasNoEntries)
+TEST(InfoPlist, RefusesHugeList)
 {
     const auto sized = [](qsizetype size) -> QByteArray {
         return list("<key>k</key><string>v</string>")
@@ -120,7 +120,7 @@ TEST(InfoPlist, OneThatIsTooLargeHasNoEntries)
     EXPECT_TRUE(parseInfoPlist(sized(largestInfoPlist + 1)).isEmpty());
 }
 
-TEST(InfoPlist, EveryTruncationIsReadWholeOrNotAtAll)
+TEST(InfoPlist, ReadsTruncatedListWhollyOrNotAtAll)
 {
     const QByteArray whole =
         list("<key>CFBundleName</key><string>Gr\xc3\xb6ve</string><key>n</key><integer>1</integer>");
@@ -132,7 +132,7 @@ TEST(InfoPlist, EveryTruncationIsReadWholeOrNotAtAll)
     }
 }
 
-TEST(InfoPlist, RandomDamageNeitherCrashesNorHangs)
+TEST(InfoPlist, SurvivesRandomDamage)
 {
     const QByteArray whole = list("<key>a</key><string>b</string><key>c</key><array><true/><real>1</real></array>");
     std::mt19937 engine(7);

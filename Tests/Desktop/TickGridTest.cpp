@@ -8,28 +8,28 @@
 namespace TQFoundation {
 namespace {
 
-TEST(TickGrid, TheFirstTickComesOneIntervalAfterTheStart)
+TEST(TickGrid, FirstTickIsOneIntervalAfterStart)
 {
     EXPECT_DOUBLE_EQ(nextTick(5, 10, 5), 15);
     EXPECT_DOUBLE_EQ(nextTick(5, 10, 14.999), 15);
 }
 
-TEST(TickGrid, AtATickTheNextOneFollows)
+TEST(TickGrid, NextTickFollowsCurrentOne)
 {
     EXPECT_DOUBLE_EQ(nextTick(5, 10, 15), 25);
 }
 
-TEST(TickGrid, MissedTicksAreDropped)
+TEST(TickGrid, DropsMissedTicks)
 {
     EXPECT_DOUBLE_EQ(nextTick(5, 10, 47), 55);
 }
 
-TEST(TickGrid, BeforeTheStartTheFirstTickIsNext)
+TEST(TickGrid, FirstTickIsNextBeforeStart)
 {
     EXPECT_DOUBLE_EQ(nextTick(5, 10, -100), 15);
 }
 
-TEST(TickGrid, ATickThatTheDivisionTakesForPassedIsStillAhead)
+TEST(TickGrid, FindsTickAheadIfDivisionRoundsUp)
 {
     const double now = 0.2;
     const double next = nextTick(0.1, 0.1, now); // 0.1 + 0.1 is a little more than 0.2
@@ -37,15 +37,15 @@ TEST(TickGrid, ATickThatTheDivisionTakesForPassedIsStillAhead)
     EXPECT_NEAR(next, 0.2, 1e-9);
 }
 
-TEST(TickGrid, ATickThatTheDivisionTakesForAheadIsPassed)
+TEST(TickGrid, SkipsPassedTickIfDivisionRoundsDown)
 {
     const double start = 423610.96957169066;
-    const double now = 423611.26957169065; // as close to the first tick as numbers come
+    const double now = 423611.26957169065; // as close to the first tick as doubles can be
     EXPECT_GT(nextTick(start, 0.3, now), now);
     EXPECT_NEAR(nextTick(start, 0.3, now), start + 0.6, 1e-6);
 }
 
-TEST(TickGrid, IsAlwaysAheadByAtMostOneIntervalAndOnTheGrid)
+TEST(TickGrid, IsMultipleOfIntervalAndAtMostOneAhead)
 {
     std::mt19937_64 engine(1);
     std::uniform_real_distribution<double> starts(0, 1e6);

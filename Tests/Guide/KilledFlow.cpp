@@ -1,5 +1,5 @@
-// An app whose guide is finished at once, with settings of its own. It says when it starts, and runs until it is
-// killed.
+// An app with settings of its own that finishes its guide after 5 ms. Prints a line when it starts, and runs until it
+// is killed.
 
 #include <TQFoundation/TQGuideView.h>
 

@@ -1,0 +1,161 @@
+#include "SettingsStore.h"
+
+#include <QtCore/qcoreapplication.h>
+#include <QtCore/qdir.h>
+#include <QtCore/qfile.h>
+#include <QtCore/qfileinfo.h>
+#include <QtCore/qtemporarydir.h>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+#include <sys/resource.h>
+
+namespace TQFoundation {
+namespace {
+
+const QString flag = QStringLiteral("Flag");
+
+QString settingsPath()
+{
+    return QSettings(QCoreApplication::organizationName(), QCoreApplication::applicationName()).fileName();
+}
+
+void writeSettings(const QByteArray &content)
+{
+    ASSERT_TRUE(QFileInfo(settingsPath()).dir().mkpath(QStringLiteral(".")));
+    QFile file(settingsPath());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+QByteArray readSettings()
+{
+    QFile file(settingsPath());
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+TEST(SettingsStore, WritesValueOnceEventLoopRuns)
+{
+    SettingsStore store;
+    EXPECT_FALSE(store.value(flag).isValid());
+    store.setValue(flag, true);
+    EXPECT_EQ(store.value(flag), QVariant(true));
+
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(readSettings().contains("Flag=true"));
+    EXPECT_EQ(SettingsStore().value(flag), QVariant(true));
+}
+
+TEST(SettingsStore, ReadsOnlyTrueAndFalseAsBooleansFromText)
+{
+    writeSettings("[General]\nyes=true\nno=false\none=1\nupper=True\nquoted=\"true \"\nword=yes\nlist=true, true\n");
+    const SettingsStore store;
+    EXPECT_EQ(store.value(QStringLiteral("yes")), QVariant(true));
+    EXPECT_EQ(store.value(QStringLiteral("no")), QVariant(false));
+    for (const char *key : {"one", "upper", "quoted", "word", "list"})
+        EXPECT_NE(store.value(QLatin1String(key)).typeId(), QMetaType::Bool) << key;
+}
+
+TEST(SettingsStore, KeepsSettingsOfHost)
+{
+    writeSettings("[General]\nname=Grove\n[Window]\nwidth=300\n");
+    SettingsStore store;
+    store.setValue(flag, true);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(readSettings(), "[General]\nFlag=true\nname=Grove\n\n[Window]\nwidth=300\n");
+}
+
+TEST(SettingsStore, LeavesFileThatWouldLoseSomething)
+{
+    for (const char *content :
+         {"[General]\nname=Grove\nhalf a line", "\x7f\x45\x4c\x46\x02\x01\nname=Grove\n[Gen", "[General\nname=Grove\n",
+          "[General]\nname=Grove\n/name=Birch\n", "[General]\nname/=Grove\n", "[General]\n=Grove\n",
+          "[/]\nname=Grove\n", "[General]\nname=Gr\xFCn\n", "[General]\nname=\\xdddd\n",
+          "[General]\nnames=Grove, \\xd83c\n", "[%General]\nname=Grove\n\n[%GENERAL]\nname=Birch\n",
+          "; written by hand\n[General]\nname=Grove\n"}) {
+        writeSettings(content);
+        SettingsStore store;
+        EXPECT_NE(store.value(flag), QVariant(true));
+        store.setValue(flag, true);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(readSettings(), content);
+    }
+}
+
+TEST(SettingsStore, AnswersFromMemoryWhateverBecomesOfFile)
+{
+    writeSettings("half a line");
+    SettingsStore store;
+    EXPECT_FALSE(store.value(flag).isValid());
+    store.setValue(flag, true);
+    EXPECT_EQ(store.value(flag), QVariant(true)) << "the file cannot be written";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(store.value(flag), QVariant(true));
+    EXPECT_FALSE(SettingsStore().value(flag).isValid()) << "as at the next launch";
+
+    writeSettings("[General]\nFlag=false\n");
+    QSettings(QCoreApplication::organizationName(), QCoreApplication::applicationName()).sync();
+    EXPECT_EQ(store.value(flag), QVariant(true)) << "another process changed the file";
+    store.setValue(flag, 5);
+    EXPECT_EQ(store.value(flag), QVariant(5));
+}
+
+TEST(SettingsStore, MakesNoCopyOfFile)
+{
+    const QTemporaryDir temporary;
+    qputenv("TMPDIR", temporary.path().toUtf8());
+    writeSettings("[General]\nname=Grove\n");
+    const QDir::Filters everything = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+    SettingsStore store;
+    store.setValue(flag, true);
+    EXPECT_EQ(QFileInfo(settingsPath()).dir().entryList(everything).size(), 1) << "before the file is rewritten";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QFileInfo(settingsPath()).dir().entryList(everything).size(), 1);
+    EXPECT_EQ(QDir(temporary.path()).entryList(everything), QStringList());
+    EXPECT_EQ(readSettings(), "[General]\nFlag=true\nname=Grove\n");
+    qunsetenv("TMPDIR");
+}
+
+// The disk is full when the value is set, and has room again when it would be written.
+TEST(SettingsStore, LeavesDamagedFileOnFullDisk)
+{
+    const char *content = "[General]\nname=Grove\nhalf a line";
+    writeSettings(content);
+    const auto tooLarge = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit room;
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &room), 0);
+    const rlimit full{0, room.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &full), 0);
+    SettingsStore store;
+    store.setValue(flag, true);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &room), 0);
+    std::signal(SIGXFSZ, tooLarge);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(readSettings(), content);
+}
+
+TEST(SettingsStore, LeavesFolderInPlaceOfFile)
+{
+    // Permissions would not stop the superuser.
+    ASSERT_TRUE(QDir().mkpath(settingsPath()));
+    SettingsStore store;
+    store.setValue(flag, true);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(QFileInfo(settingsPath()).isDir());
+    EXPECT_EQ(store.value(flag), QVariant(true));
+    EXPECT_FALSE(SettingsStore().value(flag).isValid());
+}
+
+TEST(SettingsStore, IgnoresSettingsOfOrganisation)
+{
+    QSettings shared(QCoreApplication::organizationName());
+    shared.setValue(flag, true);
+    shared.sync();
+    EXPECT_FALSE(SettingsStore().value(flag).isValid());
+}
+
+} // namespace
+} // namespace TQFoundation

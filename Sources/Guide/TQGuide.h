@@ -3,6 +3,7 @@
 #include "TQFoundation/TQGuideView.h"
 
 #include <QtCore/qobject.h>
+#include <QtCore/qvariant.h>
 #include <QtQml/qqmlregistration.h>
 
 namespace TQFoundation {
@@ -13,7 +14,7 @@ class TQGuide : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(TQFoundation::Color tintColor READ tintColor WRITE setTintColor NOTIFY tintColorChanged REQUIRED FINAL)
+    Q_PROPERTY(QVariant tintColor READ tintColor WRITE setTintColor NOTIFY tintColorChanged REQUIRED FINAL)
     Q_PROPERTY(
         QStringList descriptions READ descriptions WRITE setDescriptions NOTIFY descriptionsChanged REQUIRED FINAL)
 
@@ -21,8 +22,9 @@ public:
     using QObject::QObject;
 
     /// What the overlay is painted in. Read when it is shown.
-    Color tintColor() const { return m_tintColor; }
-    void setTintColor(const Color &color);
+    QVariant tintColor() const { return QVariant::fromValue(m_tintColor); }
+    /// Takes a `tqColor`, a `color` or a text form of one; anything else is an error and changes nothing.
+    void setTintColor(const QVariant &value);
 
     /// The paragraphs in the order shown, plain text. Read when the overlay is shown; without any the process stops.
     QStringList descriptions() const { return m_descriptions; }

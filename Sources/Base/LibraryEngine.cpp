@@ -1,9 +1,10 @@
 #include "LibraryEngine.h"
 
+#include "Url.h"
+
 #include <QtCore/qcoreapplication.h>
 #include <QtCore/qfile.h>
 #include <QtCore/qscopedvaluerollback.h>
-#include <QtCore/qurl.h>
 #include <QtQml/qqmlabstracturlinterceptor.h>
 #include <QtQml/qqmlcomponent.h>
 #include <QtQml/qqmlengine.h>
@@ -63,8 +64,7 @@ QQmlEngine *libraryEngine()
 
 std::unique_ptr<QObject> makeFromNib(const QString &path, const QVariantMap &properties)
 {
-    QQmlComponent component(libraryEngine(),
-                            path.startsWith(u':') ? QUrl(QString(u"qrc" + path)) : QUrl::fromLocalFile(path));
+    QQmlComponent component(libraryEngine(), urlOfFile(path));
     if (!component.isReady())
         return nullptr;
     std::unique_ptr<QObject> object(component.createWithInitialProperties(properties));

@@ -1,5 +1,6 @@
 #include "TQRandomBackgroundView.h"
 
+#include "QmlColor.h"
 #include "TQFoundation/AnimationView.h"
 
 namespace TQFoundation {
@@ -22,6 +23,12 @@ void TQRandomBackgroundView::setColor(const Color &color)
     m_color = color;
     updateView();
     Q_EMIT colorChanged();
+}
+
+void TQRandomBackgroundView::setQmlColor(const QVariant &value)
+{
+    if (const auto color = colorForProperty(value, this, "color"))
+        setColor(*color);
 }
 
 void TQRandomBackgroundView::updateView()

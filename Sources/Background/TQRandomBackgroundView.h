@@ -3,6 +3,7 @@
 #include "TQFoundation/Color.h"
 #include "TQFoundation/tqfoundation_export.h"
 
+#include <QtCore/qvariant.h>
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/qquickitem.h>
 
@@ -23,7 +24,7 @@ class TQFOUNDATION_EXPORT TQRandomBackgroundView : public QQuickItem
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(TQFoundation::Color color READ color WRITE setColor NOTIFY colorChanged REQUIRED FINAL)
+    Q_PROPERTY(QVariant color READ qmlColor WRITE setQmlColor NOTIFY colorChanged REQUIRED FINAL)
 
 public:
     /// Makes a background with the colour `clear`, for QML, where `color` is a required property.
@@ -49,6 +50,8 @@ protected:
     /// @}
 
 private:
+    QVariant qmlColor() const { return QVariant::fromValue(m_color); }
+    void setQmlColor(const QVariant &value);
     void updateView();
 
     Color m_color;

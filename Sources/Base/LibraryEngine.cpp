@@ -1,8 +1,10 @@
 #include "LibraryEngine.h"
 
+#include "Url.h"
+
 #include <QtCore/qcoreapplication.h>
 #include <QtCore/qfile.h>
-#include <QtCore/qurl.h>
+#include <QtCore/qscopedvaluerollback.h>
 #include <QtQml/qqmlabstracturlinterceptor.h>
 #include <QtQml/qqmlcomponent.h>
 #include <QtQml/qqmlengine.h>
@@ -28,31 +30,41 @@ public:
 
 struct Library
 {
-    Library() { engine.addUrlInterceptor(&localOnly); }
-
     LocalOnly localOnly;
-    QQmlEngine engine;
+    std::unique_ptr<QQmlEngine> engine; // created on first use: it is expensive
     QObject scope;
 };
 
 Library *instance = nullptr;
+bool isEnding = false;
 
 Library *library()
 {
     if (!instance) {
         instance = new Library;
-        // Reset before the deletion, because destructors that it runs may call library().
-        qAddPostRoutine([] { delete std::exchange(instance, nullptr); });
+        qAddPostRoutine([] {
+            const QScopedValueRollback ending(isEnding, true);
+            delete std::exchange(instance, nullptr);
+        });
     }
     return instance;
+}
+
+QQmlEngine *libraryEngine()
+{
+    auto &engine = library()->engine;
+    if (!engine) {
+        engine = std::make_unique<QQmlEngine>();
+        engine->addUrlInterceptor(&library()->localOnly);
+    }
+    return engine.get();
 }
 
 } // namespace
 
 std::unique_ptr<QObject> makeFromNib(const QString &path, const QVariantMap &properties)
 {
-    QQmlComponent component(&library()->engine,
-                            path.startsWith(u':') ? QUrl(QString(u"qrc" + path)) : QUrl::fromLocalFile(path));
+    QQmlComponent component(libraryEngine(), urlOfFile(path));
     if (!component.isReady())
         return nullptr;
     std::unique_ptr<QObject> object(component.createWithInitialProperties(properties));
@@ -63,7 +75,7 @@ std::unique_ptr<QObject> makeFromNib(const QString &path, const QVariantMap &pro
 
 bool hasQmlModule(const QString &name)
 {
-    const QStringList folders = library()->engine.importPathList();
+    const QStringList folders = libraryEngine()->importPathList();
     return std::ranges::any_of(folders, [&name](const QString &folder) {
         const QString path = folder.startsWith(u"qrc:") ? folder.mid(3) : folder;
         return QFile::exists(path + u'/' + name + u"/qmldir");
@@ -77,13 +89,13 @@ QObject *applicationScope()
 
 void deferredDelete(QObject *object)
 {
-    if (!instance) {
+    if (isEnding || !QCoreApplication::instance()) {
         delete object;
         return;
     }
     if (auto *item = qobject_cast<QQuickItem *>(object))
         item->setParentItem(nullptr);
-    object->setParent(&instance->scope);
+    object->setParent(applicationScope());
     object->deleteLater();
 }
 

@@ -23,9 +23,8 @@ bool hasQmlModule(const QString &name);
 /// Parent for objects that must be destroyed before the application object is. Never null. GUI thread.
 QObject *applicationScope();
 
-/// Deletes \a object in the event loop, because one of its own handlers may be running; at once if the library's engine
-/// does not exist, as after the end of the application. An item leaves its window immediately. A deleter for shared
-/// pointers. GUI thread.
+/// Deletes \a object in the event loop, because one of its own handlers may be running; at once if the application
+/// object is destroyed. An item leaves its window immediately. A deleter for shared pointers. GUI thread.
 void deferredDelete(QObject *object);
 
 } // namespace TQFoundation

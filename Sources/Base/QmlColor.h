@@ -3,8 +3,11 @@
 #include "TQFoundation/Color.h"
 
 #include <QtCore/qobjectdefs.h>
+#include <QtCore/qvariant.h>
 #include <QtGui/qcolor.h>
 #include <QtQml/qqml.h>
+
+#include <optional>
 
 namespace TQFoundation {
 
@@ -47,5 +50,13 @@ private:
 
     Color m_color;
 };
+
+/// The colour of a QML value: a `tqColor`, a `color`, or a string that is a text form of a `color` ("red", "#f00",
+/// "#80ff0000"). Null for any other value. Any thread.
+std::optional<Color> colorFromQml(const QVariant &value);
+
+/// colorFromQml() for the property \a name of \a object, which QML declares as `var`: Qt 6.4 rejects string literals
+/// for properties of custom value types. If null, reports a QML error that names the property. GUI thread.
+std::optional<Color> colorForProperty(const QVariant &value, const QObject *object, const char *name);
 
 } // namespace TQFoundation

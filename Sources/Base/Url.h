@@ -16,4 +16,10 @@ inline std::optional<QUrl> urlFromString(const QString &text)
     return url;
 }
 
+/// The URL of the file or resource at \a path; a resource path begins with a colon. Any thread.
+inline QUrl urlOfFile(const QString &path)
+{
+    return path.startsWith(u':') ? QUrl(QString(u"qrc" + path)) : QUrl::fromLocalFile(path);
+}
+
 } // namespace TQFoundation

@@ -86,6 +86,11 @@ QImage TQApp::icon() const
     return thumbnail;
 }
 
+QUrl TQApp::iconUrl() const
+{
+    return libraryBundle().imageUrl(QLatin1String(rowOf(*this).iconName));
+}
+
 QStringList TQApp::guideText() const
 {
     QStringList paragraphs;

@@ -6,6 +6,7 @@
 #include <QtCore/qhashfunctions.h>
 #include <QtCore/qobjectdefs.h>
 #include <QtCore/qstringlist.h>
+#include <QtCore/qurl.h>
 #include <QtCore/qvariant.h>
 #include <QtGui/qimage.h>
 #include <QtQml/qqmlregistration.h>
@@ -48,6 +49,8 @@ class TQFOUNDATION_EXPORT TQApp
     Q_PROPERTY(TQFoundation::Color tintColor READ tintColor CONSTANT FINAL)
     /// `var`, an image: see icon(). QML shows it with `TQAppIcon { app: TQApp.hazel }`.
     Q_PROPERTY(QImage icon READ icon CONSTANT FINAL)
+    /// `url`: see iconUrl(). `Image { source: app.iconUrl; sourceSize: Qt.size(36, 36) }`.
+    Q_PROPERTY(QUrl iconUrl READ iconUrl CONSTANT FINAL)
     /// `list<string>`: the paragraphs of the guide; empty for an app without one. `descriptions: app.guideText`.
     Q_PROPERTY(QStringList guideText READ guideText CONSTANT FINAL)
     /// `string`: the app's page in the store. `TQMore.openUrl(app.appLink, app.tintColor)`.
@@ -90,6 +93,9 @@ public:
     /// pixels is rounded to nearest; the image is null if that is below 1 or above 16384. Artwork that is missing from
     /// the library's bundle, or broken, stops the process. GUI thread.
     QImage icon() const;
+
+    /// The file or resource of the icon's artwork in full size, for image views that load and scale by themselves.
+    QUrl iconUrl() const;
 
     /// The paragraphs of the app's onboarding guide in the user's language; empty for an app without a guide.
     QStringList guideText() const;

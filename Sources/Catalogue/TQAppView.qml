@@ -1,9 +1,9 @@
 import QtQuick
 import TQFoundation
 
-/// A horizontally scrolling row of the sibling apps' icons. A tap anywhere on it, Return, Enter or a press by assistive
-/// technology opens the store page that lists all the developer's apps. The arrow keys scroll by one icon, Home and End
-/// to the ends.
+/// A horizontally scrolling row of the sibling apps' icons. A tap anywhere on it, Return, Enter, Space or a press by
+/// assistive technology opens the store page that lists all the developer's apps. The arrow keys scroll by one icon, Home
+/// and End to the ends.
 ///
 /// The icons have the size of `TQAppIcon`, a spacing of 8 points and 16 points of padding at both ends. The implicit
 /// height is that of an icon. With `LayoutMirroring` the row starts at the right.
@@ -61,6 +61,7 @@ Flickable {
     Keys.onRightPressed: event => event.accepted = scroller.scrollTo(contentX + scroller.step)
     Keys.onReturnPressed: event => scroller.press(event)
     Keys.onEnterPressed: event => scroller.press(event)
+    Keys.onSpacePressed: event => scroller.press(event)
     Keys.onPressed: event => {
         if (event.key === Qt.Key_Home)
             event.accepted = scroller.toStart();
@@ -76,6 +77,7 @@ Flickable {
     Row {
         id: row
 
+        LayoutMirroring.enabled: scroller.mirrored
         anchors.verticalCenter: parent.verticalCenter
         anchors.left: parent.left
         leftPadding: 16
@@ -105,7 +107,9 @@ Flickable {
                                       - (scroller.mirrored ? -1 : 1) * wheel.angleDelta.y / 120 * scroller.step)
     }
 
+    // Takes an exclusive grab, so that handlers of items below do not take the same tap.
     TapHandler {
+        gesturePolicy: TapHandler.WithinBounds
         enabled: !root.moving
         onTapped: TQApp.openDeveloperPage()
     }

@@ -1,14 +1,17 @@
 #include "TQGuide.h"
 
+#include "QmlColor.h"
+
 #include <QtCore/qpointer.h>
 
 namespace TQFoundation {
 
-void TQGuide::setTintColor(const Color &color)
+void TQGuide::setTintColor(const QVariant &value)
 {
-    if (m_tintColor == color)
+    const auto color = colorForProperty(value, this, "tintColor");
+    if (!color || m_tintColor == *color)
         return;
-    m_tintColor = color;
+    m_tintColor = *color;
     Q_EMIT tintColorChanged();
 }
 

@@ -3,6 +3,7 @@
 #include "TQFoundation/TQGuideView.h"
 
 #include <QtCore/qobject.h>
+#include <QtCore/qvariant.h>
 #include <QtQml/qqmlregistration.h>
 
 namespace TQFoundation {
@@ -15,17 +16,18 @@ class TQGuide : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(TQFoundation::Color tintColor READ tintColor WRITE setTintColor NOTIFY tintColorChanged REQUIRED FINAL)
+    Q_PROPERTY(QVariant tintColor READ tintColor WRITE setTintColor NOTIFY tintColorChanged REQUIRED FINAL)
     Q_PROPERTY(
         QStringList descriptions READ descriptions WRITE setDescriptions NOTIFY descriptionsChanged REQUIRED FINAL)
 
 public:
     using QObject::QObject;
 
-    /// Color of the whole overlay. Read by showGuide().
-    Color tintColor() const { return m_tintColor; }
-    /// Changes the color of overlays that are shown later.
-    void setTintColor(const Color &color);
+    /// Colour of the whole overlay, a `tqColor`. Read by showGuide().
+    QVariant tintColor() const { return QVariant::fromValue(m_tintColor); }
+    /// Changes the colour of overlays that are shown later. Takes a `tqColor`, a `color` or a text form of one; any other
+    /// value is a QML error and changes nothing.
+    void setTintColor(const QVariant &value);
 
     /// The paragraphs in the order shown, plain text. Read by showGuide(), which stops the process if they are empty.
     QStringList descriptions() const { return m_descriptions; }

@@ -4,7 +4,6 @@
 
 #include <QtCore/qobject.h>
 #include <QtCore/qvariant.h>
-#include <QtGui/qcolor.h>
 #include <QtQml/qqmlregistration.h>
 
 namespace TQFoundation {
@@ -12,8 +11,8 @@ namespace TQFoundation {
 /// The QML singleton `TQMore`: titles and links of a More screen's rows, in the user's language, and what opens them.
 /// All properties are constant. GUI thread.
 ///
-/// A filing `icp` that is undefined or null is absent; any other value counts as its text. A tint is a `tqColor` or a
-/// `color`; any other value counts as no tint.
+/// A filing `icp` is a string, or absent if undefined or null. A tint is a `tqColor`, a `color` or a text form of one
+/// ("red", "#f00"), or absent if undefined or null. Any other value throws a TypeError that names the parameter.
 class QmlMore : public QObject
 {
     Q_OBJECT
@@ -61,46 +60,27 @@ public:
     static QString versionText() { return TQMore::versionText(); }
 
     /// The title of the first region row: the filing in mainland China, else blogText. `TQMore.icpOrBlogText(app.icp)`.
-    Q_INVOKABLE QString icpOrBlogText(const QVariant &icp) const { return TQMore::icpOrBlogText(textOf(icp)); }
+    Q_INVOKABLE QString icpOrBlogText(const QVariant &icp) const;
     /// The link of the first region row: the filing site, else blogUrl. `TQMore.icpOrBlogUrl(app.icp)`.
-    Q_INVOKABLE QString icpOrBlogUrl(const QVariant &icp) const { return TQMore::icpOrBlogUrl(textOf(icp)); }
+    Q_INVOKABLE QString icpOrBlogUrl(const QVariant &icp) const;
     /// The title of the second region row: blogText below a filing, else threadsText.
     /// `TQMore.blogOrSocialText(app.icp)`.
-    Q_INVOKABLE QString blogOrSocialText(const QVariant &icp) const { return TQMore::blogOrSocialText(textOf(icp)); }
+    Q_INVOKABLE QString blogOrSocialText(const QVariant &icp) const;
     /// The link of the second region row: blogUrl below a filing, else threadsUrl. `TQMore.blogOrSocialUrl(app.icp)`.
-    Q_INVOKABLE QString blogOrSocialUrl(const QVariant &icp) const { return TQMore::blogOrSocialUrl(textOf(icp)); }
+    Q_INVOKABLE QString blogOrSocialUrl(const QVariant &icp) const;
 
     /// Opens a link in the system's handler, or the filing site in the in-app browser: see TQMore::openUrl().
     /// `TQMore.openUrl(TQMore.blogUrl, app.tintColor)`.
-    Q_INVOKABLE void openUrl(const QString &urlString, const QVariant &tintColor = {}) const
-    {
-        TQMore::openUrl(urlString, colorOf(tintColor));
-    }
+    Q_INVOKABLE void openUrl(const QString &urlString, const QVariant &tintColor = {}) const;
 
     /// Presents a mail composer addressed to the developer: see TQMore::sendFeedbackEmail().
     /// `TQMore.sendFeedbackEmail(app.tintColor, "<p>Hello</p>")`.
-    Q_INVOKABLE void sendFeedbackEmail(const QVariant &tintColor, const QString &message) const
-    {
-        TQMore::sendFeedbackEmail(colorOf(tintColor), message);
-    }
+    Q_INVOKABLE void sendFeedbackEmail(const QVariant &tintColor, const QString &message) const;
 
 private:
-    static std::optional<Color> colorOf(const QVariant &tint)
-    {
-        if (tint.metaType() == QMetaType::fromType<Color>())
-            return tint.value<Color>();
-        if (tint.typeId() != QMetaType::QColor)
-            return std::nullopt;
-        const auto color = tint.value<QColor>();
-        return Color({color.redF(), color.greenF(), color.blueF(), color.alphaF()});
-    }
-
-    static std::optional<QString> textOf(const QVariant &icp)
-    {
-        if (!icp.isValid() || icp.typeId() == QMetaType::Nullptr)
-            return std::nullopt;
-        return icp.toString();
-    }
+    using Row = QString(const std::optional<QString> &icp);
+    QString rowFor(const QVariant &icp, Row *row, const char *name) const;
+    void throwError(const QByteArray &message) const;
 };
 
 } // namespace TQFoundation

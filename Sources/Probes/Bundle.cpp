@@ -2,6 +2,7 @@
 
 #include "LanguageTags.h"
 #include "TQFoundation/Platform.h"
+#include "Url.h"
 
 #include <QtCore/qfile.h>
 #include <QtCore/qlocale.h>
@@ -50,7 +51,12 @@ QString translated(const QString &root, const char *context, const QString &key)
 
 QImage Bundle::image(const QString &name) const
 {
-    return QImage(m_root + u"/Icons/" + name + u".png");
+    return QImage(imagePath(name));
+}
+
+QUrl Bundle::imageUrl(const QString &name) const
+{
+    return urlOfFile(imagePath(name));
 }
 
 QString Bundle::localizedString(const QString &key) const

@@ -3,6 +3,7 @@
 #include "TQFoundation/tqfoundation_export.h"
 
 #include <QtCore/qstring.h>
+#include <QtCore/qurl.h>
 #include <QtGui/qimage.h>
 
 namespace TQFoundation {
@@ -21,6 +22,9 @@ public:
     /// each call.
     QImage image(const QString &name) const;
 
+    /// The URL of that image, which need not exist, for QML's `Image.source`.
+    QUrl imageUrl(const QString &name) const;
+
     /// The translation of \a key, or \a key itself if there is no table or no entry.
     ///
     /// The table is that of the first of the user's languages that has one. Languages are read once per process, and
@@ -31,6 +35,11 @@ public:
     QString interfaceString(const QString &key) const;
 
 private:
+    QString imagePath(const QString &name) const
+    {
+        return m_root + QStringLiteral("/Icons/") + name + QStringLiteral(".png");
+    }
+
     QString m_root;
 };
 

@@ -51,13 +51,12 @@ TEST_F(LibraryEngine, FindsQmlModulesByFolder)
 
 TEST_F(LibraryEngine, DeletesInTheEventLoop)
 {
-    QObject *const scope = applicationScope();
     QQuickWindow window;
     const QPointer<QQuickItem> item = new QQuickItem(window.contentItem());
     deferredDelete(item);
     ASSERT_TRUE(item);
     EXPECT_EQ(item->parentItem(), nullptr);
-    EXPECT_EQ(item->parent(), scope);
+    EXPECT_EQ(item->parent(), applicationScope());
     QCoreApplication::sendPostedEvents(item, QEvent::DeferredDelete);
     EXPECT_FALSE(item);
 }

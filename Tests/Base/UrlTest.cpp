@@ -22,5 +22,11 @@ TEST(Url, IsNullForTextsThatAreNotUrls)
     EXPECT_EQ(urlFromString(QStringLiteral("https://example") + QChar::Null), std::nullopt);
 }
 
+TEST(Url, IsMadeOfFilesAndResources)
+{
+    EXPECT_EQ(urlOfFile(QStringLiteral("/a b#c%20.png")).toLocalFile(), QStringLiteral("/a b#c%20.png"));
+    EXPECT_EQ(urlOfFile(QStringLiteral(":/icon.png")), QUrl(QStringLiteral("qrc:/icon.png")));
+}
+
 } // namespace
 } // namespace TQFoundation

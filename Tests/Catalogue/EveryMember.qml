@@ -14,6 +14,7 @@ Window {
     readonly property string texts: app.id + app.appLink + app.reviewLink
     readonly property var filing: app.icp
     readonly property string paragraph: app.guideText[0]
+    readonly property url artwork: app.iconUrl
 
     readonly property tqColor tint: app.tintColor
     readonly property color tintInLight: tint.light

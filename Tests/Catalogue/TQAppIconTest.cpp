@@ -25,5 +25,15 @@ TEST(TQAppIcon, ShowsTheIconOfAnyApp)
     EXPECT_NE(picture(), birch);
 }
 
+TEST(TQAppIcon, HasAUrlForImages)
+{
+    const InstalledRecordingPlatform platform;
+    const QmlWindow host("Image { source: TQApp.birch.iconUrl; sourceSize: Qt.size(36, 36) }");
+    EXPECT_EQ(host.item->property("status").toInt(), 1) << "Image.Ready";
+    EXPECT_EQ(host.item->size(), QSizeF(36, 36));
+    platform->root = QStringLiteral("/elsewhere");
+    EXPECT_EQ(TQApp::birch.iconUrl(), QUrl(QStringLiteral("file:///elsewhere/Icons/birch.png")));
+}
+
 } // namespace
 } // namespace TQFoundation

@@ -150,6 +150,35 @@ TEST_F(TQAppView, OpensThePageOnATapAnywhere)
     }
 }
 
+TEST_F(TQAppView, KeepsTapsFromHandlersBelow)
+{
+    for (const char *policy : {"DragThreshold", "WithinBounds", "ReleaseWithinBounds"}) {
+        QmlWindow host("Item { property int taps; width: 390; height: 200; TapHandler { onTapped: ++parent.taps; "
+                       "gesturePolicy: TapHandler."
+                       + QByteArray(policy) + " } " + row(TQApp::hazel) + " }");
+        const int before = opened();
+        QTest::mouseClick(&host.window, Qt::LeftButton, {}, {40, 18});
+        EXPECT_EQ(opened(), before + 1);
+        QTest::mousePress(&host.window, Qt::LeftButton, {}, {180, 18});
+        for (int x = 170; x >= 60; x -= 10)
+            QTest::mouseMove(&host.window, {x, 18});
+        QTest::mouseRelease(&host.window, Qt::LeftButton, {}, {60, 18});
+        EXPECT_EQ(host.item->property("taps"), QVariant(0)) << policy;
+        QTest::mouseClick(&host.window, Qt::LeftButton, {}, {40, 150});
+        EXPECT_EQ(opened(), before + 1);
+        EXPECT_EQ(host.item->property("taps"), QVariant(1)) << policy;
+    }
+}
+
+TEST_F(TQAppView, OpensThePageOnATouch)
+{
+    QmlWindow host(row(TQApp::hazel));
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    QTest::touchEvent(&host.window, screen.get()).press(0, {40, 18});
+    QTest::touchEvent(&host.window, screen.get()).release(0, {40, 18});
+    EXPECT_EQ(opened(), 1);
+}
+
 TEST_F(TQAppView, ReadsTheRegionBeforeOpeningThePage)
 {
     QmlWindow host(row(TQApp::hazel));
@@ -243,23 +272,27 @@ TEST_F(TQAppView, ScrollsByArrowHomeAndEndKeys)
     EXPECT_EQ(opened(), 0);
 }
 
-TEST_F(TQAppView, OpensThePageOnReturnAndEnter)
+TEST_F(TQAppView, OpensThePageOnReturnEnterAndSpace)
 {
     QmlWindow host(row(TQApp::hazel));
     EXPECT_TRUE(host.item->hasActiveFocus());
     QTest::keyClick(&host.window, Qt::Key_Return);
     QTest::keyClick(&host.window, Qt::Key_Enter);
-    EXPECT_EQ(opened(), 2);
+    QTest::keyClick(&host.window, Qt::Key_Space);
+    EXPECT_EQ(opened(), 3);
 }
 
 TEST_F(TQAppView, IgnoresKeyAutoRepeat)
 {
     QmlWindow host(row(TQApp::hazel));
-    for (const bool repeated : {false, true, true}) {
-        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), repeated);
-        QCoreApplication::sendEvent(&host.window, &press);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+        const int before = opened();
+        for (const bool repeated : {false, true, true}) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(), repeated);
+            QCoreApplication::sendEvent(&host.window, &press);
+        }
+        EXPECT_EQ(opened(), before + 1);
     }
-    EXPECT_EQ(opened(), 1);
 }
 
 TEST_F(TQAppView, TakesFocusByTab)
@@ -298,6 +331,25 @@ TEST_F(TQAppView, StartsAtTheRightIfMirrored)
     QTest::keyClick(&host.window, Qt::Key_Left);
     EXPECT_EQ(icons.last()->mapToScene({0, 0}).x(), 200 - 16 - 36 + 44);
     turnWheel(host, QPoint(0, 120));
+    EXPECT_EQ(icons.last()->mapToScene({0, 0}).x(), 200 - 16 - 36);
+}
+
+TEST_F(TQAppView, StartsAtTheRightIfOnlyItselfIsMirrored)
+{
+    QmlWindow host(row(TQApp::hazel, "width: 200; LayoutMirroring.enabled: true"));
+    const QList<QQuickItem *> icons = shownIcons(host);
+    EXPECT_EQ(appOf(icons.last()), TQApp::larch);
+    EXPECT_EQ(icons.last()->mapToScene({0, 0}).x(), 200 - 16 - 36);
+    QTest::keyClick(&host.window, Qt::Key_Left);
+    EXPECT_EQ(icons.last()->mapToScene({0, 0}).x(), 200 - 16 - 36 + 44);
+}
+
+TEST_F(TQAppView, InheritsMirroring)
+{
+    QmlWindow host("Item { LayoutMirroring.enabled: true; LayoutMirroring.childrenInherit: true; width: 390; "
+                   + row(TQApp::hazel, "width: 200") + " }");
+    const QList<QQuickItem *> icons = shownIcons(host);
+    EXPECT_EQ(appOf(icons.last()), TQApp::larch);
     EXPECT_EQ(icons.last()->mapToScene({0, 0}).x(), 200 - 16 - 36);
 }
 

@@ -10,6 +10,13 @@ using Testing::InstalledRecordingPlatform;
 using Testing::qmlValue;
 using Testing::QmlWindow;
 
+// The message of the error that a statement throws; empty if it throws none.
+QString thrownBy(const QByteArray &statement)
+{
+    return qmlValue("string", "{ try { " + statement + "; return '' } catch (error) { return error.message } }")
+        .toString();
+}
+
 TEST(QmlMore, HasTheTextsAndLinksOfTQMore)
 {
     const InstalledRecordingPlatform platform;
@@ -51,22 +58,46 @@ TEST(QmlMore, TreatsUndefinedAndNullFilingsAsAbsent)
               QVariant(QStringLiteral("https://links.example/tqstudio")));
 }
 
-TEST(QmlMore, OpensLinksWithOrWithoutATint)
+TEST(QmlMore, AcceptsStringsAsFilingsOnly)
+{
+    const InstalledRecordingPlatform platform;
+    for (const char *function : {"icpOrBlogText", "icpOrBlogUrl", "blogOrSocialText", "blogOrSocialUrl"}) {
+        for (const char *icp : {"3", "true", "['ICP']", "({})", "TQApp.hazel"}) {
+            const QByteArray call = QByteArray("TQMore.") + function + '(' + icp + ')';
+            EXPECT_EQ(thrownBy(call),
+                      QString(QLatin1String(function) + u": expected icp as a string, undefined or null"));
+        }
+    }
+}
+
+TEST(QmlMore, AcceptsEveryFormOfATint)
 {
     const InstalledRecordingPlatform platform;
     platform->storefront = QStringLiteral("CHN");
-    for (const char *tint : {"TQApp.hazel.tintColor", "Qt.rgba(1, 0, 0, 1)"}) {
+    for (const char *tint : {"TQApp.elm.tintColor", "Qt.rgba(1, 0, 0, 1)", "'red'", "'#f00'", "'#ffff0000'"}) {
         const QByteArray call = QByteArray("TQMore.openUrl('https://beian.miit.gov.cn', ") + tint + ')';
-        const QmlWindow host("Item { Component.onCompleted: " + call + " }");
-        EXPECT_FALSE(platform->calls.filter(QStringLiteral("makeInAppBrowser")).isEmpty()) << tint;
+        EXPECT_EQ(thrownBy(call), QString());
+        EXPECT_FALSE(platform->calls.filter(QStringLiteral("setPreferredControlTintColor(#ffff")).isEmpty()) << tint;
         platform->calls.clear();
     }
-    for (const char *tint : {"undefined", "null", "'red'", "3"}) {
-        const QByteArray call = QByteArray("TQMore.openUrl('https://beian.miit.gov.cn', ") + tint + ')';
-        const QmlWindow host("Item { Component.onCompleted: " + call + " }");
-        EXPECT_TRUE(platform->calls.contains(QStringLiteral("openUrl(https://beian.miit.gov.cn)"))) << tint;
+    for (const char *arguments : {"", ", undefined", ", null"}) {
+        const QByteArray call = QByteArray("TQMore.openUrl('https://beian.miit.gov.cn'") + arguments + ')';
+        EXPECT_EQ(thrownBy(call), QString());
+        EXPECT_TRUE(platform->calls.contains(QStringLiteral("openUrl(https://beian.miit.gov.cn)"))) << arguments;
         platform->calls.clear();
     }
+}
+
+TEST(QmlMore, RejectsTintsThatAreNotColors)
+{
+    const InstalledRecordingPlatform platform;
+    for (const char *tint : {"'reddish'", "''", "3", "true", "({})", "[]", "TQApp.hazel"}) {
+        EXPECT_EQ(thrownBy(QByteArray("TQMore.openUrl('https://beian.miit.gov.cn', ") + tint + ')'),
+                  QStringLiteral("openUrl: expected tintColor as a tqColor, a color, undefined or null"));
+        EXPECT_EQ(thrownBy(QByteArray("TQMore.sendFeedbackEmail(") + tint + ", 'text')"),
+                  QStringLiteral("sendFeedbackEmail: expected tintColor as a tqColor, a color, undefined or null"));
+    }
+    EXPECT_EQ(platform->calls, QStringList());
 }
 
 TEST(QmlMore, BeginsAFeedbackMail)

@@ -7,10 +7,16 @@
 #include <QtGui/qfontmetrics.h>
 #include <QtGui/qimage.h>
 #include <QtGui/qpainter.h>
+#include <QtQml/qqmlcomponent.h>
+#include <QtQml/qqmlengine.h>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <memory>
+#include <optional>
+#include <utility>
 
 namespace TQFoundation {
 namespace {
@@ -24,6 +30,35 @@ protected:
         font.setPointSizeF(17.3);
         font.setHintingPreference(QFont::PreferNoHinting);
         return font;
+    }
+
+    // The first and the last row with ink of a text that QPainter draws; null if it draws nothing.
+    static std::optional<std::pair<int, int>> inkedRows(const QString &text, const QFont &font)
+    {
+        QImage image(font.pixelSize(), static_cast<int>(heightOfString(text, font)) + 2 * font.pixelSize(),
+                     QImage::Format_Grayscale8);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.setFont(font);
+        painter.drawText(image.rect(), Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip, text);
+        painter.end();
+        std::optional<std::pair<int, int>> rows;
+        for (int y = 0; y < image.height(); ++y) {
+            if (std::any_of(image.constScanLine(y), image.constScanLine(y) + image.width(),
+                            [](uchar p) { return p < 255; }))
+                rows = {rows ? rows->first : y, y};
+        }
+        return rows;
+    }
+
+    static std::unique_ptr<QObject> qmlText(QQmlEngine &engine, const QString &text, const QFont &font)
+    {
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick\nText { textFormat: Text.PlainText }", {});
+        std::unique_ptr<QObject> item(
+            component.createWithInitialProperties({{QStringLiteral("text"), text}, {QStringLiteral("font"), font}}));
+        EXPECT_TRUE(item);
+        return item;
     }
 
     double width(const QString &text) const { return widthOfString(text, font); }
@@ -65,32 +100,134 @@ TEST_F(TextMeasurement, IsNotRounded)
     EXPECT_NE(width(QStringLiteral("Wave")), std::round(width(QStringLiteral("Wave"))));
     EXPECT_NE(line, std::round(line));
     EXPECT_DOUBLE_EQ(height(QStringLiteral("Wave")), line);
-    EXPECT_NEAR(height(QStringLiteral("a\nb\nc")), 2 * QFontMetricsF(font).lineSpacing() + line, 1.0 / 32);
+    EXPECT_DOUBLE_EQ(height(QStringLiteral("a\nb\nc")), 2 * std::ceil(QFontMetricsF(font).lineSpacing()) + line);
 }
 
-TEST_F(TextMeasurement, SpacesLinesAsTheFontDoes)
+TEST_F(TextMeasurement, HeightIsThatOfQPainter)
 {
+    QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&image);
+    const int sizes[] = {7, 12, 15, 33, 64};
+    int lines = 0;
     for (const QString &family : QFontDatabase::families()) {
         QFont other(family);
-        other.setPixelSize(40);
-        const QFontMetricsF metrics(other);
-        if (std::abs(heightOfString(QStringLiteral("a"), other) - metrics.height()) > 1.01)
-            continue; // another font stands in
-        // Hinting may round a line and the font's own figure differently. A layout takes no negative leading.
-        EXPECT_NEAR(heightOfString(QStringLiteral("a\na"), other) - heightOfString(QStringLiteral("a"), other),
-                    metrics.height() + std::max(0.0, metrics.leading()), 1.01)
-            << family.toStdString() << ", whose leading is " << metrics.leading();
-        if (HasFailure())
-            break;
+        for (const int size : sizes) {
+            other.setPixelSize(size);
+            painter.setFont(other);
+            for (const int count : {1, 2, lines++ % 50 + 1}) {
+                const QString text = QStringList(count, QStringLiteral("x")).join(u'\n');
+                const QRectF expected = painter.boundingRect(QRectF(), Qt::AlignLeft | Qt::AlignTop, text);
+                ASSERT_NEAR(heightOfString(text, other), expected.height(), 1.0 / 32)
+                    << family.toStdString() << ", " << size << " pixels, " << count << " lines";
+            }
+        }
     }
 }
 
-TEST_F(TextMeasurement, StartsALineAtEveryLineBreak)
+TEST_F(TextMeasurement, HeightIsThatOfInkedPixels)
+{
+    const int sizes[] = {7, 12, 15, 33, 64};
+    int number = 0;
+    for (const QString &family : QFontDatabase::families()) {
+        QFont other(family);
+        other.setPixelSize(sizes[number % 5]);
+        const QString letter = QStringLiteral("x");
+        const QString text = QStringList(number++ % 50 + 1, letter).join(u'\n');
+        const auto first = inkedRows(letter, other);
+        const auto all = inkedRows(text, other);
+        if (!first)
+            continue;
+        ASSERT_TRUE(all);
+        EXPECT_EQ(all->first, first->first) << family.toStdString();
+        EXPECT_EQ(all->second - first->second, heightOfString(text, other) - heightOfString(letter, other))
+            << family.toStdString() << ", " << other.pixelSize() << " pixels, " << text.count(u'\n') + 1 << " lines";
+    }
+}
+
+TEST_F(TextMeasurement, StacksLinesAsQmlTextDoes)
+{
+    QQmlEngine engine;
+    for (const char *family : {"DejaVu Sans", "Noto Sans", "Noto Serif"}) {
+        for (const int count : {1, 2, 20}) {
+            QFont other(QLatin1String(family), -1);
+            other.setPixelSize(15);
+            const QString text = QStringList(count, QStringLiteral("Wave")).join(u'\n');
+            EXPECT_EQ(std::ceil(heightOfString(text, other)), qmlText(engine, text, other)->property("contentHeight"));
+        }
+    }
+}
+
+TEST_F(TextMeasurement, BreaksLinesWhereQmlTextDoes)
+{
+    QQmlEngine engine;
+    for (const char16_t *text : {u"a\nb",
+                                 u"a\r\nb",
+                                 u"a\n\rb",
+                                 u"a\rb",
+                                 u"a\u2028b",
+                                 u"a\u2029b",
+                                 u"a\u0085b",
+                                 u"a\vb",
+                                 u"a\fb",
+                                 u"a\x1c"
+                                 u"b",
+                                 u"a\x1d"
+                                 u"b",
+                                 u"a\x1e"
+                                 u"b",
+                                 u"a\x1f"
+                                 u"b",
+                                 u"a\n",
+                                 u"a\u2028",
+                                 u"a\u2029",
+                                 u"a\r",
+                                 u"\na",
+                                 u"\n",
+                                 u"\n\n",
+                                 u"\r",
+                                 u"\u2029"}) {
+        const QString string = QString::fromUtf16(text);
+        const auto item = qmlText(engine, string, font);
+        const auto name = string.toUtf8().toPercentEncoding().toStdString();
+        EXPECT_EQ(std::ceil(height(string)), item->property("contentHeight")) << name;
+        EXPECT_NEAR(width(string), item->property("contentWidth").toDouble(), 1.0 / 32) << name;
+    }
+}
+
+TEST_F(TextMeasurement, BreaksLinesAtLineFeedAndLineSeparatorOnly)
 {
     const double two = height(QStringLiteral("a\nb"));
-    EXPECT_GT(two, line);
-    for (const char16_t *text : {u"a\r\nb", u"a\rb", u"a\u2028b", u"a\u2029b", u"a\n", u"\na", u"\n"})
+    for (const char16_t *text : {u"a\r\nb", u"a\u2028b", u"a\n", u"\na", u"\n"})
         EXPECT_EQ(height(QString::fromUtf16(text)), two);
+    for (const char16_t *text : {u"a\rb", u"a\u2029b", u"a\r"})
+        EXPECT_EQ(height(QString::fromUtf16(text)), line);
+}
+
+TEST_F(TextMeasurement, MeasuresLinesBeyondFixedPoint)
+{
+    QFont huge = font;
+    huge.setPixelSize(2000);
+    const double four = widthOfString(QStringLiteral("WAVE"), huge);
+    const double pitch = (widthOfString(QStringLiteral("WAVE").repeated(100), huge) - four) / 99;
+    constexpr int words = 20000;
+    const QString text = QStringLiteral("WAVE").repeated(words);
+    EXPECT_NEAR(widthOfString(text, huge) / (four + pitch * (words - 1)), 1, 1e-9);
+    EXPECT_EQ(heightOfString(text, huge), heightOfString(QStringLiteral("W"), huge));
+    EXPECT_EQ(widthOfString(QStringLiteral("a\n") + text + QStringLiteral("\nb"), huge), widthOfString(text, huge));
+    EXPECT_EQ(heightOfString(text + u'\n' + text, huge), heightOfString(QStringLiteral("W\nW"), huge));
+}
+
+TEST_F(TextMeasurement, ShapesAcrossThePartsOfLongLines)
+{
+    // A huge font makes the parts short.
+    QFont huge = font;
+    huge.setPixelSize(10000);
+    for (const char16_t *text : {u"AVAfi ", u"مرحبا ", u"汉字", u"e\u0301👩‍👩‍👧"}) {
+        const QString word = QString::fromUtf16(text);
+        const double ten = widthOfString(word.repeated(10), huge);
+        const double pitch = (ten - widthOfString(word, huge)) / 9;
+        EXPECT_NEAR(widthOfString(word.repeated(210), huge) / (ten + 200 * pitch), 1, 1e-6) << word.toStdString();
+    }
 }
 
 TEST_F(TextMeasurement, WidthIsThatOfTheWidestLine)

@@ -14,8 +14,6 @@ root, qmllint, modules = pathlib.Path(sys.argv[1]), sys.argv[2], pathlib.Path(sy
 page = (root / "docs/qml-reference.md").read_text(encoding="utf-8")
 failures = []
 
-# Helpers of a type written in QML, which apps do not use.
-HELPERS = {"TQAppView": {"mirrored", "step", "farthest", "siblings", "scrollTo", "scrollToStart", "open"}}
 NAMES = {"QString": "string", "QStringList": "list<string>", "QVariant": "var", "QColor": "color", "QImage": "image", "QUrl": "url",
          "TQFoundation::Color": "tqColor", "TQFoundation::TQApp": "tqApp", "QQuickWindow": "Window",
          "QQuickItem": "Item", "QObject": "QtObject", "": ""}
@@ -94,9 +92,6 @@ def types_of_the_module():
         for name in re.findall(r"^    function (\w+)\(", text, re.MULTILINE):
             each.methods.add((name, (), ""))
         each.signals |= set(re.findall(r"^    signal (\w+)", text, re.MULTILINE))
-        helpers = HELPERS.get(path.stem, set())
-        each.properties = {name: value for name, value in each.properties.items() if name not in helpers}
-        each.methods = {method for method in each.methods if method[0] not in helpers}
         found[path.stem] = each
     return found
 

@@ -46,6 +46,10 @@ public:
     /// Starts \a program and hands it \a message. Call it once.
     void start(const QString &program, const QByteArray &message);
 
+    /// Kills the program and the processes that it has started. finished() is not emitted any more. The mail may
+    /// already have been sent.
+    void cancel();
+
 Q_SIGNALS:
     /// Comes once, for a program that cannot be started at once. \a detail is what the program itself said last, one
     /// line of plain text, or empty.

@@ -195,7 +195,7 @@ Mit den besten Wünschen und vorzüglicher Hochachtung</translation>
     <message>
         <source>This page has stopped working.</source>
         <extracomment>Stands in place of a web page whose process has ended.</extracomment>
-        <translation>Diese Seite reagiert nicht mehr.</translation>
+        <translation>Diese Seite funktioniert nicht mehr.</translation>
     </message>
     <message>
         <source>This page takes too long to load.</source>

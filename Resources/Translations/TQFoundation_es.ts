@@ -35,7 +35,7 @@ The game is an infinite, two-dimensional orthogonal grid of square cells, each o
 
 At each step in time, the following transitions occur:</source>
         <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
-        <translation>Te doy la bienvenida a Hazel Grid.
+        <translation>Le doy la bienvenida a Hazel Grid.
 
 El juego es una cuadrícula ortogonal, infinita y bidimensional, de células cuadradas. Cada célula se encuentra en uno de dos estados posibles: viva o muerta.
 
@@ -157,7 +157,7 @@ Reciba mis más respetuosos saludos y mis mejores deseos.</translation>
     <message>
         <source>Follow me on Social Media Platforms</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>Sígueme en redes sociales</translation>
+        <translation>Sígame en redes sociales</translation>
     </message>
     <message>
         <source>Browse My Personal Website</source>

@@ -162,7 +162,7 @@ Best regards.</source>
     <message>
         <source>Browse My Personal Website</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>मेरी वेबसाइट देखें</translation>
+        <translation>मेरी निजी वेबसाइट देखें</translation>
     </message>
     <message>
         <source>Version</source>

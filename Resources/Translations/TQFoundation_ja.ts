@@ -172,7 +172,7 @@ Best regards.</source>
     <message>
         <source>Contact: </source>
         <extracomment>Begins the subject of a feedback mail, before the app&apos;s name; ends in one blank.</extracomment>
-        <translation>お問い合わせ： </translation>
+        <translation>お問い合わせ：</translation>
     </message>
 </context>
 <context>

@@ -185,7 +185,7 @@ Best regards.</source>
     <message>
         <source>This page could not be loaded. Check your connection and try again.</source>
         <extracomment>Stands in place of a web page.</extracomment>
-        <translation>이 페이지를 불러올 수 없습니다. 연결을 확인하고 다시 시도하십시오.</translation>
+        <translation>이 페이지를 불러오지 못했습니다. 연결을 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>The connection to this site is not secure, so the page was not opened.</source>
@@ -240,7 +240,7 @@ Best regards.</source>
     <message>
         <source>Your message could not be sent.</source>
         <extracomment>Why a mail was not sent.</extracomment>
-        <translation>메시지를 보낼 수 없습니다.</translation>
+        <translation>메시지를 보내지 못했습니다.</translation>
     </message>
     <message>
         <source>The mail program stopped unexpectedly. Your message may not have been sent.</source>

@@ -35,7 +35,7 @@ The game is an infinite, two-dimensional orthogonal grid of square cells, each o
 
 At each step in time, the following transitions occur:</source>
         <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
-        <translation>欢迎来到「榛格」。
+        <translation>欢迎来到 Hazel Grid。
 
 这是一张在二维平面上无限延伸的正交网格，每个方格都是一个细胞，处于「生」或「死」两种状态之一。
 
@@ -82,7 +82,7 @@ Any dead cell with exactly three live neighbours becomes a live cell, as if by r
 
 Best regards.</source>
         <extracomment>Last page, before the game begins.</extracomment>
-        <translation>接下来，请尽情享受「榛格」的乐趣。
+        <translation>接下来，请尽情享受 Hazel Grid 的乐趣。
 
 顺颂时祺。</translation>
     </message>
@@ -172,7 +172,7 @@ Best regards.</source>
     <message>
         <source>Contact: </source>
         <extracomment>Begins the subject of a feedback mail, before the app&apos;s name; ends in one blank.</extracomment>
-        <translation>联系： </translation>
+        <translation>联系：</translation>
     </message>
 </context>
 <context>
@@ -310,7 +310,7 @@ Best regards.</source>
     <message>
         <source>Keep Writing</source>
         <extracomment>Button that leads back to the mail that is being written.</extracomment>
-        <translation>继续写</translation>
+        <translation>继续撰写</translation>
     </message>
     <message>
         <source>Stop sending this message? It may already have been sent.</source>

@@ -21,7 +21,7 @@
     <message>
         <source>ICP-2099000001-</source>
         <extracomment>Begins the number under which an app is filed in mainland China; only Chinese gives it in full.</extracomment>
-        <translation>京ICP備2099000001號-</translation>
+        <translation>京ICP备2099000001号-</translation>
     </message>
     <message>
         <source>More Apps I Developed</source>
@@ -35,7 +35,7 @@ The game is an infinite, two-dimensional orthogonal grid of square cells, each o
 
 At each step in time, the following transitions occur:</source>
         <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
-        <translation>歡迎來到「榛格」。
+        <translation>歡迎來到 Hazel Grid。
 
 這是一張在二維平面上無限延伸的正交網格，每個方格都是一個細胞，處於「生」或「死」兩種狀態之一。
 
@@ -82,7 +82,7 @@ Any dead cell with exactly three live neighbours becomes a live cell, as if by r
 
 Best regards.</source>
         <extracomment>Last page, before the game begins.</extracomment>
-        <translation>接下來，請盡情享受「榛格」的樂趣。
+        <translation>接下來，請盡情享受 Hazel Grid 的樂趣。
 
 順頌時祺。</translation>
     </message>
@@ -172,7 +172,7 @@ Best regards.</source>
     <message>
         <source>Contact: </source>
         <extracomment>Begins the subject of a feedback mail, before the app&apos;s name; ends in one blank.</extracomment>
-        <translation>聯絡： </translation>
+        <translation>聯絡：</translation>
     </message>
 </context>
 <context>

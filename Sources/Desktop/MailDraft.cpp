@@ -1,5 +1,6 @@
 #include "MailDraft.h"
 
+#include "LayoutCost.h"
 #include "MailMessage.h"
 #include "SheetText.h"
 
@@ -84,9 +85,7 @@ void MailDraft::setSubject(const QString &subject)
 
 bool MailDraft::isTooLarge() const
 {
-    // Layout time grows with the square of paragraph length and nesting depth, and doubles with each nested table.
-    return html.size() > 20000 || html.count(u'<') > 1000
-        || html.count(QStringLiteral("<table"), Qt::CaseInsensitive) > 8;
+    return layoutCost(html.toStdU16String()) > maxLayoutCost;
 }
 
 void MailDraft::load(QQuickTextDocument *editor)

@@ -195,7 +195,7 @@ Mit den besten Wünschen und vorzüglicher Hochachtung</translation>
     <message>
         <source>This page has stopped working.</source>
         <extracomment>Stands in place of a web page whose process has ended.</extracomment>
-        <translation>Diese Seite reagiert nicht mehr.</translation>
+        <translation>Diese Seite funktioniert nicht mehr.</translation>
     </message>
     <message>
         <source>This page takes too long to load.</source>
@@ -209,7 +209,7 @@ Mit den besten Wünschen und vorzüglicher Hochachtung</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button that leads to the page before, in the in-app browser.</extracomment>
+        <extracomment>Button that leads to the previous page, in the in-app browser.</extracomment>
         <translation>Zurück</translation>
     </message>
     <message>
@@ -254,7 +254,7 @@ Mit den besten Wünschen und vorzüglicher Hochachtung</translation>
     </message>
     <message>
         <source>There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again sends it twice.</source>
-        <extracomment>The user has to know that a further attempt could send the mail twice.</extracomment>
+        <extracomment>Why a mail was not sent. It must say that another attempt may send the mail twice.</extracomment>
         <translation>Seit 30 Sekunden kommt keine Antwort. Ihre Nachricht wurde möglicherweise schon gesendet; ein weiterer Versuch sendet sie dann doppelt.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Mit den besten Wünschen und vorzüglicher Hochachtung</translation>
     </message>
     <message>
         <source>Sending…</source>
-        <extracomment>Stands in place of the sheet&apos;s title while a mail is on its way.</extracomment>
+        <extracomment>Title of the sheet while the mail is being sent.</extracomment>
         <translation>Wird gesendet …</translation>
     </message>
     <message>
@@ -284,22 +284,22 @@ Mit den besten Wünschen und vorzüglicher Hochachtung</translation>
     </message>
     <message>
         <source>To:</source>
-        <extracomment>Stands before the address that a mail goes to.</extracomment>
+        <extracomment>Label before the recipient&apos;s address.</extracomment>
         <translation>An:</translation>
     </message>
     <message>
         <source>Subject:</source>
-        <extracomment>Stands before the subject of a mail.</extracomment>
+        <extracomment>Label before the subject of a mail.</extracomment>
         <translation>Betreff:</translation>
     </message>
     <message>
         <source>Message</source>
-        <extracomment>What a screen reader calls the field in which the text of a mail is written.</extracomment>
+        <extracomment>Name of the field for the text of a mail, for screen readers.</extracomment>
         <translation>Nachricht</translation>
     </message>
     <message>
         <source>More text, which is too long to be shown here, is sent along below yours.</source>
-        <extracomment>Stands below what the user writes in a mail.</extracomment>
+        <extracomment>Note below the text that the user writes in a mail.</extracomment>
         <translation>Weiterer Text, der zu lang ist, um hier angezeigt zu werden, wird unter Ihrem mitgesendet.</translation>
     </message>
     <message>
@@ -309,13 +309,28 @@ Mit den besten Wünschen und vorzüglicher Hochachtung</translation>
     </message>
     <message>
         <source>Discard</source>
-        <extracomment>Button that closes the sheet and loses what was written.</extracomment>
+        <extracomment>Button that closes the sheet; the text that the user has written is lost.</extracomment>
         <translation>Verwerfen</translation>
     </message>
     <message>
         <source>Keep Writing</source>
         <extracomment>Button that leads back to the mail that is being written.</extracomment>
         <translation>Weiterschreiben</translation>
+    </message>
+    <message>
+        <source>Stop sending this message? It may already have been sent.</source>
+        <extracomment>Asked if the user cancels while the mail is being sent; answered by &quot;Stop Sending&quot; or &quot;Keep Sending&quot;.</extracomment>
+        <translation>Senden dieser Nachricht stoppen? Sie wurde möglicherweise schon gesendet.</translation>
+    </message>
+    <message>
+        <source>Stop Sending</source>
+        <extracomment>Button that stops the sending of a mail.</extracomment>
+        <translation>Senden stoppen</translation>
+    </message>
+    <message>
+        <source>Keep Sending</source>
+        <extracomment>Button that lets the sending of a mail continue.</extracomment>
+        <translation>Weiter senden</translation>
     </message>
 </context>
 </TS>

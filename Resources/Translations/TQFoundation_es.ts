@@ -35,7 +35,7 @@ The game is an infinite, two-dimensional orthogonal grid of square cells, each o
 
 At each step in time, the following transitions occur:</source>
         <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
-        <translation>Te doy la bienvenida a Hazel Grid.
+        <translation>Le doy la bienvenida a Hazel Grid.
 
 El juego es una cuadrícula ortogonal, infinita y bidimensional, de células cuadradas. Cada célula se encuentra en uno de dos estados posibles: viva o muerta.
 
@@ -157,7 +157,7 @@ Reciba mis más respetuosos saludos y mis mejores deseos.</translation>
     <message>
         <source>Follow me on Social Media Platforms</source>
         <extracomment>Title of a row of the More screen.</extracomment>
-        <translation>Sígueme en redes sociales</translation>
+        <translation>Sígame en redes sociales</translation>
     </message>
     <message>
         <source>Browse My Personal Website</source>
@@ -209,7 +209,7 @@ Reciba mis más respetuosos saludos y mis mejores deseos.</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button that leads to the page before, in the in-app browser.</extracomment>
+        <extracomment>Button that leads to the previous page, in the in-app browser.</extracomment>
         <translation>Atrás</translation>
     </message>
     <message>
@@ -254,7 +254,7 @@ Reciba mis más respetuosos saludos y mis mejores deseos.</translation>
     </message>
     <message>
         <source>There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again sends it twice.</source>
-        <extracomment>The user has to know that a further attempt could send the mail twice.</extracomment>
+        <extracomment>Why a mail was not sent. It must say that another attempt may send the mail twice.</extracomment>
         <translation>No ha habido respuesta en 30 segundos. Es posible que su mensaje ya se haya enviado; en ese caso, si lo intenta de nuevo, se enviará dos veces.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Reciba mis más respetuosos saludos y mis mejores deseos.</translation>
     </message>
     <message>
         <source>Sending…</source>
-        <extracomment>Stands in place of the sheet&apos;s title while a mail is on its way.</extracomment>
+        <extracomment>Title of the sheet while the mail is being sent.</extracomment>
         <translation>Enviando…</translation>
     </message>
     <message>
@@ -284,22 +284,22 @@ Reciba mis más respetuosos saludos y mis mejores deseos.</translation>
     </message>
     <message>
         <source>To:</source>
-        <extracomment>Stands before the address that a mail goes to.</extracomment>
+        <extracomment>Label before the recipient&apos;s address.</extracomment>
         <translation>Para:</translation>
     </message>
     <message>
         <source>Subject:</source>
-        <extracomment>Stands before the subject of a mail.</extracomment>
+        <extracomment>Label before the subject of a mail.</extracomment>
         <translation>Asunto:</translation>
     </message>
     <message>
         <source>Message</source>
-        <extracomment>What a screen reader calls the field in which the text of a mail is written.</extracomment>
+        <extracomment>Name of the field for the text of a mail, for screen readers.</extracomment>
         <translation>Mensaje</translation>
     </message>
     <message>
         <source>More text, which is too long to be shown here, is sent along below yours.</source>
-        <extracomment>Stands below what the user writes in a mail.</extracomment>
+        <extracomment>Note below the text that the user writes in a mail.</extracomment>
         <translation>El resto del texto, demasiado largo para mostrarlo aquí, se envía debajo del suyo.</translation>
     </message>
     <message>
@@ -309,13 +309,28 @@ Reciba mis más respetuosos saludos y mis mejores deseos.</translation>
     </message>
     <message>
         <source>Discard</source>
-        <extracomment>Button that closes the sheet and loses what was written.</extracomment>
+        <extracomment>Button that closes the sheet; the text that the user has written is lost.</extracomment>
         <translation>Descartar</translation>
     </message>
     <message>
         <source>Keep Writing</source>
         <extracomment>Button that leads back to the mail that is being written.</extracomment>
         <translation>Seguir escribiendo</translation>
+    </message>
+    <message>
+        <source>Stop sending this message? It may already have been sent.</source>
+        <extracomment>Asked if the user cancels while the mail is being sent; answered by &quot;Stop Sending&quot; or &quot;Keep Sending&quot;.</extracomment>
+        <translation>¿Detener el envío de este mensaje? Es posible que ya se haya enviado.</translation>
+    </message>
+    <message>
+        <source>Stop Sending</source>
+        <extracomment>Button that stops the sending of a mail.</extracomment>
+        <translation>Detener el envío</translation>
+    </message>
+    <message>
+        <source>Keep Sending</source>
+        <extracomment>Button that lets the sending of a mail continue.</extracomment>
+        <translation>Seguir enviando</translation>
     </message>
 </context>
 </TS>

@@ -190,7 +190,7 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
     <message>
         <source>The connection to this site is not secure, so the page was not opened.</source>
         <extracomment>Stands in place of a web page whose certificate is not valid.</extracomment>
-        <translation>La connexion à ce site n’est pas sécurisée ; la page n’a donc pas été ouverte.</translation>
+        <translation>La connexion à ce site n’est pas sécurisée ; la page n’a donc pas été ouverte.</translation>
     </message>
     <message>
         <source>This page has stopped working.</source>
@@ -209,7 +209,7 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button that leads to the page before, in the in-app browser.</extracomment>
+        <extracomment>Button that leads to the previous page, in the in-app browser.</extracomment>
         <translation>Retour</translation>
     </message>
     <message>
@@ -254,8 +254,8 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
     </message>
     <message>
         <source>There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again sends it twice.</source>
-        <extracomment>The user has to know that a further attempt could send the mail twice.</extracomment>
-        <translation>Aucune réponse depuis 30 secondes. Votre message est peut-être déjà parti ; dans ce cas, un nouvel essai l’enverra une deuxième fois.</translation>
+        <extracomment>Why a mail was not sent. It must say that another attempt may send the mail twice.</extracomment>
+        <translation>Aucune réponse depuis 30 secondes. Votre message est peut-être déjà parti ; dans ce cas, un nouvel essai l’enverra une deuxième fois.</translation>
     </message>
     <message>
         <source>New Message</source>
@@ -264,7 +264,7 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
     </message>
     <message>
         <source>Sending…</source>
-        <extracomment>Stands in place of the sheet&apos;s title while a mail is on its way.</extracomment>
+        <extracomment>Title of the sheet while the mail is being sent.</extracomment>
         <translation>Envoi…</translation>
     </message>
     <message>
@@ -284,38 +284,53 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
     </message>
     <message>
         <source>To:</source>
-        <extracomment>Stands before the address that a mail goes to.</extracomment>
-        <translation>À :</translation>
+        <extracomment>Label before the recipient&apos;s address.</extracomment>
+        <translation>À :</translation>
     </message>
     <message>
         <source>Subject:</source>
-        <extracomment>Stands before the subject of a mail.</extracomment>
-        <translation>Objet :</translation>
+        <extracomment>Label before the subject of a mail.</extracomment>
+        <translation>Objet :</translation>
     </message>
     <message>
         <source>Message</source>
-        <extracomment>What a screen reader calls the field in which the text of a mail is written.</extracomment>
+        <extracomment>Name of the field for the text of a mail, for screen readers.</extracomment>
         <translation>Message</translation>
     </message>
     <message>
         <source>More text, which is too long to be shown here, is sent along below yours.</source>
-        <extracomment>Stands below what the user writes in a mail.</extracomment>
+        <extracomment>Note below the text that the user writes in a mail.</extracomment>
         <translation>La suite du texte, trop longue pour être affichée ici, est envoyée en dessous du vôtre.</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>
         <extracomment>Asked before the sheet is closed; answered by &quot;Discard&quot; or &quot;Keep Writing&quot;.</extracomment>
-        <translation>Supprimer ce message ? Ce que vous avez écrit sera perdu.</translation>
+        <translation>Supprimer ce message ? Ce que vous avez écrit sera perdu.</translation>
     </message>
     <message>
         <source>Discard</source>
-        <extracomment>Button that closes the sheet and loses what was written.</extracomment>
+        <extracomment>Button that closes the sheet; the text that the user has written is lost.</extracomment>
         <translation>Supprimer</translation>
     </message>
     <message>
         <source>Keep Writing</source>
         <extracomment>Button that leads back to the mail that is being written.</extracomment>
         <translation>Continuer à écrire</translation>
+    </message>
+    <message>
+        <source>Stop sending this message? It may already have been sent.</source>
+        <extracomment>Asked if the user cancels while the mail is being sent; answered by &quot;Stop Sending&quot; or &quot;Keep Sending&quot;.</extracomment>
+        <translation>Arrêter l’envoi de ce message ? Il est peut-être déjà parti.</translation>
+    </message>
+    <message>
+        <source>Stop Sending</source>
+        <extracomment>Button that stops the sending of a mail.</extracomment>
+        <translation>Arrêter l’envoi</translation>
+    </message>
+    <message>
+        <source>Keep Sending</source>
+        <extracomment>Button that lets the sending of a mail continue.</extracomment>
+        <translation>Poursuivre l’envoi</translation>
     </message>
 </context>
 </TS>

@@ -172,7 +172,7 @@ Best regards.</source>
     <message>
         <source>Contact: </source>
         <extracomment>Begins the subject of a feedback mail, before the app&apos;s name; ends in one blank.</extracomment>
-        <translation>お問い合わせ： </translation>
+        <translation>お問い合わせ：</translation>
     </message>
 </context>
 <context>
@@ -209,7 +209,7 @@ Best regards.</source>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button that leads to the page before, in the in-app browser.</extracomment>
+        <extracomment>Button that leads to the previous page, in the in-app browser.</extracomment>
         <translation>戻る</translation>
     </message>
     <message>
@@ -254,7 +254,7 @@ Best regards.</source>
     </message>
     <message>
         <source>There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again sends it twice.</source>
-        <extracomment>The user has to know that a further attempt could send the mail twice.</extracomment>
+        <extracomment>Why a mail was not sent. It must say that another attempt may send the mail twice.</extracomment>
         <translation>30秒間応答がありません。メッセージはすでに送信された可能性があります。その場合、再試行すると二重に送信されます。</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Best regards.</source>
     </message>
     <message>
         <source>Sending…</source>
-        <extracomment>Stands in place of the sheet&apos;s title while a mail is on its way.</extracomment>
+        <extracomment>Title of the sheet while the mail is being sent.</extracomment>
         <translation>送信中…</translation>
     </message>
     <message>
@@ -284,22 +284,22 @@ Best regards.</source>
     </message>
     <message>
         <source>To:</source>
-        <extracomment>Stands before the address that a mail goes to.</extracomment>
+        <extracomment>Label before the recipient&apos;s address.</extracomment>
         <translation>宛先：</translation>
     </message>
     <message>
         <source>Subject:</source>
-        <extracomment>Stands before the subject of a mail.</extracomment>
+        <extracomment>Label before the subject of a mail.</extracomment>
         <translation>件名：</translation>
     </message>
     <message>
         <source>Message</source>
-        <extracomment>What a screen reader calls the field in which the text of a mail is written.</extracomment>
+        <extracomment>Name of the field for the text of a mail, for screen readers.</extracomment>
         <translation>メッセージ</translation>
     </message>
     <message>
         <source>More text, which is too long to be shown here, is sent along below yours.</source>
-        <extracomment>Stands below what the user writes in a mail.</extracomment>
+        <extracomment>Note below the text that the user writes in a mail.</extracomment>
         <translation>長すぎてここに表示できない続きのテキストは、あなたの文章の下に付けて送信されます。</translation>
     </message>
     <message>
@@ -309,13 +309,28 @@ Best regards.</source>
     </message>
     <message>
         <source>Discard</source>
-        <extracomment>Button that closes the sheet and loses what was written.</extracomment>
+        <extracomment>Button that closes the sheet; the text that the user has written is lost.</extracomment>
         <translation>破棄</translation>
     </message>
     <message>
         <source>Keep Writing</source>
         <extracomment>Button that leads back to the mail that is being written.</extracomment>
         <translation>書き続ける</translation>
+    </message>
+    <message>
+        <source>Stop sending this message? It may already have been sent.</source>
+        <extracomment>Asked if the user cancels while the mail is being sent; answered by &quot;Stop Sending&quot; or &quot;Keep Sending&quot;.</extracomment>
+        <translation>このメッセージの送信を中止しますか？すでに送信されている可能性があります。</translation>
+    </message>
+    <message>
+        <source>Stop Sending</source>
+        <extracomment>Button that stops the sending of a mail.</extracomment>
+        <translation>送信を中止</translation>
+    </message>
+    <message>
+        <source>Keep Sending</source>
+        <extracomment>Button that lets the sending of a mail continue.</extracomment>
+        <translation>送信を続ける</translation>
     </message>
 </context>
 </TS>

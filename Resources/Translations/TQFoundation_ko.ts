@@ -185,7 +185,7 @@ Best regards.</source>
     <message>
         <source>This page could not be loaded. Check your connection and try again.</source>
         <extracomment>Stands in place of a web page.</extracomment>
-        <translation>이 페이지를 불러올 수 없습니다. 연결을 확인하고 다시 시도하십시오.</translation>
+        <translation>이 페이지를 불러오지 못했습니다. 연결을 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>The connection to this site is not secure, so the page was not opened.</source>
@@ -209,7 +209,7 @@ Best regards.</source>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button that leads to the page before, in the in-app browser.</extracomment>
+        <extracomment>Button that leads to the previous page, in the in-app browser.</extracomment>
         <translation>뒤로</translation>
     </message>
     <message>
@@ -245,7 +245,7 @@ Best regards.</source>
     <message>
         <source>Your message could not be sent.</source>
         <extracomment>Why a mail was not sent.</extracomment>
-        <translation>메시지를 보낼 수 없습니다.</translation>
+        <translation>메시지를 보내지 못했습니다.</translation>
     </message>
     <message>
         <source>The mail program stopped unexpectedly. Your message may not have been sent.</source>
@@ -254,7 +254,7 @@ Best regards.</source>
     </message>
     <message>
         <source>There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again sends it twice.</source>
-        <extracomment>The user has to know that a further attempt could send the mail twice.</extracomment>
+        <extracomment>Why a mail was not sent. It must say that another attempt may send the mail twice.</extracomment>
         <translation>30초 동안 응답이 없습니다. 메시지가 이미 전송되었을 수 있으며, 그렇다면 다시 시도할 때 두 번 전송됩니다.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Best regards.</source>
     </message>
     <message>
         <source>Sending…</source>
-        <extracomment>Stands in place of the sheet&apos;s title while a mail is on its way.</extracomment>
+        <extracomment>Title of the sheet while the mail is being sent.</extracomment>
         <translation>보내는 중…</translation>
     </message>
     <message>
@@ -284,22 +284,22 @@ Best regards.</source>
     </message>
     <message>
         <source>To:</source>
-        <extracomment>Stands before the address that a mail goes to.</extracomment>
+        <extracomment>Label before the recipient&apos;s address.</extracomment>
         <translation>받는 사람:</translation>
     </message>
     <message>
         <source>Subject:</source>
-        <extracomment>Stands before the subject of a mail.</extracomment>
+        <extracomment>Label before the subject of a mail.</extracomment>
         <translation>제목:</translation>
     </message>
     <message>
         <source>Message</source>
-        <extracomment>What a screen reader calls the field in which the text of a mail is written.</extracomment>
+        <extracomment>Name of the field for the text of a mail, for screen readers.</extracomment>
         <translation>메시지</translation>
     </message>
     <message>
         <source>More text, which is too long to be shown here, is sent along below yours.</source>
-        <extracomment>Stands below what the user writes in a mail.</extracomment>
+        <extracomment>Note below the text that the user writes in a mail.</extracomment>
         <translation>너무 길어 여기에 표시할 수 없는 나머지 텍스트는 작성한 내용 아래에 함께 전송됩니다.</translation>
     </message>
     <message>
@@ -309,13 +309,28 @@ Best regards.</source>
     </message>
     <message>
         <source>Discard</source>
-        <extracomment>Button that closes the sheet and loses what was written.</extracomment>
+        <extracomment>Button that closes the sheet; the text that the user has written is lost.</extracomment>
         <translation>버리기</translation>
     </message>
     <message>
         <source>Keep Writing</source>
         <extracomment>Button that leads back to the mail that is being written.</extracomment>
         <translation>계속 쓰기</translation>
+    </message>
+    <message>
+        <source>Stop sending this message? It may already have been sent.</source>
+        <extracomment>Asked if the user cancels while the mail is being sent; answered by &quot;Stop Sending&quot; or &quot;Keep Sending&quot;.</extracomment>
+        <translation>이 메시지 전송을 중단하겠습니까? 이미 전송되었을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Stop Sending</source>
+        <extracomment>Button that stops the sending of a mail.</extracomment>
+        <translation>전송 중단</translation>
+    </message>
+    <message>
+        <source>Keep Sending</source>
+        <extracomment>Button that lets the sending of a mail continue.</extracomment>
+        <translation>계속 전송</translation>
     </message>
 </context>
 </TS>

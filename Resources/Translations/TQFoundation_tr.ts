@@ -209,7 +209,7 @@ Saygılarımı sunar, esenlikler dilerim.</translation>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button that leads to the page before, in the in-app browser.</extracomment>
+        <extracomment>Button that leads to the previous page, in the in-app browser.</extracomment>
         <translation>Geri</translation>
     </message>
     <message>
@@ -254,7 +254,7 @@ Saygılarımı sunar, esenlikler dilerim.</translation>
     </message>
     <message>
         <source>There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again sends it twice.</source>
-        <extracomment>The user has to know that a further attempt could send the mail twice.</extracomment>
+        <extracomment>Why a mail was not sent. It must say that another attempt may send the mail twice.</extracomment>
         <translation>30 saniyedir yanıt yok. İletiniz gönderilmiş olabilir; öyleyse yeniden denemek onu ikinci kez gönderir.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Saygılarımı sunar, esenlikler dilerim.</translation>
     </message>
     <message>
         <source>Sending…</source>
-        <extracomment>Stands in place of the sheet&apos;s title while a mail is on its way.</extracomment>
+        <extracomment>Title of the sheet while the mail is being sent.</extracomment>
         <translation>Gönderiliyor…</translation>
     </message>
     <message>
@@ -284,22 +284,22 @@ Saygılarımı sunar, esenlikler dilerim.</translation>
     </message>
     <message>
         <source>To:</source>
-        <extracomment>Stands before the address that a mail goes to.</extracomment>
+        <extracomment>Label before the recipient&apos;s address.</extracomment>
         <translation>Kime:</translation>
     </message>
     <message>
         <source>Subject:</source>
-        <extracomment>Stands before the subject of a mail.</extracomment>
+        <extracomment>Label before the subject of a mail.</extracomment>
         <translation>Konu:</translation>
     </message>
     <message>
         <source>Message</source>
-        <extracomment>What a screen reader calls the field in which the text of a mail is written.</extracomment>
+        <extracomment>Name of the field for the text of a mail, for screen readers.</extracomment>
         <translation>İleti</translation>
     </message>
     <message>
         <source>More text, which is too long to be shown here, is sent along below yours.</source>
-        <extracomment>Stands below what the user writes in a mail.</extracomment>
+        <extracomment>Note below the text that the user writes in a mail.</extracomment>
         <translation>Burada gösterilemeyecek kadar uzun olan kalan metin, sizinkinin altında gönderilir.</translation>
     </message>
     <message>
@@ -309,13 +309,28 @@ Saygılarımı sunar, esenlikler dilerim.</translation>
     </message>
     <message>
         <source>Discard</source>
-        <extracomment>Button that closes the sheet and loses what was written.</extracomment>
+        <extracomment>Button that closes the sheet; the text that the user has written is lost.</extracomment>
         <translation>Sil</translation>
     </message>
     <message>
         <source>Keep Writing</source>
         <extracomment>Button that leads back to the mail that is being written.</extracomment>
         <translation>Yazmayı Sürdür</translation>
+    </message>
+    <message>
+        <source>Stop sending this message? It may already have been sent.</source>
+        <extracomment>Asked if the user cancels while the mail is being sent; answered by &quot;Stop Sending&quot; or &quot;Keep Sending&quot;.</extracomment>
+        <translation>Bu iletinin gönderimi durdurulsun mu? İleti gönderilmiş olabilir.</translation>
+    </message>
+    <message>
+        <source>Stop Sending</source>
+        <extracomment>Button that stops the sending of a mail.</extracomment>
+        <translation>Gönderimi Durdur</translation>
+    </message>
+    <message>
+        <source>Keep Sending</source>
+        <extracomment>Button that lets the sending of a mail continue.</extracomment>
+        <translation>Gönderimi Sürdür</translation>
     </message>
 </context>
 </TS>

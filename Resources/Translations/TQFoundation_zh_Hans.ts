@@ -35,7 +35,7 @@ The game is an infinite, two-dimensional orthogonal grid of square cells, each o
 
 At each step in time, the following transitions occur:</source>
         <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
-        <translation>欢迎来到「榛格」。
+        <translation>欢迎来到 Hazel Grid。
 
 这是一张在二维平面上无限延伸的正交网格，每个方格都是一个细胞，处于「生」或「死」两种状态之一。
 
@@ -82,7 +82,7 @@ Any dead cell with exactly three live neighbours becomes a live cell, as if by r
 
 Best regards.</source>
         <extracomment>Last page, before the game begins.</extracomment>
-        <translation>接下来，请尽情享受「榛格」的乐趣。
+        <translation>接下来，请尽情享受 Hazel Grid 的乐趣。
 
 顺颂时祺。</translation>
     </message>
@@ -172,7 +172,7 @@ Best regards.</source>
     <message>
         <source>Contact: </source>
         <extracomment>Begins the subject of a feedback mail, before the app&apos;s name; ends in one blank.</extracomment>
-        <translation>联系： </translation>
+        <translation>联系：</translation>
     </message>
 </context>
 <context>
@@ -209,7 +209,7 @@ Best regards.</source>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button that leads to the page before, in the in-app browser.</extracomment>
+        <extracomment>Button that leads to the previous page, in the in-app browser.</extracomment>
         <translation>返回</translation>
     </message>
     <message>
@@ -254,7 +254,7 @@ Best regards.</source>
     </message>
     <message>
         <source>There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again sends it twice.</source>
-        <extracomment>The user has to know that a further attempt could send the mail twice.</extracomment>
+        <extracomment>Why a mail was not sent. It must say that another attempt may send the mail twice.</extracomment>
         <translation>30 秒内没有应答。您的邮件可能已经发出；若是如此，重试会再发一遍。</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Best regards.</source>
     </message>
     <message>
         <source>Sending…</source>
-        <extracomment>Stands in place of the sheet&apos;s title while a mail is on its way.</extracomment>
+        <extracomment>Title of the sheet while the mail is being sent.</extracomment>
         <translation>正在发送…</translation>
     </message>
     <message>
@@ -284,22 +284,22 @@ Best regards.</source>
     </message>
     <message>
         <source>To:</source>
-        <extracomment>Stands before the address that a mail goes to.</extracomment>
+        <extracomment>Label before the recipient&apos;s address.</extracomment>
         <translation>收件人：</translation>
     </message>
     <message>
         <source>Subject:</source>
-        <extracomment>Stands before the subject of a mail.</extracomment>
+        <extracomment>Label before the subject of a mail.</extracomment>
         <translation>主题：</translation>
     </message>
     <message>
         <source>Message</source>
-        <extracomment>What a screen reader calls the field in which the text of a mail is written.</extracomment>
+        <extracomment>Name of the field for the text of a mail, for screen readers.</extracomment>
         <translation>邮件正文</translation>
     </message>
     <message>
         <source>More text, which is too long to be shown here, is sent along below yours.</source>
-        <extracomment>Stands below what the user writes in a mail.</extracomment>
+        <extracomment>Note below the text that the user writes in a mail.</extracomment>
         <translation>其余文字过长，无法在此显示，将附在您所写的内容下面一并发送。</translation>
     </message>
     <message>
@@ -309,13 +309,28 @@ Best regards.</source>
     </message>
     <message>
         <source>Discard</source>
-        <extracomment>Button that closes the sheet and loses what was written.</extracomment>
+        <extracomment>Button that closes the sheet; the text that the user has written is lost.</extracomment>
         <translation>放弃</translation>
     </message>
     <message>
         <source>Keep Writing</source>
         <extracomment>Button that leads back to the mail that is being written.</extracomment>
-        <translation>继续写</translation>
+        <translation>继续撰写</translation>
+    </message>
+    <message>
+        <source>Stop sending this message? It may already have been sent.</source>
+        <extracomment>Asked if the user cancels while the mail is being sent; answered by &quot;Stop Sending&quot; or &quot;Keep Sending&quot;.</extracomment>
+        <translation>要停止发送这封邮件吗？它可能已经发出。</translation>
+    </message>
+    <message>
+        <source>Stop Sending</source>
+        <extracomment>Button that stops the sending of a mail.</extracomment>
+        <translation>停止发送</translation>
+    </message>
+    <message>
+        <source>Keep Sending</source>
+        <extracomment>Button that lets the sending of a mail continue.</extracomment>
+        <translation>继续发送</translation>
     </message>
 </context>
 </TS>

@@ -21,7 +21,7 @@
     <message>
         <source>ICP-2099000001-</source>
         <extracomment>Begins the number under which an app is filed in mainland China; only Chinese gives it in full.</extracomment>
-        <translation>京ICP備2099000001號-</translation>
+        <translation>京ICP备2099000001号-</translation>
     </message>
     <message>
         <source>More Apps I Developed</source>
@@ -35,7 +35,7 @@ The game is an infinite, two-dimensional orthogonal grid of square cells, each o
 
 At each step in time, the following transitions occur:</source>
         <extracomment>First of six pages that explain the game of life to a new user; &quot;Hazel Grid&quot; is the app&apos;s name.</extracomment>
-        <translation>歡迎來到「榛格」。
+        <translation>歡迎來到 Hazel Grid。
 
 這是一張在二維平面上無限延伸的正交網格，每個方格都是一個細胞，處於「生」或「死」兩種狀態之一。
 
@@ -82,7 +82,7 @@ Any dead cell with exactly three live neighbours becomes a live cell, as if by r
 
 Best regards.</source>
         <extracomment>Last page, before the game begins.</extracomment>
-        <translation>接下來，請盡情享受「榛格」的樂趣。
+        <translation>接下來，請盡情享受 Hazel Grid 的樂趣。
 
 順頌時祺。</translation>
     </message>
@@ -172,7 +172,7 @@ Best regards.</source>
     <message>
         <source>Contact: </source>
         <extracomment>Begins the subject of a feedback mail, before the app&apos;s name; ends in one blank.</extracomment>
-        <translation>聯絡： </translation>
+        <translation>聯絡：</translation>
     </message>
 </context>
 <context>
@@ -209,7 +209,7 @@ Best regards.</source>
     </message>
     <message>
         <source>Back</source>
-        <extracomment>Button that leads to the page before, in the in-app browser.</extracomment>
+        <extracomment>Button that leads to the previous page, in the in-app browser.</extracomment>
         <translation>返回</translation>
     </message>
     <message>
@@ -254,7 +254,7 @@ Best regards.</source>
     </message>
     <message>
         <source>There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again sends it twice.</source>
-        <extracomment>The user has to know that a further attempt could send the mail twice.</extracomment>
+        <extracomment>Why a mail was not sent. It must say that another attempt may send the mail twice.</extracomment>
         <translation>30 秒內沒有回應。您的郵件可能已經寄出；若是如此，再試一次會重複傳送。</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Best regards.</source>
     </message>
     <message>
         <source>Sending…</source>
-        <extracomment>Stands in place of the sheet&apos;s title while a mail is on its way.</extracomment>
+        <extracomment>Title of the sheet while the mail is being sent.</extracomment>
         <translation>正在傳送…</translation>
     </message>
     <message>
@@ -284,22 +284,22 @@ Best regards.</source>
     </message>
     <message>
         <source>To:</source>
-        <extracomment>Stands before the address that a mail goes to.</extracomment>
+        <extracomment>Label before the recipient&apos;s address.</extracomment>
         <translation>收件人：</translation>
     </message>
     <message>
         <source>Subject:</source>
-        <extracomment>Stands before the subject of a mail.</extracomment>
+        <extracomment>Label before the subject of a mail.</extracomment>
         <translation>主旨：</translation>
     </message>
     <message>
         <source>Message</source>
-        <extracomment>What a screen reader calls the field in which the text of a mail is written.</extracomment>
+        <extracomment>Name of the field for the text of a mail, for screen readers.</extracomment>
         <translation>郵件內文</translation>
     </message>
     <message>
         <source>More text, which is too long to be shown here, is sent along below yours.</source>
-        <extracomment>Stands below what the user writes in a mail.</extracomment>
+        <extracomment>Note below the text that the user writes in a mail.</extracomment>
         <translation>其餘文字過長，無法在此顯示，將附在您所寫的內容下方一併傳送。</translation>
     </message>
     <message>
@@ -309,13 +309,28 @@ Best regards.</source>
     </message>
     <message>
         <source>Discard</source>
-        <extracomment>Button that closes the sheet and loses what was written.</extracomment>
+        <extracomment>Button that closes the sheet; the text that the user has written is lost.</extracomment>
         <translation>捨棄</translation>
     </message>
     <message>
         <source>Keep Writing</source>
         <extracomment>Button that leads back to the mail that is being written.</extracomment>
         <translation>繼續撰寫</translation>
+    </message>
+    <message>
+        <source>Stop sending this message? It may already have been sent.</source>
+        <extracomment>Asked if the user cancels while the mail is being sent; answered by &quot;Stop Sending&quot; or &quot;Keep Sending&quot;.</extracomment>
+        <translation>要停止傳送這封郵件嗎？它可能已經寄出。</translation>
+    </message>
+    <message>
+        <source>Stop Sending</source>
+        <extracomment>Button that stops the sending of a mail.</extracomment>
+        <translation>停止傳送</translation>
+    </message>
+    <message>
+        <source>Keep Sending</source>
+        <extracomment>Button that lets the sending of a mail continue.</extracomment>
+        <translation>繼續傳送</translation>
     </message>
 </context>
 </TS>

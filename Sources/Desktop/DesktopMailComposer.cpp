@@ -62,6 +62,9 @@ void DesktopMailComposer::notifyDelegate(MailComposeResult result, const QString
 {
     // The presenting controller drops its reference on dismissal.
     const auto self = weak_from_this().lock();
+    // A controller that presents another would dismiss that one instead of itself.
+    if (presentedViewController())
+        dismiss();
     if (const auto delegate = m_delegate.lock())
         delegate->mailComposeController(this, result, error);
     else

@@ -38,7 +38,7 @@ protected:
     void disappear() override;
 
 private:
-    // Dismisses the composer if there is no delegate.
+    // Dismisses all screens above the composer first, and the composer itself if there is no delegate.
     void notifyDelegate(MailComposeResult result, const QString &error);
 
     std::weak_ptr<ViewController> m_delegate;

@@ -9,6 +9,8 @@ Item {
     required property MailDraft page
 
     readonly property alias cancelButton: cancel
+    // Cancel was not pressed, or by the keyboard.
+    readonly property bool cancelledByKeyboard: !cancel.activeFocus || cancel.visualFocus
     readonly property alias sendButton: send
 
     readonly property color tint: page.tint.legibleOn(sheet.ground, sheet.dark)
@@ -26,7 +28,6 @@ Item {
         textSize: root.sheet.textSize
         tint: root.tint
         pressedGround: root.sheet.pressed
-        enabled: !root.page.isSending
         onClicked: root.page.cancel()
     }
 

@@ -1,5 +1,6 @@
 #include "MailDraft.h"
 
+#include "LayoutCost.h"
 #include "MailMessage.h"
 #include "SheetText.h"
 
@@ -84,9 +85,7 @@ void MailDraft::setSubject(const QString &subject)
 
 bool MailDraft::isTooLarge() const
 {
-    // Layout time grows with the square of paragraph length and nesting depth, and doubles with each nested table.
-    return html.size() > 20000 || html.count(u'<') > 1000
-        || html.count(QStringLiteral("<table"), Qt::CaseInsensitive) > 8;
+    return layoutCost(html.toStdU16String()) > maxLayoutCost;
 }
 
 void MailDraft::load(QQuickTextDocument *editor)
@@ -132,6 +131,7 @@ void MailDraft::send()
         return;
     QGuiApplication::inputMethod()->commit();
     m_state = State::sending;
+    m_problem.clear();
     Q_EMIT stateChanged();
     const auto message = composeMail({
         .to = recipient().toStdString(),
@@ -143,14 +143,15 @@ void MailDraft::send()
         onSendFinished(message ? Sendmail::Outcome::noProgram : Sendmail::Outcome::failed, {});
         return;
     }
-    auto *sendmail = new Sendmail(this);
-    connect(sendmail, &Sendmail::finished, this, &MailDraft::onSendFinished);
-    connect(sendmail, &Sendmail::finished, sendmail, &QObject::deleteLater);
-    sendmail->start(program, QByteArray::fromStdString(*message));
+    m_sendmail = new Sendmail(this);
+    connect(m_sendmail, &Sendmail::finished, this, &MailDraft::onSendFinished);
+    m_sendmail->start(program, QByteArray::fromStdString(*message));
 }
 
 void MailDraft::cancel()
 {
+    if (m_state == State::sending)
+        Q_EMIT stopConfirmationRequested();
     if (m_state != State::editing)
         return;
     QGuiApplication::inputMethod()->commit();
@@ -158,6 +159,15 @@ void MailDraft::cancel()
         Q_EMIT discardConfirmationRequested();
     else
         discard();
+}
+
+void MailDraft::stopSending()
+{
+    if (m_state != State::sending)
+        return;
+    m_sendmail->cancel();
+    endSending();
+    cancel();
 }
 
 void MailDraft::discard()
@@ -181,12 +191,19 @@ QString MailDraft::editedHtml() const
     return isTooLarge() ? QString(copy->toHtml() + html) : copy->toHtml();
 }
 
+void MailDraft::endSending()
+{
+    if (m_sendmail)
+        m_sendmail->deleteLater();
+    m_state = State::editing;
+    Q_EMIT stateChanged();
+}
+
 void MailDraft::onSendFinished(Sendmail::Outcome outcome, const QString &detail)
 {
-    m_state = State::editing;
     m_problem = problemOf(outcome);
     m_problemDetail = outcome == Sendmail::Outcome::sent ? QString() : detail;
-    Q_EMIT stateChanged();
+    endSending();
     if (outcome == Sendmail::Outcome::sent)
         finish(ViewController::MailComposeResult::sent);
 }

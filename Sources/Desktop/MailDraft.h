@@ -55,8 +55,8 @@ public:
     /// Whether the message sets text or background colours of its own and therefore needs a white background.
     bool hasColors() const { return m_hasColors; }
 
-    /// Whether laying out the message would block the GUI thread too long. Then it is not shown, and the text that the
-    /// user writes is sent before it.
+    /// Whether laying out the message would block the GUI thread too long, by layoutCost(). Then it is not shown, and
+    /// the text that the user writes is sent before it.
     bool isTooLarge() const;
 
     bool isSending() const { return m_state == State::sending; }
@@ -77,8 +77,12 @@ public:
     /// Sends the mail. Does nothing while sending and after finished().
     Q_INVOKABLE void send();
 
-    /// Finishes without sending, after a confirmation if the user has edited the mail. Does nothing while sending.
+    /// Finishes without sending. Requests a confirmation first if the mail is being sent or was edited by the user.
     Q_INVOKABLE void cancel();
+
+    /// Stops sending, then cancels. Kills the program, so that it does not send half of the message. Does nothing
+    /// unless sending.
+    Q_INVOKABLE void stopSending();
 
     /// Finishes without sending: as failed if the last attempt to send failed, else as cancelled. Does nothing while
     /// sending.
@@ -99,6 +103,9 @@ Q_SIGNALS:
     /// The sheet has to ask whether the edited mail may be discarded, and to call discard() if so.
     void discardConfirmationRequested();
 
+    /// The sheet has to ask whether to stop sending, and to call stopSending() if so.
+    void stopConfirmationRequested();
+
     /// The user is done with the mail. Emitted once. \a error is the problem() at that time.
     void finished(TQFoundation::ViewController::MailComposeResult result, const QString &error);
 
@@ -107,6 +114,7 @@ private:
 
     bool isEdited() const { return m_document && m_document->isModified(); }
     QString editedHtml() const;
+    void endSending();
     void onSendFinished(Sendmail::Outcome outcome, const QString &detail);
     void finish(ViewController::MailComposeResult result);
 
@@ -115,6 +123,7 @@ private:
     bool m_isSubjectEdited = false;
     bool m_hasColors = false;
     QPointer<QTextDocument> m_document; // the editor's
+    QPointer<Sendmail> m_sendmail; // a child of this object; null unless sending
     QString m_problem;
     QString m_problemDetail;
 };

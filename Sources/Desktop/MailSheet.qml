@@ -16,14 +16,23 @@ Sheet {
         target: root.page
 
         function onDiscardConfirmationRequested() {
-            question.ask(!bar.cancelButton.activeFocus || bar.cancelButton.visualFocus);
+            discardQuestion.ask(bar.cancelledByKeyboard);
+        }
+
+        function onStopConfirmationRequested() {
+            stopQuestion.ask(bar.cancelledByKeyboard);
+        }
+
+        function onStateChanged() {
+            if (!root.page.isSending)
+                stopQuestion.close();
         }
     }
 
     FocusScope {
         anchors.fill: parent
         focus: true
-        enabled: !question.visible
+        enabled: !discardQuestion.visible && !stopQuestion.visible
         LayoutMirroring.enabled: root.rightToLeft
         LayoutMirroring.childrenInherit: true
         Accessible.role: Accessible.Dialog
@@ -158,7 +167,7 @@ Sheet {
         }
 
         SheetQuestion {
-            id: question
+            id: discardQuestion
 
             sheet: root
             tint: root.page.tint.legibleOn(root.raisedGround, root.dark)
@@ -167,6 +176,18 @@ Sheet {
             noText: SheetText.of(SheetText.KeepWriting)
             onAccepted: root.page.discard()
             onClosed: editor.field.forceActiveFocus()
+        }
+
+        SheetQuestion {
+            id: stopQuestion
+
+            sheet: root
+            tint: discardQuestion.tint
+            question: SheetText.of(SheetText.StopQuestion)
+            yesText: SheetText.of(SheetText.StopSending)
+            noText: SheetText.of(SheetText.KeepSending)
+            onAccepted: root.page.stopSending()
+            onClosed: failure.visible ? failure.focusRetryButton(byKeyboard) : editor.field.forceActiveFocus()
         }
     }
 }

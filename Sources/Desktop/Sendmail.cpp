@@ -8,21 +8,41 @@
 
 #include <utility>
 
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <unistd.h>
+#endif
+
 namespace TQFoundation {
 namespace {
+
+// Kills its children too: the rest of a pipeline would pass on half of the message.
+void killGroup(QProcess &leader)
+{
+#ifdef Q_OS_UNIX
+    if (leader.processId() > 0)
+        ::kill(-static_cast<pid_t>(leader.processId()), SIGKILL);
+#endif
+    leader.kill();
+}
 
 /// Unlike QProcess, leaves the program running on destruction; kills it only if part of the message is unwritten.
 class Program final : public QProcess
 {
 public:
-    using QProcess::QProcess;
+    explicit Program(QObject *parent) : QProcess(parent)
+    {
+#ifdef Q_OS_UNIX
+        setChildProcessModifier([] { ::setpgid(0, 0); });
+#endif
+    }
 
     ~Program() override
     {
         if (state() == NotRunning)
             return;
         if (bytesToWrite() > 0) {
-            kill();
+            killGroup(*this);
             waitForFinished(1000);
         }
         setProcessState(NotRunning);
@@ -92,7 +112,7 @@ void Sendmail::start(const QString &program, const QByteArray &message)
     connect(process, &QProcess::finished, process, &QObject::deleteLater);
     m_timeout = platform().makeTimer(timeout, [this] {
         if (m_process)
-            m_process->kill();
+            killGroup(*m_process);
         finish(Outcome::unanswered);
     });
     m_timeout->schedule();
@@ -101,6 +121,14 @@ void Sendmail::start(const QString &program, const QByteArray &message)
         process->write(message);
         process->closeWriteChannel();
     }
+}
+
+void Sendmail::cancel()
+{
+    m_finished = true;
+    m_bound->invalidate();
+    if (m_process)
+        killGroup(*m_process);
 }
 
 void Sendmail::finish(Outcome outcome)

@@ -46,6 +46,10 @@ public:
     /// Starts \a program and writes \a message to its standard input. Call it once.
     void start(const QString &program, const QByteArray &message);
 
+    /// Kills the program and the processes that it has started. finished() is not emitted any more. The mail may
+    /// already have been sent.
+    void cancel();
+
 Q_SIGNALS:
     /// Emitted once, before start() returns if the program cannot be started. \a detail is the last line that the
     /// program wrote to its standard error: plain text of 300 characters at most, or empty.

@@ -44,6 +44,13 @@ constexpr std::array texts{
     Text{SheetText::Discard, QT_TRANSLATE_NOOP("TQFoundationInterface", "Discard")},
     //: Button that leads back to the mail that is being written.
     Text{SheetText::KeepWriting, QT_TRANSLATE_NOOP("TQFoundationInterface", "Keep Writing")},
+    //: Asked if the user cancels while the mail is being sent; answered by "Stop Sending" or "Keep Sending".
+    Text{SheetText::StopQuestion,
+         QT_TRANSLATE_NOOP("TQFoundationInterface", "Stop sending this message? It may already have been sent.")},
+    //: Button that stops the sending of a mail.
+    Text{SheetText::StopSending, QT_TRANSLATE_NOOP("TQFoundationInterface", "Stop Sending")},
+    //: Button that lets the sending of a mail continue.
+    Text{SheetText::KeepSending, QT_TRANSLATE_NOOP("TQFoundationInterface", "Keep Sending")},
 
     //: Why a mail was not sent.
     Text{SheetText::NoMailProgram,
@@ -93,15 +100,13 @@ constexpr std::array texts{
     Text{SheetText::PageTimedOut, QT_TRANSLATE_NOOP("TQFoundationInterface", "This page takes too long to load.")},
 };
 
-constexpr bool areInOrder()
-{
+static_assert([] {
     for (std::size_t index = 0; index < texts.size(); ++index) {
         if (static_cast<std::size_t>(texts[index].key) != index)
             return false;
     }
-    return true;
-}
-static_assert(areInOrder() && texts.size() == SheetText::PageTimedOut + 1);
+    return texts.size() == SheetText::PageTimedOut + 1;
+}());
 
 } // namespace
 

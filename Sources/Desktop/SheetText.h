@@ -32,6 +32,9 @@ public:
         DiscardQuestion,
         Discard,
         KeepWriting,
+        StopQuestion,
+        StopSending,
+        KeepSending,
         // Mail: errors of sending
         NoMailProgram,
         MailProgramNotSetUp,

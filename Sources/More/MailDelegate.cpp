@@ -4,8 +4,12 @@ namespace TQFoundation {
 
 void ViewController::mailComposeController(MailComposer *controller, MailComposeResult, const QString &)
 {
-    if (controller)
-        controller->dismiss();
+    const QPointer<MailComposer> composer(controller);
+    // The first call dismisses the screens above the composer, if there are any.
+    if (composer && composer->presentedViewController())
+        composer->dismiss();
+    if (composer)
+        composer->dismiss();
 }
 
 } // namespace TQFoundation

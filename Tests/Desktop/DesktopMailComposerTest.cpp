@@ -68,6 +68,48 @@ TEST_F(DesktopMailComposer, NotifiesDelegateOnceIfItStaysOpen)
     EXPECT_EQ(leaving->results, QList{Result::cancelled});
 }
 
+TEST_F(DesktopMailComposer, IsDismissedWithScreensAboveIt)
+{
+    class Custom final : public ViewController
+    {
+    public:
+        void mailComposeController(MailComposer *composer, MailComposeResult, const QString &) override
+        {
+            composer->dismiss();
+        }
+    };
+    makeKeepingProgram();
+    const std::shared_ptr<ViewController> delegates[] = {root, std::make_shared<Custom>(), nullptr};
+    for (const auto &delegate : delegates) {
+        const auto composer = desktop.makeMailComposer();
+        composer->setToRecipients({QStringLiteral("a@b.example")});
+        composer->setMailComposeDelegate(delegate);
+        root->present(composer);
+        slide();
+        click(button("Send"));
+        QQuickItem view;
+        composer->present(std::make_shared<ViewController>(&view));
+        composer->presentedViewController()->present(std::make_shared<ViewController>());
+        EXPECT_TRUE(comes([this] { return !isShown(); }));
+        EXPECT_FALSE(view.parentItem());
+        EXPECT_FALSE(composer->presentedViewController());
+        slide();
+        EXPECT_FALSE(itemOf("QQuickTextArea"));
+        if (isShown())
+            open({390, 844});
+    }
+}
+
+TEST_F(DesktopMailComposer, DefaultDelegateDismissesScreensAboveIt)
+{
+    const auto composer = desktop.makeMailComposer();
+    root->present(composer);
+    composer->present(std::make_shared<ViewController>());
+    root->mailComposeController(composer.get(), Result::sent, {});
+    EXPECT_FALSE(isShown());
+    EXPECT_FALSE(composer->presentedViewController());
+}
+
 TEST_F(DesktopMailComposer, FailsWithoutWindow)
 {
     QQuickItem view;

@@ -6,6 +6,7 @@
 #include <QtNetwork/qtcpserver.h>
 
 #include <csignal>
+#include <sys/stat.h>
 
 namespace TQFoundation {
 namespace {
@@ -97,6 +98,69 @@ TEST_F(MailDraft, CancelAsksIfTheSubjectIsEdited)
     EXPECT_FALSE(button("Discard")) << "Escape answers the question alone";
     EXPECT_TRUE(isShown());
     EXPECT_EQ(root->results, QList<Result>());
+}
+
+TEST_F(MailDraft, CancelWhileSendingStopsTheProgramAfterConfirmation)
+{
+    makeProgram("head -c 1000 > '" + path("mail") + "'; sleep 1000 & echo $! > '" + path("child") + "'; echo $$ > '"
+                + path("program") + "'; wait");
+    compose(QString(3000000, u'x'));
+    click(button("Send"));
+    ASSERT_TRUE(comes([this] { return kept("program").endsWith('\n'); }));
+    click(button("Cancel"));
+    EXPECT_TRUE(text("Stop sending this message? It may already have been sent."));
+    click(button("Keep Sending"));
+    EXPECT_TRUE(text("Sending…"));
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(button("Stop Sending"));
+    click(button("Stop Sending"));
+    EXPECT_FALSE(isShown());
+    EXPECT_EQ(root->results, QList{Result::cancelled});
+    for (const char *name : {"program", "child"}) {
+        const int process = kept(name).trimmed().toInt();
+        EXPECT_TRUE(comes([process] { return process > 0 && ::kill(process, 0) != 0; })) << name;
+    }
+}
+
+TEST_F(MailDraft, StoppedMailCanBeEditedAndSentAgain)
+{
+    makeProgram("echo started > '" + path("program") + "'; exec sleep 1000");
+    compose();
+    type(message(), "precious");
+    click(button("Send"));
+    ASSERT_TRUE(comes([this] { return kept("program").endsWith('\n'); }));
+    press(Qt::Key_Escape);
+    click(button("Stop Sending"));
+    EXPECT_FALSE(text("Sending…"));
+    ASSERT_TRUE(button("Discard"));
+    click(button("Keep Writing"));
+    EXPECT_FALSE(isProblemShown());
+    EXPECT_FALSE(message()->property("readOnly").toBool());
+    makeKeepingProgram();
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_TRUE(sentHtml().contains(QStringLiteral("precious")));
+    EXPECT_EQ(root->results, QList{Result::sent});
+}
+
+TEST_F(MailDraft, StopQuestionClosesWhenSendingEnds)
+{
+    ASSERT_EQ(mkfifo(path("gate").constData(), 0600), 0);
+    for (const char *exitCode : {"75", "0"}) {
+        makeProgram("cat > '" + path("mail") + "'; cat '" + path("gate") + "'; exit " + exitCode);
+        if (!isShown())
+            compose();
+        click(button("Send"));
+        click(button("Cancel"));
+        ASSERT_TRUE(button("Stop Sending"));
+        QFile gate(programs.filePath(QStringLiteral("gate")));
+        ASSERT_TRUE(gate.open(QIODevice::WriteOnly));
+        gate.close();
+        ASSERT_TRUE(comes([this] { return !button("Stop Sending"); }));
+        settle();
+        EXPECT_EQ(isProblemShown() && button("Try Again")->hasActiveFocus(), *exitCode == '7');
+    }
+    EXPECT_FALSE(isShown());
+    EXPECT_EQ(root->results, QList{Result::sent});
 }
 
 TEST_F(MailDraft, KeepsTextIfThereIsNoProgram)
@@ -217,6 +281,25 @@ TEST_F(MailDraft, EditedMessageKeepsImageReferences)
     EXPECT_TRUE(sentHtml().contains(QStringLiteral("src=\"https://tqstudio.example/a.png\"")))
         << sentHtml().toStdString();
     EXPECT_FALSE(sentHtml().contains(QStringLiteral("no-image")));
+}
+
+TEST_F(MailDraft, SendsExpensiveMessageUnshownAndUnchanged)
+{
+    makeKeepingProgram();
+    const QString html = QStringLiteral("<table><tr>") + QStringLiteral("<td colspan=20480>x").repeated(50);
+    compose(html);
+    EXPECT_TRUE(text("More text, which is too long to be shown here, is sent along below yours."));
+    EXPECT_EQ(document()->toPlainText(), QString());
+    ASSERT_TRUE(sendAndWait());
+    EXPECT_EQ(sentHtml(), html);
+}
+
+TEST_F(MailDraft, ShowsLongPlainMessage)
+{
+    const QString sentence = QStringLiteral("All that is plain is shown. ");
+    compose(u"<p>" + sentence.repeated(2000) + u"</p>");
+    EXPECT_FALSE(text("More text, which is too long to be shown here, is sent along below yours."));
+    EXPECT_EQ(document()->toPlainText().size(), sentence.size() * 2000);
 }
 
 TEST_F(MailDraft, PastesPlainTextOnly)

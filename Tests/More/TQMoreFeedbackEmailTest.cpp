@@ -89,7 +89,7 @@ TEST_F(TQMoreFeedbackEmail, BuildsTheSubjectAtEachCall)
 TEST_F(TQMoreFeedbackEmail, TranslatesTheSubject)
 {
     Testing::useLanguage("zh-CN");
-    EXPECT_EQ(subject(), QStringLiteral("composer.setSubject(联系： Hazel Grid 2.3.1(57))"));
+    EXPECT_EQ(subject(), QStringLiteral("composer.setSubject(联系：Hazel Grid 2.3.1(57))"));
     platform->root = Testing::emptyBundle();
     EXPECT_EQ(subject(), QStringLiteral("composer.setSubject(Contact: Hazel Grid 2.3.1(57))"));
 }

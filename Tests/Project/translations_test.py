@@ -79,10 +79,16 @@ def check(tables, keys, languages):
                     failures.append(f"{where} the website has only Chinese and English pages")
             elif text.count("\n\n") != key.count("\n\n"):
                 failures.append(f"{where} differs in the number of paragraphs")
-            if key.endswith(" ") != text.endswith(" ") or text.endswith("  ") or text != text.lstrip():
+            # A full-width colon contains its blank.
+            expects_blank = key.endswith(" ") and not text.endswith("：")
+            if expects_blank != text.endswith(" ") or text.endswith("  ") or text != text.lstrip() or "： " in text:
                 failures.append(f"{where} leading or trailing blanks differ")
-            if key == "ICP-2099000001-" and not (text.endswith("-") and "2099000001" in text):
-                failures.append(f"{where} has to end with the filing number and '-'")
+            if key == "ICP-2099000001-" and text != ("京ICP备2099000001号-" if language.startswith("zh_") else key):
+                failures.append(f"{where} a filing number is not translated, and its suffix follows directly")
+            if language == "fr" and not key.startswith("https://") and re.search("[^\u00a0\u202f][;:?!]", text):
+                failures.append(f"{where} French has a no-break space before ; : ? !")
+            if "Hazel Grid" in key and "Hazel Grid" not in text:
+                failures.append(f"{where} the name of an app is not translated")
 
 
 listed = next(line for line in (root / "CMakeLists.txt").read_text().splitlines() if line.startswith("set(languages "))

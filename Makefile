@@ -6,6 +6,8 @@ PREFIX ?= /usr/local
 ARGS ?=
 CTEST ?=
 SECONDS ?= 60
+SUITE ?=
+WERROR ?= OFF
 FUZZ ?= --verbose
 release := build/release
 sources = $(shell find Sources Example Tests Fuzzers Benchmarks -name '*.cpp' -o -name '*.h')
@@ -31,14 +33,14 @@ help:
 
 run:
 	tools/install-packages build run
-	cmake --preset release -DTQFOUNDATION_TESTS=OFF
+	cmake --preset release -DTQFOUNDATION_TESTS=OFF -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release
 	$(release)/Example/Grove $(ARGS)
 
 test:
 	tools/install-packages build run test
-	clang-format --dry-run --Werror $(sources)
-	cmake --preset release -DTQFOUNDATION_TESTS=ON
+	tools/format --check $(sources)
+	cmake --preset release -DTQFOUNDATION_TESTS=ON -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release
 	cmake --build --preset release --target all_qmllint
 	ctest --preset release $(CTEST)
@@ -52,14 +54,14 @@ sanitize:
 	cmake --preset threads
 	cmake --build --preset threads
 	ctest --preset threads
-	cmake --preset release -DTQFOUNDATION_TESTS=ON
+	cmake --preset release -DTQFOUNDATION_TESTS=ON -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release --target CoreTests
 	valgrind -q --error-exitcode=1 --leak-check=full --errors-for-leak-kinds=definite \
 		$(release)/Tests/CoreTests --gtest_brief=1 --gtest_filter='-*DeathTest.*:*AtScales.*'
 
 fuzz:
 	tools/install-packages build test
-	cmake --preset fuzz -DTQFOUNDATION_SMOKE_SECONDS=$(SECONDS)
+	cmake --preset fuzz -DTQFOUNDATION_SMOKE_SECONDS=$(SECONDS) -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset fuzz
 	ctest --preset fuzz $(FUZZ)
 
@@ -70,7 +72,7 @@ storm:
 
 soak:
 	tools/install-packages build run test bench
-	cmake --preset release -DTQFOUNDATION_TESTS=ON
+	cmake --preset release -DTQFOUNDATION_TESTS=ON -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release --target Tests
 	cmake --build --preset release --target soak
 
@@ -85,7 +87,7 @@ coverage:
 
 lint:
 	tools/install-packages build run test
-	cmake --preset release -DTQFOUNDATION_TESTS=ON
+	cmake --preset release -DTQFOUNDATION_TESTS=ON -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release
 	tools/lint $(release) $(units)
 
@@ -102,7 +104,7 @@ bench:
 
 install:
 	tools/install-packages build
-	cmake --preset release -DTQFOUNDATION_TESTS=OFF
+	cmake --preset release -DTQFOUNDATION_TESTS=OFF -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release
 	cmake --install $(release) --prefix $(PREFIX)
 
@@ -115,12 +117,12 @@ packages:
 
 pictures:
 	tools/install-packages build run pictures
-	cmake --preset release -DTQFOUNDATION_TESTS=OFF
+	cmake --preset release -DTQFOUNDATION_TESTS=OFF -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release
 	tools/take-pictures $(release)/Example/Grove docs/pictures
 
 format:
-	clang-format -i $(sources)
+	tools/format $(sources)
 
 clean:
 	$(RM) -r build

@@ -34,6 +34,13 @@ QQuickItem *connected(QQuickItem *outlet)
     return outlet;
 }
 
+// Flag of windows that extend below the bars and notches of the screen.
+#if QT_VERSION >= QT_VERSION_CHECK(6, 10, 0)
+constexpr Qt::WindowType extendsUnderBars = Qt::ExpandedClientAreaHint;
+#else
+constexpr Qt::WindowType extendsUnderBars = Qt::MaximizeUsingFullscreenGeometryHint;
+#endif
+
 } // namespace
 
 TQGuideView::TQGuideView(QQuickItem *parent) : QQuickItem(parent), m_shield(new InputShield(this))
@@ -307,8 +314,8 @@ void TQGuideView::updateShownArea()
                 shown &= mapRectFromItem(around, around->clipRect());
         }
         // Only windows that ask for all of the screen lie under its bars and notches.
-        const bool underBars = m_window->flags().testFlag(Qt::MaximizeUsingFullscreenGeometryHint)
-            || m_window->visibility() == QWindow::FullScreen;
+        const bool underBars =
+            m_window->flags().testFlag(extendsUnderBars) || m_window->visibility() == QWindow::FullScreen;
         if (const QScreen *screen = m_window->screen(); screen && underBars) {
             const QRectF clear = screen->availableGeometry();
             shown &= QRectF(mapFromGlobal(clear.topLeft()), mapFromGlobal(clear.bottomRight()));

@@ -1,6 +1,6 @@
 # Entry points for developers. Every target runs CMake with a preset of CMakePresets.json.
 .DEFAULT_GOAL := help
-.PHONY: help run test sanitize fuzz storm soak coverage lint docs bench install packages pictures format clean
+.PHONY: help run test elsewhere sanitize fuzz storm soak coverage lint docs bench install packages pictures format clean
 
 PREFIX ?= /usr/local
 ARGS ?=
@@ -17,6 +17,7 @@ units = $(shell find Sources Example -name '*.cpp')
 help:
 	@echo "make run        build and start the example (ARGS=\"--app birch --dark\"); without a display, write pictures"
 	@echo "make test       check formatting and QML files, build, run all tests and each fuzz target for 20 seconds"
+	@echo "make elsewhere  run \`make run\` and \`make test\` in a minimal system of the Debian release SUITE, or of each"
 	@echo "make sanitize   run the tests under AddressSanitizer, UndefinedBehaviorSanitizer, ThreadSanitizer and Valgrind"
 	@echo "make fuzz       run each fuzz target for SECONDS=$(SECONDS) seconds"
 	@echo "make storm      run a million random calls and events under AddressSanitizer"
@@ -45,6 +46,9 @@ test:
 	cmake --build --preset release --target all_qmllint
 	ctest --preset release $(CTEST)
 	$(MAKE) --no-print-directory fuzz SECONDS=20 FUZZ=
+
+elsewhere:
+	tools/elsewhere $(SUITE)
 
 sanitize:
 	tools/install-packages build run test sanitize

@@ -1,11 +1,13 @@
 # Entry points for developers. Every target runs CMake with a preset of CMakePresets.json.
 .DEFAULT_GOAL := help
-.PHONY: help run test sanitize fuzz storm soak coverage lint docs bench install packages pictures release-check format clean
+.PHONY: help run test elsewhere sanitize fuzz storm soak coverage lint docs bench install packages pictures release-check format clean
 
 PREFIX ?= /usr/local
 ARGS ?=
 CTEST ?=
 SECONDS ?= 60
+SUITE ?=
+WERROR ?= OFF
 FUZZ ?= --verbose
 release := build/release
 sources = $(shell find Sources Example Tests Fuzzers Benchmarks -name '*.cpp' -o -name '*.h')
@@ -15,6 +17,7 @@ units = $(shell find Sources Example -name '*.cpp')
 help:
 	@echo "make run        build and start the example (ARGS=\"--app birch --dark\"); without a display, write pictures"
 	@echo "make test       check formatting and QML files, build, run all tests and each fuzz target for 20 seconds"
+	@echo "make elsewhere  run \`make run\` and \`make test\` in a minimal system of the Debian release SUITE, or of each"
 	@echo "make sanitize   run the tests under AddressSanitizer, UndefinedBehaviorSanitizer, ThreadSanitizer and Valgrind"
 	@echo "make fuzz       run each fuzz target for SECONDS=$(SECONDS) seconds"
 	@echo "make storm      run a million random calls and events under AddressSanitizer"
@@ -32,18 +35,21 @@ help:
 
 run:
 	tools/install-packages build run
-	cmake --preset release -DTQFOUNDATION_TESTS=OFF
+	cmake --preset release -DTQFOUNDATION_TESTS=OFF -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release
 	$(release)/Example/Grove $(ARGS)
 
 test:
 	tools/install-packages build run test
-	clang-format --dry-run --Werror $(sources)
-	cmake --preset release -DTQFOUNDATION_TESTS=ON
+	tools/format --check $(sources)
+	cmake --preset release -DTQFOUNDATION_TESTS=ON -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release
 	cmake --build --preset release --target all_qmllint
 	ctest --preset release $(CTEST)
 	$(MAKE) --no-print-directory fuzz SECONDS=20 FUZZ=
+
+elsewhere:
+	tools/elsewhere $(SUITE)
 
 sanitize:
 	tools/install-packages build run test sanitize
@@ -53,14 +59,14 @@ sanitize:
 	cmake --preset threads
 	cmake --build --preset threads
 	ctest --preset threads
-	cmake --preset release -DTQFOUNDATION_TESTS=ON
+	cmake --preset release -DTQFOUNDATION_TESTS=ON -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release --target CoreTests
 	valgrind -q --error-exitcode=1 --leak-check=full --errors-for-leak-kinds=definite \
 		$(release)/Tests/CoreTests --gtest_brief=1 --gtest_filter='-*DeathTest.*:*AtScales.*'
 
 fuzz:
 	tools/install-packages build test
-	cmake --preset fuzz -DTQFOUNDATION_SMOKE_SECONDS=$(SECONDS)
+	cmake --preset fuzz -DTQFOUNDATION_SMOKE_SECONDS=$(SECONDS) -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset fuzz
 	ctest --preset fuzz $(FUZZ)
 
@@ -71,7 +77,7 @@ storm:
 
 soak:
 	tools/install-packages build run test bench
-	cmake --preset release -DTQFOUNDATION_TESTS=ON
+	cmake --preset release -DTQFOUNDATION_TESTS=ON -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release --target Tests
 	cmake --build --preset release --target soak
 
@@ -86,7 +92,7 @@ coverage:
 
 lint:
 	tools/install-packages build run test
-	cmake --preset release -DTQFOUNDATION_TESTS=ON
+	cmake --preset release -DTQFOUNDATION_TESTS=ON -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release
 	tools/lint $(release) $(units)
 
@@ -103,7 +109,7 @@ bench:
 
 install:
 	tools/install-packages build
-	cmake --preset release -DTQFOUNDATION_TESTS=OFF
+	cmake --preset release -DTQFOUNDATION_TESTS=OFF -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release
 	cmake --install $(release) --prefix $(PREFIX)
 
@@ -116,7 +122,7 @@ packages:
 
 pictures:
 	tools/install-packages build run pictures
-	cmake --preset release -DTQFOUNDATION_TESTS=OFF
+	cmake --preset release -DTQFOUNDATION_TESTS=OFF -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release
 	tools/take-pictures $(release)/Example/Grove docs/pictures
 
@@ -124,7 +130,7 @@ release-check:
 	tools/release-check
 
 format:
-	clang-format -i $(sources)
+	tools/format $(sources)
 
 clean:
 	$(RM) -r build

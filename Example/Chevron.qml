@@ -14,24 +14,27 @@ Item {
 
     Stroke {
         turn: 45
+        arrowSize: root.size
+        color: root.color
     }
 
     Stroke {
         turn: -45
+        arrowSize: root.size
+        color: root.color
     }
 
     component Stroke: Rectangle {
         id: stroke
 
-        property real turn
-        readonly property Chevron arrow: parent as Chevron
+        required property real turn
+        required property real arrowSize
 
-        x: arrow.width - width
-        y: arrow.height / 2 - height / 2
-        width: arrow.size * 0.72
-        height: Math.max(2, arrow.size / 6)
+        x: parent.width - width
+        y: parent.height / 2 - height / 2
+        width: arrowSize * 0.72
+        height: Math.max(2, arrowSize / 6)
         radius: height / 2
-        color: arrow.color
         antialiasing: true
         // Rotates around the tip, which both strokes share.
         transform: Rotation { origin { x: stroke.width - stroke.radius; y: stroke.radius } angle: stroke.turn }

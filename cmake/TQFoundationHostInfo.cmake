@@ -1,8 +1,12 @@
 # tq_add_host_info(<target> [DISPLAY_NAME <text>] [NAME <text>] [VERSION <text>] [BUILD <text>])
 #
 # Writes an Info.plist with the given entries and embeds it in <target>. The library reads the host app's name, version
-# and build from it; on Apple systems it is the bundle's Info.plist as well. For a missing entry the library uses its
-# documented fallback. Texts are taken verbatim.
+# and build from it; on Apple systems it is the bundle's Info.plist as well. For an entry that is missing or empty the
+# library uses its documented fallback. Texts are taken verbatim.
+cmake_policy(PUSH)
+if(POLICY CMP0174)
+    cmake_policy(SET CMP0174 NEW)
+endif()
 function(tq_add_host_info target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "DISPLAY_NAME;NAME;VERSION;BUILD" "")
     if(arg_UNPARSED_ARGUMENTS OR arg_KEYWORDS_MISSING_VALUES)
@@ -16,7 +20,7 @@ function(tq_add_host_info target)
         string(REGEX MATCH "^(.+)=(.+)$" _ ${pair})
         set(name ${CMAKE_MATCH_1})
         set(key ${CMAKE_MATCH_2})
-        if(DEFINED arg_${name})
+        if(NOT "${arg_${name}}" STREQUAL "")
             set(value "${arg_${name}}")
             string(REPLACE "&" "&amp;" value "${value}")
             string(REPLACE "<" "&lt;" value "${value}")
@@ -33,3 +37,4 @@ function(tq_add_host_info target)
     qt_add_resources(${target} "${target}_host_info" PREFIX / FILES "${plist}")
     set_target_properties(${target} PROPERTIES MACOSX_BUNDLE_INFO_PLIST "${plist}")
 endfunction()
+cmake_policy(POP)

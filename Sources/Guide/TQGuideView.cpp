@@ -34,6 +34,13 @@ QQuickItem *required(QQuickItem *outlet)
     return outlet;
 }
 
+// Flag of windows that extend below the bars and notches of the screen.
+#if QT_VERSION >= QT_VERSION_CHECK(6, 10, 0)
+constexpr Qt::WindowType extendsUnderBars = Qt::ExpandedClientAreaHint;
+#else
+constexpr Qt::WindowType extendsUnderBars = Qt::MaximizeUsingFullscreenGeometryHint;
+#endif
+
 } // namespace
 
 TQGuideView::TQGuideView(QQuickItem *parent) : QQuickItem(parent), m_shield(new InputShield(this))
@@ -287,7 +294,7 @@ void TQGuideView::updateShownArea()
                 shown &= mapRectFromItem(ancestor, ancestor->clipRect());
         }
         // Only windows that ask for the whole screen extend below its bars and notches.
-        const bool usesWholeScreen = m_window->flags().testFlag(Qt::MaximizeUsingFullscreenGeometryHint)
+        const bool usesWholeScreen = m_window->flags().testFlag(extendsUnderBars)
             || m_window->visibility() == QWindow::FullScreen;
         if (const QScreen *screen = m_window->screen(); screen && usesWholeScreen) {
             const QRectF available = screen->availableGeometry();

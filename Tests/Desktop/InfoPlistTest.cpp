@@ -1,6 +1,7 @@
 #include "InfoPlist.h"
 
 #include <QtCore/qdatetime.h>
+#include <QtCore/qtimezone.h>
 
 #include <gtest/gtest.h>
 
@@ -38,7 +39,7 @@ TEST(InfoPlist, KeepsTypesOfValues)
     EXPECT_EQ(map.value(QStringLiteral("real")), QVariant(2.5));
     EXPECT_EQ(map.value(QStringLiteral("yes")), QVariant(true));
     EXPECT_EQ(map.value(QStringLiteral("no")), QVariant(false));
-    EXPECT_EQ(map.value(QStringLiteral("date")).toDateTime(), QDateTime({2020, 2, 3}, {4, 5, 6}, Qt::UTC));
+    EXPECT_EQ(map.value(QStringLiteral("date")).toDateTime(), QDateTime({2020, 2, 3}, {4, 5, 6}, QTimeZone::utc()));
     EXPECT_EQ(map.value(QStringLiteral("data")), QVariant(QByteArray("hi")));
     EXPECT_EQ(map.value(QStringLiteral("array")).toList().size(), 2);
     EXPECT_EQ(map.value(QStringLiteral("map")).toMap().value(QStringLiteral("k")), QVariant(1LL));

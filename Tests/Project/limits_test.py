@@ -43,18 +43,15 @@ def qml_functions(lines):
 
 
 def has_contract(path, lines):
-    """Whether a comment stands before the type that the header is named after; without one, before its first
-    declaration."""
-    # A header of constants documents its namespace.
-    if any(re.match(rf"namespace [\w:]+::{path.stem} {{", line) and lines[k - 1].startswith("///")
-           for k, line in enumerate(lines)):
-        return True
+    """Whether a comment stands before the type that the header is named after; without such a type, before its namespace
+    or its first declaration."""
     declaration = r"(?!using|namespace|extern|static_assert|Q_|QT_|[{}])[A-Za-z]"
     forward = r"(class|struct|enum class) [\w:]+;"
     named = [k for k, line in enumerate(lines)
              if re.match(rf"(class|struct|enum class) (\w+_EXPORT )?{path.stem}\b(?!;)", line)]
     others = [k for k, line in enumerate(lines) if re.match(declaration, line) and not re.match(forward, line)]
-    if not named and not others:
+    spaces = [k for k, line in enumerate(lines) if line.startswith("namespace")]
+    if not named and (not others or any(lines[k - 1].startswith("///") for k in spaces)):
         return True
     start = (named or others)[0]
     while start > 0 and re.match(r"template|\[\[", lines[start - 1]):

@@ -92,6 +92,11 @@ QWindow *windowOnScreen(QWindow *window)
     return window;
 }
 
+double secondsOf(const QElapsedTimer &clock)
+{
+    return static_cast<double>(clock.nsecsElapsed()) * 1e-9;
+}
+
 } // namespace
 
 DesktopPlatform::DesktopPlatform() : m_settings(std::make_unique<SettingsStore>())
@@ -178,13 +183,14 @@ void DesktopPlatform::softImpact() {}
 
 double DesktopPlatform::mediaTime() const
 {
-    return static_cast<double>(m_clock.nsecsElapsed()) * 1e-9;
+    return secondsOf(m_clock);
 }
 
 std::shared_ptr<RepeatingTimer> DesktopPlatform::makeTimer(double interval, std::function<void()> tick)
 {
     precondition(interval > 0 && std::isfinite(interval));
-    return std::make_shared<DesktopTimer>(m_clock, interval, std::move(tick));
+    // A copy of the clock, because the timer may outlive the platform.
+    return std::make_shared<DesktopTimer>([clock = m_clock] { return secondsOf(clock); }, interval, std::move(tick));
 }
 
 QString DesktopPlatform::resourceRoot() const

@@ -11,10 +11,10 @@
 
 namespace TQFoundation {
 
-DesktopTimer::DesktopTimer(const QElapsedTimer &clock, double interval, std::function<void()> tick)
-    : m_clock(clock),
+DesktopTimer::DesktopTimer(std::function<double()> clock, double interval, std::function<void()> tick)
+    : m_clock(std::move(clock)),
       m_interval(interval),
-      m_start(now()),
+      m_start(m_clock()),
       m_tick(std::move(tick))
 {
     m_shot.setSingleShot(true);
@@ -47,14 +47,10 @@ void DesktopTimer::invalidate()
     const auto tick = std::exchange(m_tick, nullptr);
 }
 
-double DesktopTimer::now() const
-{
-    return static_cast<double>(m_clock.nsecsElapsed()) * 1e-9;
-}
-
 void DesktopTimer::startShot()
 {
-    const double delay = nextTick(m_start, m_interval, now()) - now();
+    const double now = m_clock();
+    const double delay = nextTick(m_start, m_interval, now) - now;
     m_shot.start(std::chrono::milliseconds(std::max(0LL, std::llround(std::ceil(delay * 1e3)))));
 }
 

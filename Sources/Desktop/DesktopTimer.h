@@ -2,7 +2,6 @@
 
 #include "TQFoundation/Platform.h"
 
-#include <QtCore/qelapsedtimer.h>
 #include <QtCore/qtimer.h>
 
 namespace TQFoundation {
@@ -12,20 +11,19 @@ namespace TQFoundation {
 class DesktopTimer final : public RepeatingTimer, public std::enable_shared_from_this<DesktopTimer>
 {
 public:
-    /// Calls \a tick every \a interval seconds (more than 0) of \a clock, counted from now, once scheduled. Make it
-    /// with `std::make_shared`.
-    DesktopTimer(const QElapsedTimer &clock, double interval, std::function<void()> tick);
+    /// Calls \a tick every \a interval seconds (more than 0), counted from now, once scheduled. \a clock returns the
+    /// seconds of a monotonic clock. Make it with `std::make_shared`.
+    DesktopTimer(std::function<double()> clock, double interval, std::function<void()> tick);
 
     void fire() override;
     void schedule() override;
     void invalidate() override;
 
 private:
-    double now() const;
     void startShot();
     void onTimeout();
 
-    const QElapsedTimer m_clock;
+    const std::function<double()> m_clock;
     const double m_interval;
     const double m_start;
     std::function<void()> m_tick;

@@ -7,12 +7,12 @@ namespace TQFoundation {
 
 double nextTick(double start, double interval, double now) noexcept
 {
+    const auto tick = [=](double count) { return start + count * interval; };
     const double passed = std::max(0.0, std::floor((now - start) / interval));
-    const double next = start + (passed + 1) * interval;
-    // The division may round up to a multiple that is still ahead, or down to one that is not later than now.
-    if (next - interval > now && passed >= 1)
-        return next - interval;
-    return next > now ? next : next + interval;
+    // The division may round up to a tick that is still ahead, or down to the one before now.
+    if (passed >= 1 && tick(passed) > now)
+        return tick(passed);
+    return tick(passed + 1) > now ? tick(passed + 1) : tick(passed + 2);
 }
 
 } // namespace TQFoundation

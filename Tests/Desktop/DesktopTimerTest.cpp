@@ -1,6 +1,10 @@
 #include "DesktopTimer.h"
 
-#include <QtCore/qcoreapplication.h>
+#include <QtCore/qelapsedtimer.h>
+#include <QtCore/qeventloop.h>
+#include <QtCore/qtimer.h>
+#include <QtGui/qguiapplication.h>
+#include <QtGui/qwindow.h>
 #include <QtTest/qtest.h>
 
 #include <gtest/gtest.h>
@@ -11,17 +15,19 @@
 namespace TQFoundation {
 namespace {
 
-/// The clock of a platform.
-QElapsedTimer startedClock()
+double now()
 {
-    QElapsedTimer clock;
-    clock.start();
-    return clock;
+    static const QElapsedTimer clock = [] {
+        QElapsedTimer started;
+        started.start();
+        return started;
+    }();
+    return static_cast<double>(clock.nsecsElapsed()) * 1e-9;
 }
 
 std::shared_ptr<DesktopTimer> makeTimer(double interval, std::function<void()> tick)
 {
-    return std::make_shared<DesktopTimer>(startedClock(), interval, std::move(tick));
+    return std::make_shared<DesktopTimer>(now, interval, std::move(tick));
 }
 
 TEST(DesktopTimer, FiresAtOnceAndTicksOnceScheduled)
@@ -76,20 +82,73 @@ TEST(DesktopTimer, NeverTicksAfterInvalidation)
     EXPECT_FALSE(QTest::qWaitFor([&] { return ticks > 0; }, 20));
 }
 
-TEST(DesktopTimer, TicksOnceAfterStallAndKeepsItsGrid)
+// The hand-driven clock is a hundredth of a second before the second tick when the timer is scheduled. A grid that
+// began there would tick 1000 s later.
+TEST(DesktopTimer, CountsGridFromMakingNotFromScheduling)
 {
-    const QElapsedTimer clock = startedClock();
-    const auto now = [&clock] { return static_cast<double>(clock.nsecsElapsed()) * 1e-9; };
-    std::vector<double> moments;
-    const double made = now();
-    const auto timer = std::make_shared<DesktopTimer>(clock, 0.1, [&] { moments.push_back(now() - made); });
+    double time = 5;
+    std::vector<double> ticks;
+    const auto timer = std::make_shared<DesktopTimer>([&] { return time; }, 1000,
+                                                      [&] {
+                                                          ticks.push_back(time);
+                                                          time += 1000;
+                                                      });
+    time += 1999.99;
     timer->schedule();
-    while (now() - made < 0.25) {} // blocks the event loop
-    ASSERT_TRUE(QTest::qWaitFor([&] { return moments.size() >= 2; }));
+    EXPECT_TRUE(ticks.empty());
+    time += 0.01;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !ticks.empty(); }));
     timer->invalidate();
-    EXPECT_GE(moments[0], 0.25);
-    EXPECT_LT(moments[0], 0.3);
-    EXPECT_GE(moments[1], 0.3) << "the tick after a stall comes at the next whole multiple";
+    EXPECT_EQ(ticks, std::vector<double>{2005});
+}
+
+/// Calls \a begin and runs an event loop inside an event handler until a timer that was scheduled before has ticked
+/// three times, or for 5 s. The ticks inside that loop.
+int ticksInNestedLoop(const std::function<void()> &begin)
+{
+    int ticks = 0;
+    bool isOver = false;
+    QEventLoop nested;
+    const auto timer = makeTimer(0.01, [&] {
+        if (nested.isRunning() && ++ticks == 3)
+            nested.quit();
+    });
+    timer->schedule();
+    QTimer::singleShot(0, &nested, [&] {
+        begin();
+        QTimer::singleShot(5'000, &nested, &QEventLoop::quit);
+        nested.exec();
+        isOver = true;
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isOver; }, 10'000));
+    timer->invalidate();
+    return ticks;
+}
+
+TEST(DesktopTimer, TicksInNestedEventLoop)
+{
+    EXPECT_EQ(ticksInNestedLoop([] {}), 3);
+}
+
+TEST(DesktopTimer, TicksWhileModalWindowIsShown)
+{
+    QWindow window;
+    window.setModality(Qt::ApplicationModal);
+    EXPECT_EQ(ticksInNestedLoop([&] { window.show(); }), 3);
+    EXPECT_EQ(QGuiApplication::modalWindow(), &window);
+}
+
+TEST(DesktopTimer, DoesNotTickInsideItsTick)
+{
+    int ticks = 0;
+    const auto timer = makeTimer(0.01, [&] {
+        const int before = ++ticks;
+        QTest::qWait(50);
+        EXPECT_EQ(ticks, before);
+    });
+    timer->schedule();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks == 2; }));
+    timer->invalidate();
 }
 
 TEST(DesktopTimer, IsInvalidatedWithTheApplication)

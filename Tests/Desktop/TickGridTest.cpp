@@ -31,10 +31,21 @@ TEST(TickGrid, FirstTickIsNextBeforeStart)
 
 TEST(TickGrid, FindsTickAheadIfDivisionRoundsUp)
 {
-    const double now = 0.2;
-    const double next = nextTick(0.1, 0.1, now); // 0.1 + 0.1 is a little more than 0.2
+    const double now = 14.4;
+    const double next = nextTick(4.8, 1.6, now); // 4.8 + 6 * 1.6 is the next larger number
     EXPECT_GT(next, now);
-    EXPECT_NEAR(next, 0.2, 1e-9);
+    EXPECT_NEAR(next, now, 1e-9);
+}
+
+TEST(TickGrid, NeverFindsTickTwice)
+{
+    for (const double interval : {0.1, 0.2, 0.3, 0.7, 1.1}) {
+        double now = 0;
+        for (int tick = 1; tick <= 10'000; ++tick) {
+            now = nextTick(0, interval, now);
+            ASSERT_NEAR(now, tick * interval, interval / 2);
+        }
+    }
 }
 
 TEST(TickGrid, SkipsPassedTickIfDivisionRoundsDown)

@@ -1,10 +1,11 @@
 #include "RecordingPlatform.h"
 
+#include "TickGrid.h"
+
 #include <QtCore/qmetaobject.h>
 #include <QtGui/qcolor.h>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace TQFoundation::Testing {
@@ -95,8 +96,7 @@ public:
     RecordingTimer(RecordingPlatform &platform, double interval, std::function<void()> tick)
         : m_platform(&platform),
           m_interval(interval),
-          m_made(platform.m_now),
-          m_next(m_made + interval),
+          m_start(platform.m_now),
           m_tick(std::move(tick))
     {}
 
@@ -109,8 +109,10 @@ public:
     void schedule() override
     {
         record(QStringLiteral("timer.schedule()"));
-        if (m_platform && m_tick && !isScheduled())
-            m_platform->m_scheduled.push_back(shared_from_this());
+        if (!m_platform || !m_tick || isScheduled())
+            return;
+        m_platform->m_scheduled.push_back(shared_from_this());
+        m_next = nextTick(m_start, m_interval, m_platform->m_now);
     }
 
     void invalidate() override
@@ -126,9 +128,9 @@ public:
 
     double nextMoment() const { return m_next; }
 
-    void tickOnTheGrid()
+    void tickOnGrid()
     {
-        m_next = m_made + (std::floor((m_platform->m_now - m_made) / m_interval) + 1) * m_interval;
+        m_next = nextTick(m_start, m_interval, m_platform->m_now);
         run();
     }
 
@@ -149,8 +151,8 @@ private:
 
     RecordingPlatform *m_platform;
     const double m_interval;
-    const double m_made;
-    double m_next;
+    const double m_start;
+    double m_next = 0; // once scheduled
     std::function<void()> m_tick;
 };
 
@@ -176,7 +178,7 @@ void RecordingPlatform::advance(double seconds)
             break;
         const auto timer = *first;
         m_now = std::max(m_now, timer->nextMoment());
-        timer->tickOnTheGrid();
+        timer->tickOnGrid();
     }
     m_now = end;
 }

@@ -126,7 +126,7 @@ void Sendmail::start(const QString &program, const QByteArray &message)
 void Sendmail::cancel()
 {
     m_finished = true;
-    m_bound->invalidate();
+    m_timeout->invalidate();
     if (m_process)
         killGroup(*m_process);
 }

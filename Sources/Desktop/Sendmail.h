@@ -13,7 +13,7 @@ namespace TQFoundation {
 
 class RepeatingTimer;
 
-/// The path of the first executable file "sendmail" in \a folders; empty if there is none. Any thread.
+/// The path of the first executable file "sendmail" in \a folders; empty if no folder has one. Any thread.
 QString sendmailProgram(const QStringList &folders);
 
 /// Passes one message to a sendmail program, which sends it to the recipients in its header. GUI thread only.

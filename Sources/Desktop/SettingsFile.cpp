@@ -81,7 +81,7 @@ std::optional<QChar> takeEscape(QStringView &text)
     return character;
 }
 
-// Where the first element of a list ends; nothing if a quote is not closed.
+// Index of the end of the first element of a list; nothing if a quote is not closed.
 std::optional<qsizetype> elementEnd(QStringView text)
 {
     bool isInQuotes = false;

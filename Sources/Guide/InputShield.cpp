@@ -30,7 +30,7 @@ bool isOverlay(const QQuickItem &item)
                                [](const QQuickItem *child) { return dynamic_cast<const InputShield *>(child); });
 }
 
-// The overlay that is \a item or contains it; null if there is none.
+// The overlay that is \a item or contains it, or null.
 QQuickItem *enclosingOverlay(QQuickItem *item)
 {
     while (item && !isOverlay(*item))
@@ -119,7 +119,7 @@ void InputShield::updateStacking()
         takeFocus();
 }
 
-// The topmost modal popup or view of a controller that was presented above the overlay; null if there is none.
+// The topmost modal popup or view of a controller that was presented above the overlay, or null.
 QQuickItem *InputShield::presentedAbove(const QQuickItem *layer) const
 {
     QQuickItem *topmost = nullptr;

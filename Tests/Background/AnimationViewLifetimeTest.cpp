@@ -191,7 +191,7 @@ TEST_F(AnimationViewLifetimeTest, ManyTickIndependently)
         EXPECT_EQ(line(*views[index]).animations().front().beginTime, 100 + 0.25 * static_cast<double>(index));
 }
 
-// What stops the process.
+// Fatal preconditions.
 
 TEST_F(AnimationViewLifetimeTest, CanBeMadeWithoutAScreen)
 {

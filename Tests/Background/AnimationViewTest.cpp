@@ -105,7 +105,7 @@ TEST_F(AnimationViewTest, CreatesStoresFiresAndSchedulesInThisOrder)
 {
     const auto view = AnimationView::initWithFrame({});
     platform->calls.clear();
-    // What an item does as the first tick takes it off happens while the timer fires.
+    // The first tick unparents the item while the timer fires.
     QQuickItem child(view.get());
     QObject::connect(&child, &QQuickItem::parentChanged, &child, [&] {
         platform->calls += QStringLiteral("tick");

@@ -1,5 +1,4 @@
-"""What a host does to the system because it links and asks the library, seen from outside: runs a bare window and the
-same window with the library under strace and compares. The library may read the host's Info.plist and settings, and
+"""Compares the system calls of a bare window with those of the same window with the library, both run under strace. The library may read the host's Info.plist and settings, and
 may write the settings when the guide ends; nothing else."""
 
 import os
@@ -33,7 +32,7 @@ class Traced:
                 sys.exit(f"{command}: {run.returncode} {run.stdout} {run.stderr}")
             calls = log.read_text(encoding="utf-8", errors="replace").replace(name, "~")
             self.settings = (self.home / "config/Watched/BareWindow.conf").read_text(encoding="utf-8")
-        # Those that another thread interrupted are told in two pieces, of which the first has the arguments.
+        # strace prints an interrupted call in two pieces; the first has the arguments.
         self.calls = re.findall(r"^\d+ +(\w+)\((.*)$", calls, re.MULTILINE)
         if not any(call == "openat" for call, _ in self.calls):
             sys.exit(f"strace saw nothing of {command}")

@@ -9,7 +9,7 @@ import tempfile
 qmllint, modules, page = sys.argv[1], pathlib.Path(sys.argv[2]), pathlib.Path(sys.argv[3])
 # QML has no type for an image: TQAppIcon shows it. A tick is a slot, for the timer alone.
 LEFT_OUT = {"icon", "updateTimer"}
-# What the library's own sheets show; qmllint checks their use there.
+# Types of the library's own sheets; qmllint checks their use there.
 OWN = {"BrowserPage", "MailDraft", "SheetText"}
 # Members that do not exist, one for each type: qmllint refuses them only if it knows the type.
 WRONG = ["TQApp.nonsense", "TQMore.nonsense", "app.nonsense", "tint.nonsense", "guide.nonsense", "row.nonsense",

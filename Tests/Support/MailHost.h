@@ -29,7 +29,7 @@ protected:
 
     QByteArray path(const char *name) const { return programs.filePath(QLatin1String(name)).toLocal8Bit(); }
 
-    /// The content of the file \a name; empty if there is none.
+    /// The content of the file \a name; empty if it is missing.
     QByteArray kept(const char *name) const
     {
         QFile file(programs.filePath(QLatin1String(name)));

@@ -105,7 +105,7 @@ protected:
         return QTest::qWaitFor(condition, 20000);
     }
 
-    /// The first visible item that inherits \a type and whose property "text" is \a text; null if there is none.
+    /// The first visible item that inherits \a type and whose property "text" is \a text, or null.
     QQuickItem *item(const char *type, const QString &text, QQuickItem *from = nullptr) const
     {
         const QList<QQuickItem *> children = (from ? from : window->contentItem())->childItems();
@@ -123,7 +123,7 @@ protected:
     QQuickItem *button(const char *text) const { return item("QQuickAbstractButton", QString::fromUtf8(text)); }
     QQuickItem *text(const char *text) const { return item("QQuickText", QString::fromUtf8(text)); }
 
-    /// The first visible item that inherits \a type; null if there is none.
+    /// The first visible item that inherits \a type, or null.
     QQuickItem *itemOf(const char *type, QQuickItem *from = nullptr) const
     {
         const QList<QQuickItem *> children = (from ? from : window->contentItem())->childItems();

@@ -102,9 +102,7 @@ std::optional<QString> parseElement(QStringView element, bool &isAfterText)
     const bool isQuoted = element.size() > 1 && element.startsWith(u'"') && element.endsWith(u'"');
     if (isQuoted)
         element = element.sliced(1).chopped(1);
-    const auto isReadable = [isQuoted](QChar c) {
-        return (c >= u' ' || c == u'\t') && c != u'"' && (c != u';' || isQuoted);
-    };
+    const auto isReadable = [isQuoted](QChar c) { return c >= u' ' && c != u'"' && (c != u';' || isQuoted); };
     QString text;
     for (;;) {
         const qsizetype backslash = element.indexOf(u'\\');

@@ -200,6 +200,7 @@ TEST(SettingsFile, RefusesWhatQSettingsWouldLose)
                                 "a=b \"c\"\n",
                                 "a=b\"c\"\n",
                                 "a=b\x01\n",
+                                "a=b\tc\n",
                                 "a=1\\\nb=2\n",
                                 "a=1\\",
                                 "a=C:\\data\n",
@@ -238,6 +239,7 @@ TEST(SettingsFile, AcceptsByteOrderMarkAfterText)
 {
     EXPECT_TRUE(canRewriteSettingsFile("a=b\xEF\xBB\xBF\n"));
     EXPECT_TRUE(canRewriteSettingsFile("a=\\xe9\\xfeff\n"));
+    EXPECT_FALSE(canRewriteSettingsFile("a=\\t\xEF\xBB\xBF\n"));
     EXPECT_FALSE(canRewriteSettingsFile("a=\\x41\\xfeff\n")) << "the first letter may be written with an escape";
 }
 

@@ -195,12 +195,6 @@ bool canRewriteText(const QString &text, bool isInList)
 
 bool canRewriteValue(QStringView value)
 {
-    // A shortcut for most values.
-    const auto isPlain = [](QChar c) {
-        return (c >= u' ' && c < QChar(0x7F)) && c != u'"' && c != u',' && c != u';' && c != u'@' && c != u'\\';
-    };
-    if (std::ranges::all_of(value, isPlain))
-        return true;
     bool isAfterText = false;
     for (bool isInList = false;;) {
         const auto end = elementEnd(value);

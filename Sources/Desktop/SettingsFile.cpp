@@ -58,7 +58,7 @@ bool appendName(QStringView text, std::u16string &key)
     return !key.empty() && key.back() != u'/';
 }
 
-// Takes the rest of an escape code from the text after a backslash. QSettings drops unknown codes.
+// Removes an escape code, without its backslash, from the start of the text. QSettings drops unknown codes.
 std::optional<QChar> takeEscape(QStringView &text)
 {
     static constexpr QStringView codes = u"abfnrtv\"?'\\";
@@ -81,7 +81,7 @@ std::optional<QChar> takeEscape(QStringView &text)
     return character;
 }
 
-// Index of the end of the first element of a list; nothing if a quote is not closed.
+// The end of the first element of a list; nothing if a quote is not closed.
 std::optional<qsizetype> elementEnd(QStringView text)
 {
     bool isInQuotes = false;
@@ -102,9 +102,7 @@ std::optional<QString> parseElement(QStringView element, bool &isAfterText)
     const bool isQuoted = element.size() > 1 && element.startsWith(u'"') && element.endsWith(u'"');
     if (isQuoted)
         element = element.sliced(1).chopped(1);
-    const auto isReadable = [isQuoted](QChar c) {
-        return (c >= u' ' || c == u'\t') && c != u'"' && (c != u';' || isQuoted);
-    };
+    const auto isReadable = [isQuoted](QChar c) { return c >= u' ' && c != u'"' && (c != u';' || isQuoted); };
     QString text;
     for (;;) {
         const qsizetype backslash = element.indexOf(u'\\');
@@ -119,19 +117,19 @@ std::optional<QString> parseElement(QStringView element, bool &isAfterText)
         const auto escaped = takeEscape(element);
         if (!escaped || (*escaped == QChar::ByteOrderMark && !isAfterText))
             return std::nullopt;
-        // Written without an escape next time.
+        // QSettings writes such characters without an escape.
         isAfterText = isAfterText || *escaped >= QChar(0x80);
         text += *escaped;
     }
 }
 
-// The types that QSettings writes in other ways than as a stream of bytes, which it chooses for all others.
+// The types that QSettings writes as text. It writes all others with QDataStream.
 constexpr std::array textTypes{
     QMetaType::UnknownType, QMetaType::QByteArray, QMetaType::QString, QMetaType::QKeySequence, QMetaType::Bool,
     QMetaType::LongLong,    QMetaType::ULongLong,  QMetaType::Int,     QMetaType::UInt,         QMetaType::Double,
     QMetaType::QRect,       QMetaType::QSize,      QMetaType::QPoint};
 
-// Lists have lines of their own, but for a list in a list and a list of one value.
+// Lists are written as text too, except for nested lists and lists of one value.
 bool isWrittenAsText(const QVariant &value, bool isInList)
 {
     const bool isList = value.typeId() == QMetaType::QStringList
@@ -148,8 +146,8 @@ QVariant readStreamed(const QByteArray &bytes, QDataStream::Version version)
     return stream.status() == QDataStream::Ok ? value : QVariant();
 }
 
-// Whether a value in the format of QDataStream is the same after it was read and written. It is lost if its type is
-// not registered in this process.
+// Whether a value that QDataStream wrote is the same after reading and writing it. It is lost if its type is not
+// registered in this process.
 bool canRewriteStreamed(const QByteArray &bytes, QDataStream::Version version, bool isInList)
 {
     const QVariant value = readStreamed(bytes, version);
@@ -160,7 +158,7 @@ bool canRewriteStreamed(const QByteArray &bytes, QDataStream::Version version, b
     version = value.typeId() == QMetaType::QDateTime ? QDataStream::Qt_5_6 : QDataStream::Qt_4_0;
     stream.setVersion(version);
     stream << value;
-    // Equal bytes also prove it for types without an equality, equal values also for hashes, whose order is random.
+    // Some types have no operator==, and the bytes of a hash have a random order.
     return written == bytes || readStreamed(written, version) == value;
 }
 
@@ -197,12 +195,6 @@ bool canRewriteText(const QString &text, bool isInList)
 
 bool canRewriteValue(QStringView value)
 {
-    // A shortcut for most values.
-    const auto isPlain = [](QChar c) {
-        return (c >= u' ' && c < QChar(0x7F)) && c != u'"' && c != u',' && c != u';' && c != u'@' && c != u'\\';
-    };
-    if (std::ranges::all_of(value, isPlain))
-        return true;
     bool isAfterText = false;
     for (bool isInList = false;;) {
         const auto end = elementEnd(value);

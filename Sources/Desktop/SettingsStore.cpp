@@ -40,7 +40,7 @@ QVariant SettingsStore::value(const QString &key) const
     const QSettings *stored = settings();
     if (!stored)
         return {};
-    const QVariant value = stored->value(key);
+    QVariant value = stored->value(key);
     if (isTextFile(*stored) && value.typeId() == QMetaType::QString) {
         if (value.toString() == u"true")
             return true;

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <ctime>
+#include <initializer_list>
 #include <limits>
 #include <random>
 #include <string_view>
@@ -157,87 +158,62 @@ TEST(SettingsFile, AcceptsWhatPeopleWrite)
         EXPECT_TRUE(canRewriteSettingsFile(content)) << content;
 }
 
-TEST(SettingsFile, RefusesWhatQSettingsWouldLose)
+void expectRefused(std::initializer_list<const char *> contents)
 {
-    for (const char *content : {"half a line",
-                                "; comment\n",
-                                "# comment\n",
-                                "#name=Grove\n",
-                                "// name=Grove\n",
-                                "a=1 ; comment\n",
-                                "a=1\na=2\n",
-                                "[a]\nb=1\n[a]\nb=2\n",
-                                "[a]\nb\\c=1\n[a/b]\nc=2\n",
-                                "a=1\n%61=2\n",
-                                "[a\nb=1\n",
-                                "[a] b\nc=1\n",
-                                "[a]b]\nc=1\n",
-                                "=1\n",
-                                "/a=1\n",
-                                "a/=1\n",
-                                "a//b=1\n",
-                                "[]\na=1\n",
-                                "[a/]\nb=1\n",
-                                "[%2F]\nb=1\n",
-                                "a\\=1\n",
-                                "[%general]\na=1\n",
-                                "[%GENERAL]\na=1\n",
-                                "general/a=1\n",
-                                "GENERAL\\a=1\n",
-                                "[gen%65ral]\na=1\n",
-                                "a%=1\n",
-                                "a%4=1\n",
-                                "a%4g=1\n",
-                                "a%U12=1\n",
-                                "\"a\"=1\n",
-                                "a\"b=1\n",
-                                "a;b=1\n",
-                                "gr\xC3\xBCn=1\n",
-                                "a\x01=1\n",
-                                "a=\"open\n",
-                                "a=\"open\nb=\"\n",
-                                "a=\"b\" c\n",
-                                "a=b \"c\"\n",
-                                "a=b\"c\"\n",
-                                "a=b\x01\n",
-                                "a=1\\\nb=2\n",
-                                "a=1\\",
-                                "a=C:\\data\n",
-                                "a=\\x\n",
-                                "a=\\x12345\n",
-                                "a=\\1\n",
-                                "a=\\01\n",
-                                "a=\\xdddd\n",
-                                "a=b, \\xd83c\n",
-                                "a=\\xfeff\n",
-                                "a=\xEF\xBB\xBFx\n",
-                                "a=\\n\xEF\xBB\xBFx\n",
-                                "\xEF\xBB\xBF[General]\na=1\n",
-                                "a=Gr\xFCn\n",
-                                "a=@ByteArray(\xE4\xB8\xAD)\n",
-                                "a=@Variant(\xE4\xB8\xAD)\n",
-                                "a=@Variant()\n",
-                                "a=@Variant(\\0\\0\\0\\x6\\0)\n",
-                                "a=@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)\n",
-                                "a=@Rect(1 2 3)\n",
-                                "a=@Rect(1 2 3 x)\n",
-                                "a=@Size(01 2)\n",
-                                "a=@Point(1)\n",
-                                "a=@name\n",
-                                "a=@name, b\n",
-                                "a=@Name()\n",
-                                "a=@)(\n",
-
-                                "a=b, @Rect(1 2)\n"})
+    for (const char *content : contents)
         EXPECT_FALSE(canRewriteSettingsFile(content)) << content;
-    EXPECT_FALSE(canRewriteSettingsFile(QByteArray("a=1\0", 4)));
+}
+
+TEST(SettingsFile, RefusesComments)
+{
+    expectRefused({"; comment\n", "# comment\n", "#name=Grove\n", "// name=Grove\n", "a=1 ; comment\n"});
+}
+
+TEST(SettingsFile, RefusesRepeatedKeys)
+{
+    expectRefused({"a=1\na=2\n", "[a]\nb=1\n[a]\nb=2\n", "[a]\nb\\c=1\n[a/b]\nc=2\n", "a=1\n%61=2\n"});
+}
+
+TEST(SettingsFile, RefusesBrokenLinesAndGroups)
+{
+    expectRefused({"half a line", "[a\nb=1\n", "[a] b\nc=1\n", "[a]b]\nc=1\n", "[a][b]\nc=1\n", "[]\na=1\n",
+                   "[a/]\nb=1\n", "[%2F]\nb=1\n", "[", "]", "=", "\\", "%"});
     EXPECT_FALSE(canRewriteSettingsFile(QByteArray("\x7f\x45\x4c\x46\x02\x01\0\0", 8)));
+}
+
+TEST(SettingsFile, RefusesKeysThatWouldChange)
+{
+    expectRefused({"=1\n", "/a=1\n", "a/=1\n", "a//b=1\n", "a\\=1\n", "a%=1\n", "a%4=1\n", "a%4g=1\n", "a%U12=1\n",
+                   "\"a\"=1\n", "a\"b=1\n", "a;b=1\n", "gr\xC3\xBCn=1\n", "a\x01=1\n"});
+    expectRefused({"[%general]\na=1\n", "[%GENERAL]\na=1\n", "general/a=1\n", "GENERAL\\a=1\n", "[gen%65ral]\na=1\n"});
+}
+
+TEST(SettingsFile, RefusesStrayQuotesAndEscapes)
+{
+    expectRefused({"a=\"open\n", "a=\"open\nb=\"\n", "a=\"b\" c\n", "a=b \"c\"\n", "a=b\"c\"\n", "a=1\\\nb=2\n",
+                   "a=1\\", "a=C:\\data\n", "a=\\x\n", "a=\\x12345\n", "a=\\1\n", "a=\\01\n"});
+}
+
+TEST(SettingsFile, RefusesCharactersThatWouldBeLost)
+{
+    expectRefused({"a=Gr\xFCn\n", "a=b\x01\n", "a=b\tc\n", "a=\\xdddd\n", "a=b, \\xd83c\n", "a=\\xfeff\n",
+                   "a=\xEF\xBB\xBFx\n", "a=\\n\xEF\xBB\xBFx\n", "\xEF\xBB\xBF[General]\na=1\n"});
+    EXPECT_FALSE(canRewriteSettingsFile(QByteArray("a=1\0", 4)));
+}
+
+TEST(SettingsFile, RefusesBrokenTypes)
+{
+    expectRefused({"a=@ByteArray(\xE4\xB8\xAD)\n", "a=@Variant(\xE4\xB8\xAD)\n", "a=@Variant()\n",
+                   "a=@Variant(\\0\\0\\0\\x6\\0)\n", "a=@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)\n", "a=@Rect(1 2 3)\n",
+                   "a=@Rect(1 2 3 x)\n", "a=@Size(01 2)\n", "a=@Point(1)\n", "a=b, @Rect(1 2)\n", "a=@name\n",
+                   "a=@name, b\n", "a=@Name()\n", "a=@)(\n"});
 }
 
 TEST(SettingsFile, AcceptsByteOrderMarkAfterText)
 {
     EXPECT_TRUE(canRewriteSettingsFile("a=b\xEF\xBB\xBF\n"));
     EXPECT_TRUE(canRewriteSettingsFile("a=\\xe9\\xfeff\n"));
+    EXPECT_FALSE(canRewriteSettingsFile("a=\\t\xEF\xBB\xBF\n"));
     EXPECT_FALSE(canRewriteSettingsFile("a=\\x41\\xfeff\n")) << "the first letter may be written with an escape";
 }
 

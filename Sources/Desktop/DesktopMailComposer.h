@@ -35,6 +35,8 @@ public:
 protected:
     /// Opens the sheet in \a window. Reports MailComposeResult::failed if that is null or the sheet cannot be loaded.
     void appear(QQuickWindow *window) override;
+
+    /// Closes the sheet. A mail that is being sent is sent all the same.
     void disappear() override;
 
 private:

@@ -10,11 +10,17 @@
 #include <initializer_list>
 #include <limits>
 #include <string>
+#include <vector>
 
 namespace TQFoundation {
 namespace {
 
 using View = Scanner::View;
+
+constexpr std::int64_t unknownCost = std::numeric_limits<std::int64_t>::max();
+
+// Works around Qt: layouts of more than 16,777,216 points never end, because fixed-point numbers overflow.
+constexpr std::int64_t maxExtent = 8'000'000;
 
 bool isAnyOf(std::string_view name, std::initializer_list<std::string_view> names)
 {
@@ -49,6 +55,7 @@ private:
     bool addAttribute(const std::string &tag, const std::string &name, View value);
     bool addLength(const std::string &name, View value);
     bool readStyleSheet();
+    bool nest(const std::string &name, bool isClosing);
     void addTag(const std::string &name, bool isClosing);
 
     Scanner m_scanner;
@@ -58,12 +65,15 @@ private:
     std::int64_t m_tags = 0;
     std::int64_t m_objects = 0; // images, links and floats
     std::int64_t m_attributeSize = 0;
+    std::vector<std::string> m_open; // the tables and the tags in them, without their rows and cells
     int m_columns = 1; // of the current cell
     int m_rows = 1;
 };
 
 std::int64_t Markup::cost() const
 {
+    if (m_styles.extent(m_text.size(), m_tags + m_tables.cells()) > maxExtent)
+        return unknownCost;
     return m_text.total(m_styles.isPreformatted()) + m_tables.total() + m_styles.total(m_tags) + m_attributeSize
         + m_tags * 30 + m_tags * m_tags / 100 + m_objects * 50 + m_objects * m_objects / 8;
 }
@@ -72,7 +82,7 @@ bool Markup::read()
 {
     while (!m_scanner.isAtEnd()) {
         readText();
-        if (!m_scanner.isAtEnd() && (!readTag() || cost() > maxLayoutCost))
+        if (cost() > maxLayoutCost || (!m_scanner.isAtEnd() && !readTag()))
             return false;
     }
     m_text.endLine();
@@ -82,7 +92,7 @@ bool Markup::read()
 void Markup::readText()
 {
     Scanner text(m_scanner.takeUntil(u"<"));
-    while (!text.isAtEnd()) {
+    while (!text.isAtEnd() && m_text.total(false) <= maxLayoutCost) {
         const char16_t c = text.takeOne();
         m_text.add(c);
         if (c != u'&')
@@ -108,6 +118,8 @@ bool Markup::readTag()
     const bool isEmpty = m_scanner.skip(u"/");
     if (!m_scanner.skip(u">"))
         return false;
+    if (!nest(name, isClosing))
+        return false;
     addTag(name, isClosing);
     return isClosing || name != "style" || (!isEmpty && readStyleSheet());
 }
@@ -117,6 +129,7 @@ bool Markup::readDeclaration()
 {
     const bool isComment = m_scanner.skip(u"--");
     const View declaration = m_scanner.takeUntil(u"<>");
+    m_attributeSize += static_cast<std::int64_t>(declaration.size());
     return m_scanner.skip(u">") && (!isComment || declaration.ends_with(u"--"));
 }
 
@@ -137,7 +150,7 @@ bool Markup::readAttributes(const std::string &tag)
                 return false;
         }
         m_attributeSize += static_cast<std::int64_t>(name.size() + value.size());
-        if (!addAttribute(tag, name, value))
+        if (m_attributeSize > maxLayoutCost || !addAttribute(tag, name, value))
             return false;
     }
 }
@@ -163,20 +176,38 @@ bool Markup::addLength(const std::string &name, View value)
         m_styles.addFontSize(value);
         return value.size() <= 2 && value.find(u'&') == View::npos;
     }
+    if (!isAnyOf(name, {"colspan", "rowspan"}))
+        return m_styles.addLength(value);
     Scanner scanner(value);
-    const bool isSpan = isAnyOf(name, {"colspan", "rowspan"});
-    const int length = scanner.takeNumber(isSpan ? 3 : 4);
-    if (!isSpan)
-        return length >= 0 && (scanner.isAtEnd() || scanner.rest() == u"%" || scanner.rest() == u"px");
-    (name == "colspan" ? m_columns : m_rows) = length;
-    return length > 0 && scanner.isAtEnd();
+    const int span = scanner.takeNumber(3);
+    (name == "colspan" ? m_columns : m_rows) = span;
+    return span > 0 && scanner.isAtEnd();
 }
 
 bool Markup::readStyleSheet()
 {
     const View sheet = m_scanner.takeUntil(u"<&");
     Scanner next = m_scanner;
-    return next.skip(u"</") && next.takeName() == "style" && m_styles.addSheet(sheet);
+    return sheet.size() <= maxLayoutCost && next.skip(u"</") && next.takeName() == "style" && m_styles.addSheet(sheet);
+}
+
+// Tables must be complete. To repair others, the toolkit nests tables, and takes exponential time to lay those out.
+bool Markup::nest(const std::string &name, bool isClosing)
+{
+    const bool isTable = name == "table";
+    if ((m_open.empty() && isTable && isClosing) || name == "caption")
+        return false;
+    if (isAnyOf(name, {"tbody", "td", "tfoot", "th", "thead", "tr"}))
+        return !m_open.empty() && m_open.back() == "table";
+    if ((m_open.empty() && !isTable) || isAnyOf(name, {"br", "hr", "img", "li", "p"}))
+        return true;
+    if (!isClosing) {
+        m_open.push_back(name);
+        return true;
+    }
+    const bool isMatch = m_open.back() == name;
+    m_open.pop_back();
+    return isMatch;
 }
 
 void Markup::addTag(const std::string &name, bool isClosing)
@@ -207,7 +238,7 @@ void Markup::addTag(const std::string &name, bool isClosing)
 std::int64_t layoutCost(View html)
 {
     Markup markup(html);
-    return markup.read() ? markup.cost() : std::numeric_limits<std::int64_t>::max();
+    return markup.read() ? markup.cost() : unknownCost;
 }
 
 } // namespace TQFoundation

@@ -17,7 +17,7 @@ constexpr std::int64_t maxLayoutCost = 150'000;
 /// ways, or whose price is unknown, costs the maximum of the type: for example "<" in an attribute, entities in
 /// interpreted attributes, unknown style properties, numbers with more than four digits.
 ///
-/// Takes linear time and stops once the result exceeds maxLayoutCost, so larger results are not exact. Any thread.
+/// Stops once the result exceeds maxLayoutCost, so larger results are not exact. Any thread.
 std::int64_t layoutCost(std::u16string_view html);
 
 } // namespace TQFoundation

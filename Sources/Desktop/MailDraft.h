@@ -92,6 +92,7 @@ public:
     static QString problemOf(Sendmail::Outcome outcome);
 
 Q_SIGNALS:
+    /// The user has edited the subject.
     void subjectChanged();
 
     /// load() has filled the editor.
@@ -112,7 +113,9 @@ Q_SIGNALS:
 private:
     enum class State { editing, sending, finished };
 
+    // Whether the user has changed the message.
     bool isEdited() const { return m_document && m_document->isModified(); }
+    // The message as the editor writes it, with the original names of the images.
     QString editedHtml() const;
     void endSending();
     void onSendFinished(Sendmail::Outcome outcome, const QString &detail);

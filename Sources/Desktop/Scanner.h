@@ -7,7 +7,9 @@
 
 namespace TQFoundation {
 
-/// Reads a text from its beginning to its end, for the cost of markup. A plain value, which refers to the text. Any
+/// Reads a text from its beginning to its end, in pieces that the caller asks for.
+///
+/// A plain value, which refers to the text and must not outlive it. A copy reads ahead without moving the original. Any
 /// thread.
 class Scanner
 {
@@ -18,6 +20,8 @@ public:
 
     /// The text that has not been read yet.
     View rest() const { return m_rest; }
+
+    /// Whether all of the text has been read.
     bool isAtEnd() const { return m_rest.empty(); }
 
     /// Whether \a c is white space in HTML and CSS.
@@ -26,6 +30,7 @@ public:
         return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r' || c == u'\f';
     }
 
+    /// Whether \a c is a digit of ASCII.
     static constexpr bool isDigit(char16_t c) noexcept { return c >= u'0' && c <= u'9'; }
 
     /// Whether \a c is a letter, digit, "-" or "_" of ASCII.
@@ -68,6 +73,7 @@ public:
         return isNext;
     }
 
+    /// Reads all blanks that come next.
     View skipBlanks() { return take(isBlank); }
 
     /// Reads a name and returns it in lower case; empty if none comes next.

@@ -10,23 +10,6 @@ namespace {
 
 using View = Scanner::View;
 
-// Colours and addresses are not numbers.
-bool hasHugeNumber(View value)
-{
-    Scanner scanner(value);
-    while (!scanner.isAtEnd()) {
-        if (scanner.skip(u"#"))
-            scanner.take(Scanner::isNameCharacter);
-        else if (scanner.skip(u"url("))
-            scanner.takeUntil(u")");
-        else if (!Scanner::isDigit(scanner.rest().front()))
-            scanner.takeOne();
-        else if (scanner.takeNumber(4) < 0)
-            return true;
-    }
-    return false;
-}
-
 bool isListOfSimpleSelectors(View selectors)
 {
     Scanner scanner(selectors);
@@ -44,10 +27,9 @@ bool isListOfSimpleSelectors(View selectors)
 bool isKnownProperty(std::string_view property)
 {
     constexpr std::string_view known[] = {
-        "-qt-block-indent", "-qt-list-indent", "-qt-paragraph-type", "background",      "background-color",
-        "background-image", "color",           "font-style",         "font-weight",     "height",
-        "line-height",      "list-style-type", "text-align",         "text-decoration", "text-indent",
-        "vertical-align",   "width",
+        "-qt-paragraph-type", "background",      "background-color", "background-image", "color",
+        "font-style",         "font-weight",     "height",           "line-height",      "list-style-type",
+        "text-align",         "text-decoration", "text-indent",      "vertical-align",   "width",
     };
     return std::ranges::find(known, property) != std::end(known) || property.starts_with("border")
         || property.starts_with("margin") || property.starts_with("padding");
@@ -113,17 +95,62 @@ bool StyleCost::addProperty(const std::string &property, View value)
     if (property == "font-size") {
         addFontSize(value);
         Scanner scanner(value);
-        const bool isKeyword = value.ends_with(u"small") || value.ends_with(u"medium") || value.ends_with(u"large");
-        return isKeyword || (scanner.takeNumber(2) > 0 && (scanner.rest() == u"px" || scanner.rest() == u"pt"));
+        if (value.ends_with(u"small") || value.ends_with(u"medium") || value.ends_with(u"large"))
+            return true;
+        const int size = scanner.takeNumber(2);
+        m_maxFontSize = std::max<std::int64_t>(m_maxFontSize, size);
+        return size > 0 && (scanner.rest() == u"px" || scanner.rest() == u"pt");
     }
-    return isKnownProperty(property) && !hasHugeNumber(value);
+    if (property == "font-weight")
+        return true;
+    if (property == "-qt-block-indent" || property == "-qt-list-indent") {
+        Scanner scanner(value);
+        const int steps = scanner.takeNumber(2);
+        m_maxLength = std::max<std::int64_t>(m_maxLength, 10 * steps);
+        return steps >= 0 && scanner.isAtEnd();
+    }
+    return isKnownProperty(property) && addNumbers(value);
+}
+
+bool StyleCost::addLength(View length)
+{
+    Scanner scanner(length);
+    const int number = scanner.takeNumber(4);
+    m_maxLength = std::max<std::int64_t>(m_maxLength, number);
+    const View unit = scanner.rest();
+    // Percentages multiply in nested blocks.
+    return number >= 0 && (unit.empty() || unit == u"px" || unit == u"pt" || (unit == u"%" && number <= 200));
+}
+
+// Colours and addresses are not numbers.
+bool StyleCost::addNumbers(View value)
+{
+    Scanner scanner(value);
+    while (!scanner.isAtEnd()) {
+        if (scanner.skip(u"#"))
+            scanner.take(Scanner::isNameCharacter);
+        else if (scanner.skip(u"url("))
+            scanner.takeUntil(u")");
+        else if (!Scanner::isDigit(scanner.rest().front()))
+            scanner.takeOne();
+        else if (!addLength(scanner.take([](char16_t c) { return Scanner::isNameCharacter(c) || c == u'%'; })))
+            return false;
+    }
+    return true;
+}
+
+// A character may be as high as its line, and each block has up to two distances on either side. Indents are steps of
+// 40 points.
+std::int64_t StyleCost::extent(std::int64_t characters, std::int64_t boxes) const
+{
+    return characters * 2 * m_maxFontSize * (100 + m_maxLength) / 100 + boxes * (4 * m_maxLength + 100);
 }
 
 std::int64_t StyleCost::total(std::int64_t tags) const
 {
     // Each font is loaded once, and at most one for each tag. Bold and italic fonts are fonts of their own.
     const auto fonts = static_cast<std::int64_t>(4 * (m_families.size() + 1) * (m_sizes.size() + 1));
-    return std::min(fonts, tags) * 600 + m_sheetSize * tags / 7;
+    return std::min(fonts, tags) * 600 + m_sheetSize + m_sheetSize * tags / 7;
 }
 
 } // namespace TQFoundation

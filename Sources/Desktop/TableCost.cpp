@@ -14,7 +14,7 @@ void TableCost::beginTable()
 
 void TableCost::endTable()
 {
-    m_open = std::max<std::int64_t>(m_open - 1, 0);
+    --m_open;
     m_rowCells = 0;
 }
 
@@ -22,7 +22,6 @@ void TableCost::beginRow()
 {
     ++m_rows;
     m_rowCells = 0;
-    m_isNested = m_isNested || m_open == 0;
 }
 
 void TableCost::addCell(int columns, int rows)
@@ -31,14 +30,14 @@ void TableCost::addCell(int columns, int rows)
     m_rowCells += columns;
     m_maxRowCells = std::max(m_maxRowCells, m_rowCells);
     m_rows += rows - 1;
-    m_isNested = m_isNested || m_open == 0 || rows > 1;
+    m_isNested = m_isNested || rows > 1;
 }
 
 std::int64_t TableCost::total() const
 {
     const std::int64_t doublings = std::clamp<std::int64_t>(m_maxOpen - 1, 0, 20);
     // 40 microseconds for a cell.
-    return m_rows * (m_isNested ? m_cells : m_maxRowCells) * 40 << doublings;
+    return cells() * 40 << doublings;
 }
 
 } // namespace TQFoundation

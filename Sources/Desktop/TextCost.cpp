@@ -64,6 +64,7 @@ void TextCost::addFontOf(char16_t c)
 
 void TextCost::add(char16_t c)
 {
+    ++m_size;
     m_cost += costOf(c);
     addFontOf(c);
     if (!Scanner::isBlank(c)) {

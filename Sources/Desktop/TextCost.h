@@ -19,7 +19,11 @@ public:
     /// The cost of all lines that have ended. \a isPreformatted means that lines are not broken at blanks.
     std::int64_t total(bool isPreformatted) const { return m_cost + (isPreformatted ? m_lineCost : m_runCost); }
 
+    /// Number of code units.
+    std::int64_t size() const { return m_size; }
+
 private:
+    // A part of the text that stays on one line.
     struct Run
     {
         std::int64_t size = 0;
@@ -31,6 +35,7 @@ private:
 
     void addFontOf(char16_t c);
 
+    std::int64_t m_size = 0;
     std::int64_t m_cost = 0;
     bool m_isLatin = true; // the last character that is not blank
     std::int64_t m_runCost = 0;

@@ -2,6 +2,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <sys/stat.h>
 
 namespace TQFoundation {
 namespace {
@@ -78,7 +79,8 @@ TEST_F(DesktopMailComposer, IsDismissedWithScreensAboveIt)
             composer->dismiss();
         }
     };
-    makeKeepingProgram();
+    ASSERT_EQ(mkfifo(path("gate").constData(), 0600), 0);
+    makeProgram("cat > /dev/null; cat '" + path("gate") + "'");
     const std::shared_ptr<ViewController> delegates[] = {root, std::make_shared<Custom>(), nullptr};
     for (const auto &delegate : delegates) {
         const auto composer = desktop.makeMailComposer();
@@ -90,6 +92,9 @@ TEST_F(DesktopMailComposer, IsDismissedWithScreensAboveIt)
         QQuickItem view;
         composer->present(std::make_shared<ViewController>(&view));
         composer->presentedViewController()->present(std::make_shared<ViewController>());
+        QFile gate(programs.filePath(QStringLiteral("gate")));
+        ASSERT_TRUE(gate.open(QIODevice::WriteOnly));
+        gate.close();
         EXPECT_TRUE(comes([this] { return !isShown(); }));
         EXPECT_FALSE(view.parentItem());
         EXPECT_FALSE(composer->presentedViewController());

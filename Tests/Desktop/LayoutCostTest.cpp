@@ -58,6 +58,9 @@ TEST(LayoutCost, RefusesExpensiveText)
     EXPECT_FALSE(isCheap(repeated(u"x", 100000)));
     EXPECT_TRUE(isCheap(repeated(u"x ", 50000)));
     EXPECT_FALSE(isCheap(repeated(u"x ", 500000)));
+    EXPECT_FALSE(isCheap(u"<style>" + repeated(u"p{}", 500000) + u"</style>"));
+    EXPECT_FALSE(isCheap(u"<!--" + repeated(u"x", 500000) + u"-->"));
+    EXPECT_FALSE(isCheap(u"<p" + repeated(u" a=b", 500000) + u">"));
     EXPECT_FALSE(isCheap(u"a" + repeated(u"\u0301", 10000)));
     EXPECT_FALSE(isCheap(u"a" + repeated(u"&#x301;", 10000)));
     EXPECT_FALSE(isCheap(repeated(u"\u05D0(x1)", 3500)));
@@ -69,6 +72,25 @@ TEST(LayoutCost, RefusesManyTagsAndObjects)
     EXPECT_FALSE(isCheap(repeated(u"<div>", 5000)));
     EXPECT_FALSE(isCheap(repeated(u"<img>", 2000)));
     EXPECT_FALSE(isCheap(repeated(u"<a href=x>y</a>", 1200)));
+}
+
+TEST(LayoutCost, RefusesIncompleteTables)
+{
+    EXPECT_TRUE(isCheap(u"<table><tr><td><p>a<td><b>b</b><tr><td><div><table><td>c</table></div></table>d"));
+    for (const char16_t *html :
+         {u"<td>", u"<tr>", u"<tbody>", u"<table></table><td>", u"</table>", u"<table><td><b><td>",
+          u"<table><td><b></td>", u"<table><td><b></i>", u"<table><td><b></table>", u"<caption>"})
+        EXPECT_FALSE(isCheap(html)) << QString::fromUtf16(html).toStdString();
+}
+
+TEST(LayoutCost, RefusesHugeLayouts)
+{
+    EXPECT_TRUE(isCheap(repeated(u"<p style='margin:9999px'>x", 100)));
+    EXPECT_FALSE(isCheap(repeated(u"<p style='margin:9999px'>x", 850)));
+    EXPECT_TRUE(isCheap(u"<span style='font-size:99px'>" + repeated(u"word ", 4000)));
+    EXPECT_FALSE(isCheap(u"<span style='font-size:99px'>" + repeated(u"word ", 10000)));
+    EXPECT_TRUE(isCheap(u"<table cellpadding=9999>" + repeated(u"<td>", 50)));
+    EXPECT_FALSE(isCheap(u"<table cellpadding=9999>" + repeated(u"<td>", 500)));
 }
 
 TEST(LayoutCost, RefusesAmbiguousMarkup)
@@ -88,14 +110,15 @@ TEST(LayoutCost, RefusesAmbiguousMarkup)
                                  u"<p a='b'c>",
                                  u"<p / a>",
                                  u"<t&#97;ble>",
-                                 u"<td col&#115;pan=9>",
-                                 u"<td colspan=&#57;9>",
-                                 u"<td colspan='9&#57;'>",
-                                 u"<td colspan=1000>",
-                                 u"<td colspan=0>",
-                                 u"<td colspan=x>",
+                                 u"<table><td col&#115;pan=9>",
+                                 u"<table><td colspan=&#57;9>",
+                                 u"<table><td colspan='9&#57;'>",
+                                 u"<table><td colspan=1000>",
+                                 u"<table><td colspan=0>",
+                                 u"<table><td colspan=x>",
                                  u"<img width=99999>",
                                  u"<img width=1e9>",
+                                 u"<img width='9999%'>",
                                  u"<font size=100>",
                                  u"<!-- > -->",
                                  u"<!-- <b> -->",

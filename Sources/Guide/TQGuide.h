@@ -25,8 +25,8 @@ public:
 
     /// Colour of the whole overlay, a `tqColor`. Read by showGuide().
     QVariant tintColor() const { return QVariant::fromValue(m_tintColor); }
-    /// Changes the colour of overlays that are shown later. Takes a `tqColor`, a `color` or a text form of one; any other
-    /// value is a QML error and changes nothing.
+    /// Changes the colour of overlays that are shown later. Takes a `tqColor`, a `color` or a text form of one; any
+    /// other value is a QML error and changes nothing.
     void setTintColor(const QVariant &value);
 
     /// The paragraphs in the order shown, plain text. Read by showGuide(), which stops the process if they are empty.

@@ -294,8 +294,8 @@ void TQGuideView::updateShownArea()
                 shown &= mapRectFromItem(ancestor, ancestor->clipRect());
         }
         // Only windows that ask for the whole screen extend below its bars and notches.
-        const bool usesWholeScreen = m_window->flags().testFlag(extendsUnderBars)
-            || m_window->visibility() == QWindow::FullScreen;
+        const bool usesWholeScreen =
+            m_window->flags().testFlag(extendsUnderBars) || m_window->visibility() == QWindow::FullScreen;
         if (const QScreen *screen = m_window->screen(); screen && usesWholeScreen) {
             const QRectF available = screen->availableGeometry();
             shown &= QRectF(mapFromGlobal(available.topLeft()), mapFromGlobal(available.bottomRight()));

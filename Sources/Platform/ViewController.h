@@ -59,8 +59,8 @@ public:
     static void setRoot(QQuickWindow *window, const std::shared_ptr<ViewController> &root);
 
     /// Called by \a controller, a mail composer, on its delegate when the user has finished the mail. \a error
-    /// describes a failure for the user and is otherwise empty. Dismisses the composer, whatever the result and whichever
-    /// controller presented it; shows and stores nothing.
+    /// describes a failure for the user and is otherwise empty. Dismisses the composer, whatever the result and
+    /// whichever controller presented it; shows and stores nothing.
     Q_INVOKABLE virtual void mailComposeController(TQFoundation::MailComposer *controller,
                                                    TQFoundation::ViewController::MailComposeResult result,
                                                    const QString &error);

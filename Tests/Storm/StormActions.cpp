@@ -146,7 +146,7 @@ void StormWorld::makeGuide(const Step &step)
                "the flag is stored before the completion");
     });
     guide->view = guide->held.get();
-    QObject::connect(guide->held.get(), &TQGuideView::impactOccurred, guide->held.get(), [this, guide] {
+    QObject::connect(guide->held.get(), &TQGuideView::tapped, guide->held.get(), [this, guide] {
         expect(guide->canTap(), "no tap counts while the button is disabled");
         ++guide->taps;
         guide->isFinished = guide->taps == guide->paragraphs;

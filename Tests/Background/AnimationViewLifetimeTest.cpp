@@ -134,6 +134,7 @@ TEST_F(AnimationViewLifetimeTest, IsDestroyedWhenItsTimerIsInvalidated)
     platform->calls.clear();
     invalidateTimer();
     EXPECT_TRUE(view.expired());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(platform->calls.count(QStringLiteral("timer.invalidate()")), 2) << "once more by its teardown";
     EXPECT_TRUE(platform->timers.front().expired());
     platform->advance(100);

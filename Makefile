@@ -16,7 +16,7 @@ units = $(shell find Sources Example -name '*.cpp')
 
 help:
 	@echo "make run        build and start the example (ARGS=\"--app birch --dark\"); without a display, write pictures"
-	@echo "make test       check formatting and QML files, build, run all tests and each fuzz target for 20 seconds"
+	@echo "make test       check formatting and QML files, build, run all tests"
 	@echo "make elsewhere  run \`make run\` and \`make test\` in a minimal system of the Debian release SUITE, or of each"
 	@echo "make sanitize   run the tests under AddressSanitizer, UndefinedBehaviorSanitizer, ThreadSanitizer and Valgrind"
 	@echo "make fuzz       run each fuzz target for SECONDS=$(SECONDS) seconds"
@@ -46,7 +46,6 @@ test:
 	cmake --build --preset release
 	cmake --build --preset release --target all_qmllint
 	ctest --preset release $(CTEST)
-	$(MAKE) --no-print-directory fuzz SECONDS=20 FUZZ=
 
 elsewhere:
 	tools/elsewhere $(SUITE)

@@ -72,10 +72,12 @@ private:
 
 std::int64_t Markup::cost() const
 {
+    // Each image is inserted into the text.
+    const std::int64_t objects = m_objects * (50 + m_objects / 8 + m_text.size() / 60);
     if (m_styles.extent(m_text.size(), m_tags + m_tables.cells()) > maxExtent)
         return unknownCost;
     return m_text.total(m_styles.isPreformatted()) + m_tables.total() + m_styles.total(m_tags) + m_attributeSize
-        + m_tags * 30 + m_tags * m_tags / 100 + m_objects * 50 + m_objects * m_objects / 8;
+        + m_tags * 30 + m_tags * m_tags / 100 + objects;
 }
 
 bool Markup::read()

@@ -54,11 +54,13 @@ void changeFormats(QTextDocument &document, const Change &change)
         }
     }
     QTextCursor cursor(&document);
+    cursor.beginEditBlock(); // else each change is laid out
     for (const Run &run : std::as_const(runs)) {
         cursor.setPosition(run.start);
         cursor.setPosition(run.end, QTextCursor::KeepAnchor);
         cursor.setCharFormat(run.format);
     }
+    cursor.endEditBlock();
 }
 
 // Links do not count: the toolkit colours them.

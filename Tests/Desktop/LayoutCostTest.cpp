@@ -71,6 +71,8 @@ TEST(LayoutCost, RefusesManyTagsAndObjects)
     EXPECT_TRUE(isCheap(repeated(u"<p>x</p>", 500)));
     EXPECT_FALSE(isCheap(repeated(u"<div>", 5000)));
     EXPECT_FALSE(isCheap(repeated(u"<img>", 2000)));
+    EXPECT_TRUE(isCheap(repeated(u"<img>", 400)));
+    EXPECT_FALSE(isCheap(repeated(u"<img>" + repeated(u"word ", 30), 400)));
     EXPECT_FALSE(isCheap(repeated(u"<a href=x>y</a>", 1200)));
 }
 

@@ -4,13 +4,15 @@
 
 namespace TQFoundation {
 
-/// Whether QSettings can rewrite a settings file in the INI format, with the bytes \a content, without losing anything.
+/// The bytes of a settings file in the INI format after the boolean \a key has been set in \a content.
 ///
-/// QSettings rewrites the whole file to store one value. It loses comments, lines that it cannot parse, all but the
-/// last value of a repeated key, and values that it cannot decode. The answer is true for files that QSettings wrote
-/// itself, and for an empty one. If in doubt it is false.
+/// QSettings loses comments, and lines that it cannot parse, when it rewrites a file. This changes or adds one line and
+/// keeps every other byte. The key's line is changed in place where QSettings writes it: at the top or below
+/// "[General]". Otherwise the new line comes first, where no quote and no group of the file can reach it; an unusual
+/// line of the key, such as one with blanks, then overrides it. A \a content with a byte of zero is not text and is
+/// returned unchanged.
 ///
-/// Reads nothing but \a content. Decoding a broken `@Variant(…)` makes Qt log a line. Any thread.
-bool canRewriteSettingsFile(const QByteArray &content);
+/// \a key is a name without a group, of letters and digits in ASCII. Any thread.
+QByteArray settingsFileWith(const QByteArray &content, const QByteArray &key, bool value);
 
 } // namespace TQFoundation

@@ -4,6 +4,10 @@
 
 #include <QtCore/qcoreapplication.h>
 #include <QtCore/qfile.h>
+#include <QtCore/qlockfile.h>
+#include <QtCore/qsavefile.h>
+
+#include <algorithm>
 
 namespace TQFoundation {
 namespace {
@@ -18,12 +22,29 @@ bool isTextFile(const QSettings &settings)
 #endif
 }
 
-bool canRewrite(const QSettings &settings)
+// Whether a value can be a line of its own under a key that QSettings writes unchanged.
+bool isPlain(const QString &key, const QVariant &value)
 {
+    const auto isPlainCharacter = [](QChar c) { return c < QChar(0x80) && c.isLetterOrNumber(); };
+    return value.typeId() == QMetaType::Bool && !key.isEmpty() && std::ranges::all_of(key, isPlainCharacter);
+}
+
+// Locks the file as QSettings does.
+void writeLine(QSettings &settings, const QString &key, bool value)
+{
+    settings.sync(); // writes the host's changes first
     QFile file(settings.fileName());
-    if (!isTextFile(settings) || !file.exists())
-        return true;
-    return file.open(QIODevice::ReadOnly) && canRewriteSettingsFile(file.readAll());
+    QLockFile lock(file.fileName() + u".lock");
+    if (!lock.lock() || !file.open(QIODevice::ReadOnly))
+        return;
+    const QByteArray content = file.readAll();
+    file.close(); // some systems replace no open file
+    const QByteArray changed = settingsFileWith(content, key.toLatin1(), value);
+    QSaveFile written(file.fileName());
+    if (changed != content && written.open(QIODevice::WriteOnly) && written.write(changed) == changed.size())
+        written.commit();
+    lock.unlock();
+    settings.sync();
 }
 
 } // namespace
@@ -54,7 +75,11 @@ void SettingsStore::setValue(const QString &key, const QVariant &value)
 {
     m_set.insert(key, value);
     QSettings *stored = settings();
-    if (stored && canRewrite(*stored))
+    if (!stored)
+        return;
+    if (isTextFile(*stored) && isPlain(key, value) && QFile::exists(stored->fileName()))
+        writeLine(*stored, key, value.toBool());
+    else
         stored->setValue(key, value);
 }
 

@@ -25,8 +25,11 @@ public:
     /// Settings in a text file have no types: there exactly the texts "true" and "false" are booleans.
     QVariant value(const QString &key) const;
 
-    /// Sets \a key. The value is on disk once control is back in the event loop, unless the settings cannot be written
-    /// or their file would lose something: canRewriteSettingsFile(). The file is unchanged then.
+    /// Sets \a key. The value is on disk once control is back in the event loop. A file that is not text, or that
+    /// cannot be read or written, stays as it is.
+    ///
+    /// Booleans are written with settingsFileWith(), so that comments stay in the file. All other values are written by
+    /// QSettings, which loses them.
     void setValue(const QString &key, const QVariant &value);
 
 private:

@@ -74,9 +74,10 @@ void Flattener::beginCurve()
 void Flattener::add(const Cubic &curve, int depth)
 {
     const Shape shape(curve);
-    if (shape.around < tiny) {
+    const bool isSplit = !shape.isStraight && depth < deepest;
+    if (shape.around < tiny || (!isSplit && shape.size < tiny / 4)) {
         skip(shape);
-    } else if (!shape.isStraight && depth < deepest) {
+    } else if (isSplit) {
         const Point ab = midpoint(curve[0], curve[1]);
         const Point bc = midpoint(curve[1], curve[2]);
         const Point cd = midpoint(curve[2], curve[3]);
@@ -85,8 +86,6 @@ void Flattener::add(const Cubic &curve, int depth)
         const Point half = midpoint(abc, bcd);
         add({curve[0], ab, abc, half}, depth + 1);
         add({half, bcd, cd, curve[3]}, depth + 1);
-    } else if (shape.size < tiny / 4) {
-        skip(shape);
     } else {
         append(curve, shape);
     }

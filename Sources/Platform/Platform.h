@@ -103,7 +103,7 @@ public:
     virtual QVariant userDefault(const QString &key) const = 0;
 
     /// Stores a setting of the host, on disk once control is back in the event loop. The store does not change if it
-    /// cannot be written or read whole, or if rewriting it would lose entries. From then on userDefault() returns
+    /// cannot be read or written, and a boolean leaves all else in it as it is. From then on userDefault() returns
     /// \a value in this process, even if it is not stored.
     virtual void setUserDefault(const QString &key, const QVariant &value) = 0;
 

@@ -59,35 +59,85 @@ TEST(SettingsStore, ReadsOnlyTrueAndFalseAsBooleansFromText)
         EXPECT_NE(store.value(QLatin1String(key)).typeId(), QMetaType::Bool) << key;
 }
 
-TEST(SettingsStore, KeepsSettingsOfHost)
+TEST(SettingsStore, KeepsEveryByteOfHost)
 {
-    writeSettings("[General]\nname=Grove\n[Window]\nwidth=300\n");
+    for (const QByteArray content :
+         {"[General]\nname=Grove\n[Window]\nwidth=300\n", "; written by hand\n\n; too, without end\nname = Grove ; and here\n",
+          "[General]\nname=Gr\xFCn\n", "[General]\nname=\\xdddd\nnames=Grove, \\xd83c\n", "text=\"open\nFlag=false\n",
+          "[%General]\nname=Grove\n\n[%GENERAL]\nname=Birch\n", "[General]\n/name=Grove\nname/=Grove\n=Grove\n",
+          "[General]\nname=Grove\nhalf a line", "\x7f\x45\x4c\x46\x02\x01\nname=Grove\n[Gen", "[General\nname=Grove\n",
+          "# name=Grove\n"}) {
+        writeSettings(content);
+        SettingsStore store;
+        EXPECT_FALSE(store.value(flag).isValid()) << content.constData();
+        store.setValue(flag, true);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(readSettings(), "Flag=true\n" + content);
+        EXPECT_EQ(SettingsStore().value(flag), QVariant(true));
+    }
+}
+
+TEST(SettingsStore, ChangesOwnLine)
+{
+    writeSettings("; written by hand\nFlag=false\nname=Grove\n");
+    SettingsStore store;
+    for (const bool value : {true, false, false, true}) {
+        store.setValue(flag, value);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(SettingsStore().value(flag), QVariant(value));
+    }
+    EXPECT_EQ(readSettings(), "; written by hand\nFlag=true\nname=Grove\n");
+}
+
+TEST(SettingsStore, KeepsUnwrittenChangesOfHost)
+{
+    writeSettings("; written by hand\nname=Grove\n");
+    QSettings host(QCoreApplication::organizationName(), QCoreApplication::applicationName());
+    host.setValue(QStringLiteral("name"), QStringLiteral("Birch"));
+    SettingsStore().setValue(flag, true);
+    host.setValue(QStringLiteral("size"), 3);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(readSettings(), "[General]\nFlag=true\nname=Birch\nsize=3\n");
+    EXPECT_EQ(host.value(flag), QVariant(QStringLiteral("true")));
+}
+
+TEST(SettingsStore, FollowsLink)
+{
+    const QTemporaryDir folder;
+    const QString target = folder.filePath(QStringLiteral("shared.conf"));
+    ASSERT_TRUE(QFile(target).open(QIODevice::WriteOnly));
+    ASSERT_TRUE(QFileInfo(settingsPath()).dir().mkpath(QStringLiteral(".")));
+    ASSERT_TRUE(QFile::link(target, settingsPath()));
+    SettingsStore().setValue(flag, true);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(QFileInfo(settingsPath()).isSymLink());
+    EXPECT_EQ(readSettings(), "Flag=true\n");
+}
+
+TEST(SettingsStore, LeavesFileThatIsNotText)
+{
+    const QByteArray content("\x7f\x45\x4c\x46\0\nname=Grove\n", 17);
+    writeSettings(content);
     SettingsStore store;
     store.setValue(flag, true);
     QCoreApplication::processEvents();
-    EXPECT_EQ(readSettings(), "[General]\nFlag=true\nname=Grove\n\n[Window]\nwidth=300\n");
+    EXPECT_EQ(readSettings(), content);
+    EXPECT_EQ(store.value(flag), QVariant(true));
 }
 
-TEST(SettingsStore, LeavesFileThatWouldLoseSomething)
+TEST(SettingsStore, OtherTypesAreWrittenByQSettings)
 {
-    for (const char *content :
-         {"[General]\nname=Grove\nhalf a line", "\x7f\x45\x4c\x46\x02\x01\nname=Grove\n[Gen", "[General\nname=Grove\n",
-          "[General]\nname=Grove\n/name=Birch\n", "[General]\nname/=Grove\n", "[General]\n=Grove\n",
-          "[/]\nname=Grove\n", "[General]\nname=Gr\xFCn\n", "[General]\nname=\\xdddd\n",
-          "[General]\nnames=Grove, \\xd83c\n", "[%General]\nname=Grove\n\n[%GENERAL]\nname=Birch\n",
-          "; written by hand\n[General]\nname=Grove\n"}) {
-        writeSettings(content);
-        SettingsStore store;
-        EXPECT_NE(store.value(flag), QVariant(true));
-        store.setValue(flag, true);
-        QCoreApplication::processEvents();
-        EXPECT_EQ(readSettings(), content);
-    }
+    writeSettings("[General]\nname=Grove\n");
+    SettingsStore store;
+    store.setValue(QStringLiteral("number"), 5);
+    store.setValue(QStringLiteral("Group/flag"), true);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(readSettings(), "[General]\nname=Grove\nnumber=5\n\n[Group]\nflag=true\n");
 }
 
 TEST(SettingsStore, AnswersFromMemoryWhateverBecomesOfFile)
 {
-    writeSettings("half a line");
+    writeSettings(QByteArray(1, '\0'));
     SettingsStore store;
     EXPECT_FALSE(store.value(flag).isValid());
     store.setValue(flag, true);
@@ -111,18 +161,16 @@ TEST(SettingsStore, MakesNoCopyOfFile)
     const QDir::Filters everything = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
     SettingsStore store;
     store.setValue(flag, true);
-    EXPECT_EQ(QFileInfo(settingsPath()).dir().entryList(everything).size(), 1) << "before the file is rewritten";
     QCoreApplication::processEvents();
     EXPECT_EQ(QFileInfo(settingsPath()).dir().entryList(everything).size(), 1);
     EXPECT_EQ(QDir(temporary.path()).entryList(everything), QStringList());
-    EXPECT_EQ(readSettings(), "[General]\nFlag=true\nname=Grove\n");
+    EXPECT_EQ(readSettings(), "Flag=true\n[General]\nname=Grove\n");
     qunsetenv("TMPDIR");
 }
 
-// The disk is full when the value is set, and has room again when it would be written.
-TEST(SettingsStore, LeavesDamagedFileOnFullDisk)
+TEST(SettingsStore, LeavesFileOnFullDisk)
 {
-    const char *content = "[General]\nname=Grove\nhalf a line";
+    const char *content = "; written by hand\nname=Grove\n";
     writeSettings(content);
     const auto tooLarge = std::signal(SIGXFSZ, SIG_IGN);
     rlimit room;
@@ -131,10 +179,11 @@ TEST(SettingsStore, LeavesDamagedFileOnFullDisk)
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &full), 0);
     SettingsStore store;
     store.setValue(flag, true);
+    QCoreApplication::processEvents();
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &room), 0);
     std::signal(SIGXFSZ, tooLarge);
-    QCoreApplication::processEvents();
     EXPECT_EQ(readSettings(), content);
+    EXPECT_EQ(store.value(flag), QVariant(true));
 }
 
 TEST(SettingsStore, LeavesFolderInPlaceOfFile)

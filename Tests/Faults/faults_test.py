@@ -55,7 +55,7 @@ with tempfile.TemporaryDirectory() as name:
     elif fault == "FullHome":
         options, is_stored = {"preexec_fn": full_disk}, False
     elif fault == "CorruptSettings":
-        before, is_stored = "\x7fELF\x02\x01\nname=Grove\n[Gen", False
+        before, is_stored = "\x7fELF\x02\x01\0\nname=Grove\n[Gen", False
     elif fault == "VanishingHome":
         arguments, is_stored = ("remove-home",), None
     elif fault == "LocaleC":

@@ -25,7 +25,8 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${library_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/cmake/debian/triggers)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "qml6-module-qtquick, qml6-module-qtquick-controls, qml6-module-qtquick-templates")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS 
+    "qml6-module-qtqml, qml6-module-qtqml-workerscript, qml6-module-qtquick, qml6-module-qtquick-controls, qml6-module-qtquick-templates, qml6-module-qtquick-window")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "qml6-module-qtwebengine")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "default-mta | mail-transport-agent")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "The catalogue itself, a row of its icons, an onboarding guide, the texts

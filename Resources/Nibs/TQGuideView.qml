@@ -43,8 +43,10 @@ TQGuideView {
         id: system
     }
 
+    // Also fills a window that is larger than the overlay.
     Rectangle {
-        anchors.fill: parent
+        width: Math.max(parent.width, page.x + page.width)
+        height: Math.max(parent.height, page.y + page.height)
         color: root.background
     }
 

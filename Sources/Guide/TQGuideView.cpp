@@ -288,7 +288,9 @@ void TQGuideView::updateShownArea()
     if (m_window && m_window->contentItem()) {
         const QQuickItem *content = m_window->contentItem();
         // The content item of a window that another window renders may have no size.
-        shown &= mapRectFromItem(content, QRectF(QPointF(), m_window->size()));
+        const QRectF window = mapRectFromItem(content, QRectF(QPointF(), m_window->size()));
+        // A window may be larger than the screen, and so than the overlay.
+        shown = parentItem() == content ? window : shown & window;
         for (const QQuickItem *ancestor = parentItem(); ancestor; ancestor = ancestor->parentItem()) {
             if (ancestor->clip())
                 shown &= mapRectFromItem(ancestor, ancestor->clipRect());

@@ -118,7 +118,8 @@ public:
     void setBackgroundColor(const Color &color);
 
     /// The part of the overlay that is visible in its window and clear of the system's bars, in the overlay's
-    /// coordinates. The nib lays out its content there. The whole overlay if it is in no window.
+    /// coordinates. The nib lays out its content there. The whole overlay if it is in no window; more than the overlay
+    /// if it lies directly in a window that is larger.
     QRectF shownArea() const { return m_shownArea; }
 
     /// Accessible name of the next button, in the user's language.

@@ -9,7 +9,8 @@ namespace {
 
 std::unique_ptr<Platform> &installed()
 {
-    static std::unique_ptr<Platform> current = makeDefaultPlatform();
+    // Never destroyed: a render thread may still ask for the time while the process ends.
+    static auto &current = *new std::unique_ptr<Platform>(makeDefaultPlatform());
     return current;
 }
 

@@ -136,7 +136,8 @@ public:
     virtual QString resourceRoot() const = 0;
 };
 
-/// The platform that the library uses: a DesktopPlatform until another one is installed. Any thread.
+/// The platform that the library uses: a DesktopPlatform until another one is installed. It is not destroyed when the
+/// process ends, because a render thread may still draw then. Any thread.
 TQFOUNDATION_EXPORT Platform &platform();
 
 /// Makes \a next the platform that the library uses, or a new DesktopPlatform if it is null. Returns the previous one,

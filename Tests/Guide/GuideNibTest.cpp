@@ -257,6 +257,29 @@ TEST_F(GuideNib, KeepsContentInsideResizedWindow)
     EXPECT_EQ(guide->size(), QSizeF(1000, 900));
 }
 
+TEST_F(GuideNib, FillsWindowLargerThanScreen)
+{
+    platform->bounds = {320, 480};
+    window.resize(700, 800);
+    window.setColor(Qt::white);
+    const auto guide = shown({longText()});
+    guide->setBackgroundColor(Rgba{1, 0, 0});
+    clock.pass(600);
+    const QImage seen = window.grabWindow();
+    EXPECT_EQ(guide->size(), QSizeF(320, 480));
+    EXPECT_EQ(guide->shownArea(), QRectF(0, 0, 700, 800));
+    for (const QPoint corner : {QPoint(2, 2), QPoint(697, 2), QPoint(2, 797), QPoint(697, 797)})
+        EXPECT_EQ(seen.pixelColor(corner), QColor(255, 0, 0));
+    const QRectF button = sceneRect(guide->nextButton());
+    EXPECT_GT(button.bottom(), 700);
+    QTest::mouseClick(&window, Qt::LeftButton, {}, button.center().toPoint());
+    EXPECT_FALSE(guide->nextButton()->isEnabled());
+    window.resize(900, 500);
+    QCoreApplication::processEvents();
+    window.grabWindow();
+    EXPECT_EQ(guide->shownArea(), QRectF(0, 0, 900, 500));
+}
+
 TEST_F(GuideNib, FillsWindowWhoseContentItemHasNoSize)
 {
     QQuickRenderControl control;

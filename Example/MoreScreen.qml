@@ -84,10 +84,18 @@ FocusScope {
         clip: true
         ScrollIndicator.vertical: ScrollIndicator { Accessible.ignored: true }
 
-        // Scrolls until the item with keyboard focus is visible.
-        function reveal(item: Item) {
-            const top = item.mapToItem(column, 0, 0).y + column.y;
-            contentY = Math.max(0, Math.min(Math.max(contentY, top + item.height + Theme.margin - height), top - Theme.margin));
+        readonly property Item focused: Window.activeFocusItem
+
+        function isRow(item: Item): bool {
+            return item && (item.parent === column || isRow(item.parent));
+        }
+
+        // Scrolls until the row with keyboard focus is visible.
+        onFocusedChanged: {
+            if (!isRow(focused))
+                return;
+            const top = focused.mapToItem(column, 0, 0).y + column.y;
+            contentY = Math.max(0, Math.min(Math.max(contentY, top + focused.height + Theme.margin - height), top - Theme.margin));
         }
 
         Column {
@@ -155,7 +163,6 @@ FocusScope {
                         anchors.verticalCenter: parent.verticalCenter
                         width: parent.width
                         app: root.app
-                        onActiveFocusChanged: if (activeFocus) page.reveal(apps)
                     }
 
                     Rectangle {
@@ -183,7 +190,6 @@ FocusScope {
 
     component Entry: MoreRow {
         width: parent ? parent.width : implicitWidth
-        onActiveFocusChanged: if (activeFocus) page.reveal(this)
     }
 
     component LinkRow: Entry {

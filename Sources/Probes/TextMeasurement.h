@@ -16,7 +16,8 @@ namespace TQFoundation {
 /// item rounds up. QML's `Text` stacks lines the same way, but without the leading, which most fonts do not have.
 ///
 /// A line feed (U+000A) or a line separator (U+2028) breaks a line, as in QML's `Text`. No other character does:
-/// neither U+000B, U+000C, U+000D, U+0085 nor U+2029. Control characters such as a carriage return have no width.
+/// neither U+000B, U+000C, U+000D, U+0085 nor U+2029. Control characters such as a carriage return have no width. After
+/// a break at the end comes an empty line, which `Text` leaves out in newer versions of Qt.
 ///
 /// Trailing blanks count, and so does the overhang of a line's last glyph beyond its advance. An empty string is 0 wide
 /// and one line high. Fallback fonts for missing characters count with their own heights. Lines may have any length.

@@ -61,7 +61,8 @@ public:
     }
 
     /// Returns the accessible tree below \a object in reading order, one line per object: indented by its depth, with
-    /// its role, its name, and the states focusable, focused and read only.
+    /// its role, its name, and the states focusable, focused and read only. Whether Qt counts a disabled object as
+    /// focusable depends on its version, so that it is not.
     static std::string tree(QObject *object) { return linesOf(describes(object), 0).join(u'\n').toStdString(); }
 
     /// Performs the press action of \a object's accessible interface.
@@ -78,11 +79,12 @@ private:
         const QAccessible::State state = from->state();
         if (state.invisible)
             return {};
+        const bool isEnabled = !from->object() || from->object()->property("enabled") != QVariant(false);
         QString line = QString(depth, u' ')
             + QLatin1String(QMetaEnum::fromType<QAccessible::Role>().valueToKey(from->role())) + u" '"
             + from->text(QAccessible::Name) + u'\'';
         const std::pair<bool, const char *> words[] = {
-            {state.focusable, "focusable"}, {state.focused, "focused"}, {state.readOnly, "read only"}};
+            {state.focusable && isEnabled, "focusable"}, {state.focused, "focused"}, {state.readOnly, "read only"}};
         for (const auto &[holds, word] : words) {
             if (holds)
                 line += u' ' + QLatin1String(word);

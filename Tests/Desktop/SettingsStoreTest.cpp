@@ -62,8 +62,9 @@ TEST(SettingsStore, ReadsOnlyTrueAndFalseAsBooleansFromText)
 TEST(SettingsStore, KeepsEveryByteOfHost)
 {
     for (const QByteArray content :
-         {"[General]\nname=Grove\n[Window]\nwidth=300\n", "; written by hand\n\n; too, without end\nname = Grove ; and here\n",
-          "[General]\nname=Gr\xFCn\n", "[General]\nname=\\xdddd\nnames=Grove, \\xd83c\n", "text=\"open\nFlag=false\n",
+         {"[General]\nname=Grove\n[Window]\nwidth=300\n",
+          "; written by hand\n\n; too, without end\nname = Grove ; and here\n", "[General]\nname=Gr\xFCn\n",
+          "[General]\nname=\\xdddd\nnames=Grove, \\xd83c\n", "text=\"open\nFlag=false\n",
           "[%General]\nname=Grove\n\n[%GENERAL]\nname=Birch\n", "[General]\n/name=Grove\nname/=Grove\n=Grove\n",
           "[General]\nname=Grove\nhalf a line", "\x7f\x45\x4c\x46\x02\x01\nname=Grove\n[Gen", "[General\nname=Grove\n",
           "# name=Grove\n"}) {

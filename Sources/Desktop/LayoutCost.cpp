@@ -31,7 +31,7 @@ constexpr View styleSheet =
 // Lists have a blank before and after each word.
 bool isIn(View list, View word)
 {
-    return !word.empty() && list.find(u' ' + std::u16string(word) + u' ') != View::npos;
+    return list.find(u' ' + std::u16string(word) + u' ') != View::npos;
 }
 
 View take(View &rest, std::size_t size)
@@ -97,8 +97,9 @@ private:
 
     std::int64_t cost() const
     {
-        // Each font is loaded once, and at most one for each tag. Bold and italic fonts are fonts of their own.
-        const auto fonts = static_cast<std::int64_t>((m_fonts.size() + 2) * (m_fonts.size() + 2));
+        // Each font is loaded once, and at most one for each tag. Bold fonts and those of headings are fonts of their
+        // own.
+        const auto fonts = static_cast<std::int64_t>((m_fonts.size() + 4) * (m_fonts.size() + 4));
         // Each image is inserted into the text.
         return m_cost + m_tags * (60 + m_tags / 100) + std::min(fonts, m_tags) * 600
             + m_objects * (50 + m_objects / 8 + m_size / 60);
@@ -125,8 +126,6 @@ private:
         ++m_tags;
         m_objects += tag == u"img";
         m_isNarrow = m_open.back().isNarrow || isIn(u" blockquote ol table ul ", tag);
-        if (isIn(u" code h1 h2 h3 h4 h5 h6 pre ", tag))
-            m_fonts.insert(tag);
         if (!isIn(u" a b code em i img span strong u ", tag))
             m_run = 0;
         if (!readAttributes(tag) || (!(isEmpty && skip(m_rest, u"/>")) && !skip(m_rest, u">")))
@@ -247,7 +246,7 @@ private:
 
     View m_rest;
     std::vector<Element> m_open{{}}; // from a parent of all to the innermost
-    std::set<View> m_fonts; // families, sizes, and tags that imply them
+    std::set<View> m_fonts; // families and sizes
     std::set<int> m_fallbackFonts; // blocks of characters
     std::int64_t m_cost = 0; // of characters, attributes and table rows
     std::int64_t m_size = 0; // number of characters
@@ -255,7 +254,7 @@ private:
     std::int64_t m_tags = 0;
     std::int64_t m_objects = 0; // images and links
     int m_columns = 0; // of the current row
-    bool m_isNarrow = false; // the content of the current tag
+    bool m_isNarrow = false; // whether few characters may fit on a line of the current tag
 };
 
 } // namespace

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <string>
 
 namespace TQFoundation {
@@ -47,9 +46,10 @@ TEST(LayoutCost, AcceptsOrdinaryMessages)
 TEST(LayoutCost, AcceptsDocumentsOfTheToolkit)
 {
     QTextDocument document;
-    document.setHtml(QStringLiteral("<h1>Title</h1><p align=center>one <b>two</b> <font size=5 color=red>three</font></p>"
-                                    "<ul><li>a<li>b<ol><li>c</ol></ul><table width=100%><tr><td>1<td>2</table><hr>"
-                                    "<pre>d\n\ne</pre><blockquote>f<img src=g><br><a href=h>i</a></blockquote>"));
+    document.setHtml(
+        QStringLiteral("<h1>Title</h1><p align=center>one <b>two</b> <font size=5 color=red>three</font></p>"
+                       "<ul><li>a<li>b<ol><li>c</ol></ul><table width=100%><tr><td>1<td>2</table><hr>"
+                       "<pre>d\n\ne</pre><blockquote>f<img src=g><br><a href=h>i</a></blockquote>"));
     EXPECT_TRUE(isCheapToLayOut(document.toHtml().toStdU16String())) << document.toHtml().toStdString();
 }
 
@@ -147,6 +147,7 @@ TEST(LayoutCost, RefusesUnknownStyles)
 TEST(LayoutCost, LimitsText)
 {
     expectLimit(500, u"x");
+    EXPECT_TRUE(isCheapToLayOut(repeated(u"<p>" + repeated(u"x", 500), 20)));
     expectLimit(250, u"x ", u"<pre>");
     EXPECT_TRUE(isCheapToLayOut(repeated(u"x ", 30'000)));
     EXPECT_FALSE(isCheapToLayOut(repeated(u"x ", 30'001)));
@@ -161,9 +162,9 @@ TEST(LayoutCost, LimitsText)
 
 TEST(LayoutCost, LimitsTextInNarrowColumns)
 {
-    for (const char16_t *html :
-         {u"<blockquote>", u"<ul>", u"<ol><li><b>", u"<table><tr><td>", u"<p style='margin:9px'>",
-          u"<p style='margin-left:9px'>", u"<p style='-qt-block-indent:9'>", u"<p style='font-size:20px'>"}) {
+    for (const char16_t *html : {u"<blockquote>", u"<ul>", u"<ol><li><b>", u"<table><tr><td>",
+                                 u"<p style='margin:9px'>", u"<p style='margin-left:9px; margin-right:0px'>",
+                                 u"<p style='-qt-block-indent:9'>", u"<p style='font-size:20px'>"}) {
         EXPECT_TRUE(isCheapToLayOut(std::u16string(html) + repeated(u"x ", 5'000))) << utf8(html);
         EXPECT_FALSE(isCheapToLayOut(std::u16string(html) + repeated(u"x ", 6'000))) << utf8(html);
     }
@@ -193,12 +194,11 @@ TEST(LayoutCost, LimitsTagsAndObjects)
     EXPECT_FALSE(isCheapToLayOut(fonts + fonts + fonts));
 }
 
-TEST(LayoutCost, TakesLittleTimeItself)
+TEST(LayoutCost, RefusesAnythingLarge)
 {
-    const auto begin = std::chrono::steady_clock::now();
-    for (const char16_t *part : {u"x", u" ", u"\n", u"<b>", u"<br>", u"<img>", u"&#x1F600;", u"xя中אन😀"})
-        EXPECT_FALSE(isCheapToLayOut(repeated(part, 250'000))) << utf8(part);
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
+    for (const char16_t *part : {u"x", u" ", u"\n", u"<b>", u"<br>", u"<img>", u"<ul><li>", u"&#x1F600;", u"&amp;",
+                                 u"xя中אن😀", u"<table><tr><td>", u"<p></p>", u"<p dir=''>"})
+        EXPECT_FALSE(isCheapToLayOut(repeated(part, 150'001))) << utf8(part);
 }
 
 } // namespace

@@ -251,7 +251,7 @@ TEST_F(MailDraft, ReportsTimeoutAfterThirtySeconds)
     EXPECT_EQ(root->results, QList{Result::sent});
 }
 
-TEST_F(MailDraft, LoadsNoImagesOrStyleSheets)
+TEST_F(MailDraft, LoadsNoImages)
 {
     QTcpServer server;
     ASSERT_TRUE(server.listen(QHostAddress::LocalHost));

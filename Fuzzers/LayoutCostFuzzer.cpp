@@ -58,16 +58,16 @@ constexpr const char *pieces[] = {
     "<meta name=\"qrichtext\" content=\"1\">",
     "<p>",
     "<p dir=rtl align=center>",
-    "<p style='margin:999px'>",
-    "<p style='text-indent:999px'>",
-    "<p style='-qt-block-indent:999'>",
+    "<p style='margin:99px'>",
+    "<p style='text-indent:99px'>",
+    "<p style='-qt-block-indent:99'>",
     "<p style='background-color:#abc'>",
     "</p>",
     "<li>",
     "<li style='list-style-type:decimal'>",
     "<div>",
     "<div style='white-space: pre-wrap'>",
-    "<div style='padding:99px; width:1px; height:999px'>",
+    "<div style='padding:99px; width:1px; height:99px'>",
     "<b>",
     "<i>",
     "<u>",
@@ -75,7 +75,7 @@ constexpr const char *pieces[] = {
     "<a href=x>",
     "<span>",
     "<span style='font-size:99px'>",
-    "<span style='font-size:1pt; vertical-align:sub'>",
+    "<span style='font-size:19px; vertical-align:sub'>",
     "<span style='font-size:0px'>",
     "<span style='font-family:a; color:red'>",
     "<span style='font-family:serif; font-weight:700'>",
@@ -83,7 +83,7 @@ constexpr const char *pieces[] = {
     "<h1>",
     "<h6>",
     "<ul>",
-    "<ul style='-qt-list-indent:999'>",
+    "<ul style='-qt-list-indent:99'>",
     "<ol start=999 type=i>",
     "<blockquote>",
     "<pre>",
@@ -96,7 +96,7 @@ constexpr const char *pieces[] = {
     "<tr>",
     "<tr><td>",
     "<td>",
-    "<td style='border-width:99px; padding:999px' width=50%>",
+    "<td style='border-width:99px; padding:99px' width=50%>",
     "<th width=999%>",
     "</td><td>",
     "</td></tr><tr><td>",
@@ -118,12 +118,15 @@ void append(std::string &html, std::vector<std::string> &open, std::string_view 
     }
     html += piece;
     for (auto begin = piece.find('<'); begin < piece.size(); begin = piece.find('<', begin + 1)) {
-        const auto name = piece.substr(begin + 1, piece.find_first_of(" >", begin) - begin - 1);
+        const auto tag = piece.substr(begin + 1, piece.find_first_of(" >", begin) - begin - 1);
+        const auto name = tag.substr(tag.starts_with('/') ? 1 : 0);
         constexpr std::string_view unnested[] = {"br", "hr", "img", "li", "meta", "p", "style"};
-        if (name.starts_with('/') && !open.empty())
-            open.pop_back();
-        else if (std::ranges::find(unnested, name) == std::end(unnested))
+        if (std::ranges::find(unnested, name) != std::end(unnested))
+            continue;
+        if (name == tag)
             open.emplace_back(name);
+        else if (!open.empty())
+            open.pop_back();
     }
 }
 

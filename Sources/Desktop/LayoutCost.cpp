@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace TQFoundation {
@@ -66,7 +67,7 @@ bool isCjk(char16_t c)
 std::int64_t costOf(char16_t c)
 {
     if (c < 0x80)
-        return c >= 0x20 ? 1 : c == u'\n' ? 20 : 30;
+        return c >= 0x20 ? 1 : 30;
     if (c >= 0xA0 && c < 0x300)
         return 3;
     // Combining and invisible characters and surrogates take the toolkit longest.
@@ -230,6 +231,9 @@ private:
         const int block = isCjk(c) ? c > 0xA000 : isSurrogate ? c : c >> 8;
         if (c >= 0x500 && block != 0x20 && m_fallbackFonts.insert(block).second)
             m_cost += 8000;
+        // Text is shaped and drawn script by script.
+        if (!isBlank && std::exchange(m_isLatin, c < 0x300) != (c < 0x300))
+            m_cost += 10;
         // Each character may be alone on a line.
         m_cost += m_open.back().isNarrow ? 12 : 0;
         if (c == u'&') {
@@ -254,6 +258,7 @@ private:
     std::int64_t m_tags = 0;
     std::int64_t m_objects = 0; // images and links
     int m_columns = 0; // of the current row
+    bool m_isLatin = true; // the last character that is not blank
     bool m_isNarrow = false; // whether few characters may fit on a line of the current tag
 };
 

@@ -151,7 +151,9 @@ TEST(LayoutCost, LimitsText)
     expectLimit(250, u"x ", u"<pre>");
     EXPECT_TRUE(isCheapToLayOut(repeated(u"x ", 30'000)));
     EXPECT_FALSE(isCheapToLayOut(repeated(u"x ", 30'001)));
-    EXPECT_FALSE(isCheapToLayOut(repeated(u"\n", 8'000)));
+    EXPECT_TRUE(isCheapToLayOut(repeated(u"plain text in lines\n", 2'000)));
+    EXPECT_FALSE(isCheapToLayOut(repeated(u"\n", 5'001)));
+    EXPECT_FALSE(isCheapToLayOut(repeated(u"\u05D0x ", 4'000)));
     EXPECT_FALSE(isCheapToLayOut(repeated(u"中", 10'000)));
     EXPECT_FALSE(isCheapToLayOut(repeated(u"\u0301 ", 5'000)));
     EXPECT_FALSE(isCheapToLayOut(repeated(u"\u0003 ", 5'000)));

@@ -103,7 +103,7 @@ private:
         const auto fonts = static_cast<std::int64_t>((m_fonts.size() + 4) * (m_fonts.size() + 4));
         // Each image is inserted into the text.
         return m_cost + m_tags * (60 + m_tags / 100) + std::min(fonts, m_tags) * 600
-            + m_objects * (50 + m_objects / 8 + m_size / 60);
+            + m_objects * (100 + m_objects / 4 + m_size / 30);
     }
 
     // To repair other tables, the toolkit nests them, and takes exponential time to lay those out. Text has no tag.

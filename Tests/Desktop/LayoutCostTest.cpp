@@ -49,7 +49,8 @@ TEST(LayoutCost, AcceptsDocumentsOfTheToolkit)
     document.setHtml(
         QStringLiteral("<h1>Title</h1><p align=center>one <b>two</b> <font size=5 color=red>three</font></p>"
                        "<ul><li>a<li>b<ol><li>c</ol></ul><table width=100%><tr><td>1<td>2</table><hr>"
-                       "<pre>d\n\ne</pre><blockquote>f<img src=g><br><a href=h>i</a></blockquote>"));
+                       "<pre>d\n\ne</pre><blockquote>f<img src=g><br><a href=h>i</a></blockquote>")
+        + QStringLiteral("<p>%1</p>").arg(QStringLiteral("plain words ").repeated(12)).repeated(140));
     EXPECT_TRUE(isCheapToLayOut(document.toHtml().toStdU16String())) << document.toHtml().toStdString();
 }
 
@@ -171,7 +172,7 @@ TEST(LayoutCost, LimitsTextInNarrowColumns)
         EXPECT_FALSE(isCheapToLayOut(std::u16string(html) + repeated(u"x ", 6'000))) << utf8(html);
     }
     EXPECT_TRUE(
-        isCheapToLayOut(u"<ul></ul><p style='margin:0px; margin-top:9px; font-size:9pt'>" + repeated(u"x ", 20'000)));
+        isCheapToLayOut(u"<ul></ul><p style='margin:0px; margin-top:9px; font-size:12pt'>" + repeated(u"x ", 20'000)));
 }
 
 TEST(LayoutCost, LimitsTagsAndObjects)

@@ -70,8 +70,8 @@ std::int64_t costOf(char16_t c)
         return c >= 0x20 ? 1 : 30;
     if (c >= 0xA0 && c < 0x300)
         return 3;
-    // Combining and invisible characters and surrogates take the toolkit longest.
-    return isCjk(c) || (c >= 0x370 && c < 0x2028) ? 16 : 30;
+    // Text from right to left, combining and invisible characters and surrogates take the toolkit longest.
+    return isCjk(c) || (c >= 0x370 && c < 0x590) || (c >= 0x900 && c < 0x2028) ? 16 : 30;
 }
 
 /// Reads lower-case markup once. The functions that return false have met something that is not known to be cheap.
@@ -233,7 +233,7 @@ private:
             m_cost += 8000;
         // Text is shaped and drawn script by script.
         if (!isBlank && std::exchange(m_isLatin, c < 0x300) != (c < 0x300))
-            m_cost += 10;
+            m_cost += 20;
         // Each character may be alone on a line.
         m_cost += m_open.back().isNarrow ? 12 : 0;
         if (c == u'&') {

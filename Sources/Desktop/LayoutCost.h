@@ -10,8 +10,9 @@ namespace TQFoundation {
 /// text, paragraphs, lists, links, images, flat tables, and what QTextDocument::toHtml() writes for them. False for any
 /// other tag, attribute, style property or nesting, and for large numbers.
 ///
-/// Also false if the estimated time exceeds 150 ms. That is enough for 60,000 Latin or 8,000 Chinese characters, or for
-/// 11,000 Latin ones in lists, tables and other indented columns. Takes 20 ms itself at most. Any thread.
+/// Also false if the estimated time exceeds 150 ms. That is enough for 60,000 Latin, 8,000 Chinese or 5,000 Arabic
+/// characters, or for 11,000 Latin ones in lists, tables and other indented columns. Takes 20 ms itself at most. Any
+/// thread.
 bool isCheapToLayOut(std::u16string_view html);
 
 } // namespace TQFoundation

@@ -87,7 +87,7 @@ void MailDraft::setSubject(const QString &subject)
 
 bool MailDraft::isTooLarge() const
 {
-    return layoutCost(html.toStdU16String()) > maxLayoutCost;
+    return !isCheapToLayOut(html.toStdU16String());
 }
 
 void MailDraft::load(QQuickTextDocument *editor)

@@ -55,8 +55,8 @@ public:
     /// Whether the message sets text or background colours of its own and therefore needs a white background.
     bool hasColors() const { return m_hasColors; }
 
-    /// Whether laying out the message would block the GUI thread too long, by layoutCost(). Then it is not shown, and
-    /// the text that the user writes is sent before it.
+    /// Whether laying out the message would block the GUI thread too long, by isCheapToLayOut(). Then it is not shown,
+    /// and the text that the user writes is sent before it.
     bool isTooLarge() const;
 
     bool isSending() const { return m_state == State::sending; }

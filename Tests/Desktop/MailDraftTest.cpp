@@ -251,23 +251,17 @@ TEST_F(MailDraft, ReportsTimeoutAfterThirtySeconds)
     EXPECT_EQ(root->results, QList{Result::sent});
 }
 
-TEST_F(MailDraft, LoadsNoImagesOrStyleSheets)
+TEST_F(MailDraft, LoadsNoImages)
 {
     QTcpServer server;
     ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
     const QString remote = QStringLiteral("http://127.0.0.1:%1/").arg(server.serverPort());
     QImage picture(300, 300, QImage::Format_RGB32);
     ASSERT_TRUE(picture.save(programs.filePath(QStringLiteral("large.png"))));
-    QFile style(programs.filePath(QStringLiteral("large.css")));
-    ASSERT_TRUE(style.open(QIODevice::WriteOnly));
-    style.write("p { font-size: 200px }");
-    style.close();
     const QString local = u"file://" + programs.path();
-    compose(u"<html><head><link rel=stylesheet href='" + remote + u"a.css'><link rel=stylesheet href='" + local
-            + u"/large.css'><style>@import url(" + local + u"/large.css)</style></head><body background='" + remote
-            + u"b.png'><p style=\"background-image: url('" + local + u"/large.png')\">text <img src='" + remote
-            + u"c.png'><img src='" + local + u"/large.png'><img src='" + programs.path()
-            + u"/large.png'><img src=':/qt-project.org/imports/TQFoundation/Icons/fir.png'></p></body></html>");
+    compose(u"<p>text <img src='" + remote + u"c.png'><img src='" + local + u"/large.png'><img src='" + programs.path()
+            + u"/large.png'><img src=':/qt-project.org/imports/TQFoundation/Icons/fir.png'></p>");
+    EXPECT_TRUE(document()->toPlainText().startsWith(QStringLiteral("text ")));
     EXPECT_FALSE(server.waitForNewConnection(100));
     EXPECT_LT(message()->property("contentHeight").toDouble(), 60);
 }

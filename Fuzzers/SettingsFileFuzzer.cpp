@@ -80,8 +80,11 @@ public:
         const QSettings settings(m_path, QSettings::IniFormat);
         QVariantMap values;
         const QStringList keys = settings.allKeys();
-        for (const QString &key : keys)
-            values.insert(key, settings.value(key));
+        for (const QString &key : keys) {
+            // QSettings asks for another key than one with empty parts.
+            if (!key.split(u'/').contains(QString()))
+                values.insert(key, settings.value(key));
+        }
         return values;
     }
 

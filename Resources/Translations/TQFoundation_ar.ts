@@ -298,9 +298,9 @@ Best regards.</source>
         <translation>الرسالة</translation>
     </message>
     <message>
-        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <source>More text, which cannot be shown here, is sent along below yours.</source>
         <extracomment>Note below the text that the user writes in a mail.</extracomment>
-        <translation>يُرسَل أسفل نصك نصٌّ إضافي أطول من أن يُعرض هنا.</translation>
+        <translation>يُرسَل أسفل نصك نصٌّ إضافي لا يمكن عرضه هنا.</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>

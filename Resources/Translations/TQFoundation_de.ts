@@ -298,9 +298,9 @@ Mit den besten Wünschen und vorzüglicher Hochachtung</translation>
         <translation>Nachricht</translation>
     </message>
     <message>
-        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <source>More text, which cannot be shown here, is sent along below yours.</source>
         <extracomment>Note below the text that the user writes in a mail.</extracomment>
-        <translation>Weiterer Text, der zu lang ist, um hier angezeigt zu werden, wird unter Ihrem mitgesendet.</translation>
+        <translation>Weiterer Text, der hier nicht angezeigt werden kann, wird unter Ihrem mitgesendet.</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>

@@ -298,9 +298,9 @@ Best regards.</translation>
         <translation>Message</translation>
     </message>
     <message>
-        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <source>More text, which cannot be shown here, is sent along below yours.</source>
         <extracomment>Note below the text that the user writes in a mail.</extracomment>
-        <translation>More text, which is too long to be shown here, is sent along below yours.</translation>
+        <translation>More text, which cannot be shown here, is sent along below yours.</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>

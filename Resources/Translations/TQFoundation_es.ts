@@ -298,9 +298,9 @@ Reciba mis más respetuosos saludos y mis mejores deseos.</translation>
         <translation>Mensaje</translation>
     </message>
     <message>
-        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <source>More text, which cannot be shown here, is sent along below yours.</source>
         <extracomment>Note below the text that the user writes in a mail.</extracomment>
-        <translation>El resto del texto, demasiado largo para mostrarlo aquí, se envía debajo del suyo.</translation>
+        <translation>El resto del texto, que no se puede mostrar aquí, se envía debajo del suyo.</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>

@@ -298,9 +298,9 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
         <translation>Message</translation>
     </message>
     <message>
-        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <source>More text, which cannot be shown here, is sent along below yours.</source>
         <extracomment>Note below the text that the user writes in a mail.</extracomment>
-        <translation>La suite du texte, trop longue pour être affichée ici, est envoyée en dessous du vôtre.</translation>
+        <translation>La suite du texte, qui ne peut pas être affichée ici, est envoyée en dessous du vôtre.</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>

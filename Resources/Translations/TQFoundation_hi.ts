@@ -298,9 +298,9 @@ Best regards.</source>
         <translation>संदेश</translation>
     </message>
     <message>
-        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <source>More text, which cannot be shown here, is sent along below yours.</source>
         <extracomment>Note below the text that the user writes in a mail.</extracomment>
-        <translation>बाकी टेक्स्ट, जो यहाँ दिखाने के लिए बहुत लंबा है, आपके टेक्स्ट के नीचे भेजा जाएगा।</translation>
+        <translation>बाकी टेक्स्ट, जिसे यहाँ दिखाया नहीं जा सकता, आपके टेक्स्ट के नीचे भेजा जाएगा।</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>

@@ -298,9 +298,9 @@ Voglia gradire, con i migliori auguri, i miei più distinti saluti.</translation
         <translation>Messaggio</translation>
     </message>
     <message>
-        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <source>More text, which cannot be shown here, is sent along below yours.</source>
         <extracomment>Note below the text that the user writes in a mail.</extracomment>
-        <translation>Altro testo, troppo lungo per essere mostrato qui, viene inviato sotto il tuo.</translation>
+        <translation>Altro testo, che non può essere mostrato qui, viene inviato sotto il tuo.</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>

@@ -298,9 +298,9 @@ Best regards.</source>
         <translation>メッセージ</translation>
     </message>
     <message>
-        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <source>More text, which cannot be shown here, is sent along below yours.</source>
         <extracomment>Note below the text that the user writes in a mail.</extracomment>
-        <translation>長すぎてここに表示できない続きのテキストは、あなたの文章の下に付けて送信されます。</translation>
+        <translation>ここに表示できない続きのテキストは、あなたの文章の下に付けて送信されます。</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>

@@ -298,9 +298,9 @@ Best regards.</source>
         <translation>메시지</translation>
     </message>
     <message>
-        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <source>More text, which cannot be shown here, is sent along below yours.</source>
         <extracomment>Note below the text that the user writes in a mail.</extracomment>
-        <translation>너무 길어 여기에 표시할 수 없는 나머지 텍스트는 작성한 내용 아래에 함께 전송됩니다.</translation>
+        <translation>여기에 표시할 수 없는 나머지 텍스트는 작성한 내용 아래에 함께 전송됩니다.</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>

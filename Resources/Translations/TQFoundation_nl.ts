@@ -298,9 +298,9 @@ Met de meeste hoogachting en mijn beste wensen</translation>
         <translation>Bericht</translation>
     </message>
     <message>
-        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <source>More text, which cannot be shown here, is sent along below yours.</source>
         <extracomment>Note below the text that the user writes in a mail.</extracomment>
-        <translation>Meer tekst, die te lang is om hier te tonen, wordt onder die van jou meegestuurd.</translation>
+        <translation>Meer tekst, die hier niet kan worden getoond, wordt onder die van jou meegestuurd.</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>

@@ -298,9 +298,9 @@ Receba meus sinceros votos de estima e consideração.</translation>
         <translation>Mensagem</translation>
     </message>
     <message>
-        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <source>More text, which cannot be shown here, is sent along below yours.</source>
         <extracomment>Note below the text that the user writes in a mail.</extracomment>
-        <translation>O restante do texto, longo demais para ser mostrado aqui, é enviado abaixo do seu.</translation>
+        <translation>O restante do texto, que não pode ser mostrado aqui, é enviado abaixo do seu.</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>

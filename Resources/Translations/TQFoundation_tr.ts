@@ -298,9 +298,9 @@ Saygılarımı sunar, esenlikler dilerim.</translation>
         <translation>İleti</translation>
     </message>
     <message>
-        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <source>More text, which cannot be shown here, is sent along below yours.</source>
         <extracomment>Note below the text that the user writes in a mail.</extracomment>
-        <translation>Burada gösterilemeyecek kadar uzun olan kalan metin, sizinkinin altında gönderilir.</translation>
+        <translation>Burada gösterilemeyen kalan metin, sizinkinin altında gönderilir.</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>

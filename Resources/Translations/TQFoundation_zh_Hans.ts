@@ -298,9 +298,9 @@ Best regards.</source>
         <translation>邮件正文</translation>
     </message>
     <message>
-        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <source>More text, which cannot be shown here, is sent along below yours.</source>
         <extracomment>Note below the text that the user writes in a mail.</extracomment>
-        <translation>其余文字过长，无法在此显示，将附在您所写的内容下面一并发送。</translation>
+        <translation>其余文字无法在此显示，将附在您所写的内容下面一并发送。</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>

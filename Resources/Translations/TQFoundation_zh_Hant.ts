@@ -298,9 +298,9 @@ Best regards.</source>
         <translation>郵件內文</translation>
     </message>
     <message>
-        <source>More text, which is too long to be shown here, is sent along below yours.</source>
+        <source>More text, which cannot be shown here, is sent along below yours.</source>
         <extracomment>Note below the text that the user writes in a mail.</extracomment>
-        <translation>其餘文字過長，無法在此顯示，將附在您所寫的內容下方一併傳送。</translation>
+        <translation>其餘文字無法在此顯示，將附在您所寫的內容下方一併傳送。</translation>
     </message>
     <message>
         <source>Discard this message? What you have written will be lost.</source>

@@ -85,7 +85,7 @@ void MailDraft::setSubject(const QString &subject)
     Q_EMIT subjectChanged();
 }
 
-bool MailDraft::isTooLarge() const
+bool MailDraft::isHidden() const
 {
     return !isCheapToLayOut(html.toStdU16String());
 }
@@ -93,7 +93,7 @@ bool MailDraft::isTooLarge() const
 void MailDraft::load(QQuickTextDocument *editor)
 {
     OfflineDocument message;
-    if (!isTooLarge())
+    if (!isHidden())
         message.setHtml(html);
     m_hasColors = hasOwnColors(message);
     changeFormats(message, [](QTextCharFormat &format) {
@@ -190,7 +190,7 @@ QString MailDraft::editedHtml() const
         format.clearProperty(originalImageName);
         return true;
     });
-    return isTooLarge() ? QString(copy->toHtml() + html) : copy->toHtml();
+    return isHidden() ? QString(copy->toHtml() + html) : copy->toHtml();
 }
 
 void MailDraft::endSending()

@@ -22,7 +22,7 @@ class MailDraft : public QObject
     Q_PROPERTY(QString recipient READ recipient CONSTANT FINAL)
     Q_PROPERTY(QString subject READ subject WRITE setSubject NOTIFY subjectChanged FINAL)
     Q_PROPERTY(bool hasColors READ hasColors NOTIFY loaded FINAL)
-    Q_PROPERTY(bool isTooLarge READ isTooLarge CONSTANT FINAL)
+    Q_PROPERTY(bool isHidden READ isHidden CONSTANT FINAL)
     Q_PROPERTY(bool isSending READ isSending NOTIFY stateChanged FINAL)
     Q_PROPERTY(QString problem READ problem NOTIFY stateChanged FINAL)
     Q_PROPERTY(QString problemDetail READ problemDetail NOTIFY stateChanged FINAL)
@@ -57,7 +57,7 @@ public:
 
     /// Whether laying out the message would block the GUI thread too long, by isCheapToLayOut(). Then it is not shown,
     /// and the text that the user writes is sent before it.
-    bool isTooLarge() const;
+    bool isHidden() const;
 
     bool isSending() const { return m_state == State::sending; }
 

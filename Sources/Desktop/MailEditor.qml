@@ -58,8 +58,8 @@ Rectangle {
             x: root.sheet.gap
             y: message.topPadding + message.contentHeight + root.sheet.gap
             width: parent.width - 2 * root.sheet.gap
-            visible: root.page.isTooLarge
-            text: SheetText.of(SheetText.BodyTooLarge)
+            visible: root.page.isHidden
+            text: SheetText.of(SheetText.BodyHidden)
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
             horizontalAlignment: Text.AlignLeft

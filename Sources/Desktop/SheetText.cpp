@@ -34,9 +34,9 @@ constexpr std::array texts{
     //: Name of the field for the text of a mail, for screen readers.
     Text{SheetText::Message, QT_TRANSLATE_NOOP("TQFoundationInterface", "Message")},
     //: Note below the text that the user writes in a mail.
-    Text{SheetText::BodyTooLarge,
+    Text{SheetText::BodyHidden,
          QT_TRANSLATE_NOOP("TQFoundationInterface",
-                           "More text, which is too long to be shown here, is sent along below yours.")},
+                           "More text, which cannot be shown here, is sent along below yours.")},
     //: Asked before the sheet is closed; answered by "Discard" or "Keep Writing".
     Text{SheetText::DiscardQuestion,
          QT_TRANSLATE_NOOP("TQFoundationInterface", "Discard this message? What you have written will be lost.")},

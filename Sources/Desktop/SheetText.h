@@ -28,7 +28,7 @@ public:
         To,
         Subject,
         Message,
-        BodyTooLarge,
+        BodyHidden,
         DiscardQuestion,
         Discard,
         KeepWriting,

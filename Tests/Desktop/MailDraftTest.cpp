@@ -282,7 +282,7 @@ TEST_F(MailDraft, SendsExpensiveMessageUnshownAndUnchanged)
     makeKeepingProgram();
     const QString html = QStringLiteral("<table><tr>") + QStringLiteral("<td colspan=20480>x").repeated(50);
     compose(html);
-    EXPECT_TRUE(text("More text, which is too long to be shown here, is sent along below yours."));
+    EXPECT_TRUE(text("More text, which cannot be shown here, is sent along below yours."));
     EXPECT_EQ(document()->toPlainText(), QString());
     ASSERT_TRUE(sendAndWait());
     EXPECT_EQ(sentHtml(), html);
@@ -292,7 +292,7 @@ TEST_F(MailDraft, ShowsLongPlainMessage)
 {
     const QString sentence = QStringLiteral("All that is plain is shown. ");
     compose(u"<p>" + sentence.repeated(2000) + u"</p>");
-    EXPECT_FALSE(text("More text, which is too long to be shown here, is sent along below yours."));
+    EXPECT_FALSE(text("More text, which cannot be shown here, is sent along below yours."));
     EXPECT_EQ(document()->toPlainText().size(), sentence.size() * 2000);
 }
 

@@ -3,7 +3,7 @@
 //
 // LINE is a file with the path data of the line. `ours` writes it and the others read it, so that all draw the same
 // line. LOTTIE is the same line as a Lottie animation. `ours-20` shows twenty backgrounds. `ticks` prints the cost of
-// replacing a line by the next.
+// replacing a line by the next. `host` draws all the time, `host-1` does so beside one background.
 
 #include "Line.h"
 #include "ShapeLayer.h"
@@ -313,7 +313,8 @@ int main(int argc, char *argv[])
 
     const bool isOurs = alternative.startsWith(u"ours") || alternative == u"ticks";
     const bool isStill = alternative == u"idle" || alternative == u"empty" || alternative == u"rectangle";
-    const std::optional<Line> line = isOurs || isStill ? std::nullopt : std::optional<Line>(file);
+    const bool isHost = alternative.startsWith(u"host");
+    const std::optional<Line> line = isOurs || isStill || isHost ? std::nullopt : std::optional<Line>(file);
     if (alternative == u"raster")
         return measureRaster(*line, seconds);
 
@@ -322,6 +323,14 @@ int main(int argc, char *argv[])
     view.resize(phone);
     view.setResizeMode(QQuickView::SizeRootObjectToView);
     setProperties(view, alternative, line ? &*line : nullptr, arguments.value(4));
+    if (isHost) {
+        QObject::connect(
+            &view, &QQuickWindow::frameSwapped, &view, [] { ++frames; }, Qt::DirectConnection);
+        QObject::connect(&view, &QQuickWindow::frameSwapped, &view, &QQuickWindow::update, Qt::QueuedConnection);
+        showFile(view, QStringLiteral("host"));
+        measure(alternative, seconds, frames);
+        return QGuiApplication::exec();
+    }
     paceFrames(view, isStill && alternative != u"idle", frames);
     if (isOurs)
         return measureBackground(view, alternative, seconds, file, frames);

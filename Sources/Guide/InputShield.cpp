@@ -227,7 +227,7 @@ void InputShield::detach()
 bool InputShield::event(QEvent *event)
 {
     if (event->type() == QEvent::DragEnter)
-        static_cast<QDragEnterEvent *>(event)->setDropAction(Qt::IgnoreAction);
+        static_cast<QDropEvent *>(event)->setDropAction(Qt::IgnoreAction);
     else if (!event->isPointerEvent())
         return QQuickItem::event(event);
     event->accept();

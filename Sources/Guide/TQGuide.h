@@ -37,7 +37,8 @@ public:
     /// Whether the guide has not been finished in this installation: TQGuideView::shouldShowGuide().
     Q_INVOKABLE bool shouldShowGuide() const { return TQGuideView::shouldShowGuide(); }
 
-    /// Makes an overlay and shows it. \a inWindow and \a orInView are the fallbacks of TQGuideView::showGuide().
+    /// Makes an overlay and shows it in the key window. \a inWindow, and then \a orInView, are used only if the key
+    /// window is missing or not one of Qt Quick.
     Q_INVOKABLE void showGuide(QQuickWindow *inWindow = nullptr, QQuickItem *orInView = nullptr);
 
 Q_SIGNALS:

@@ -72,7 +72,8 @@ with tempfile.TemporaryDirectory() as name:
         keeps_running(folder / "pkg-config" / host.name)
     elif host.name == "HostTests":
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
-        run(binary / host.name, env=environment)
+        for country in ("USA", "CHN"):
+            run(binary / host.name, country, env=environment)
     else:
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
         keeps_running(binary / host.name)

@@ -39,7 +39,7 @@ def run(*command):
 
 with tempfile.TemporaryDirectory() as name:
     copy, build = pathlib.Path(name) / "library", pathlib.Path(name) / "build"
-    for folder in ("Resources", "Sources", "cmake"):
+    for folder in ("Resources", "Sources", "Tests/Support", "cmake"):
         shutil.copytree(source / folder, copy / folder)
     shutil.copy(source / "CMakeLists.txt", copy)
 

@@ -244,7 +244,7 @@ bool InputShield::eventFilter(QObject *, QEvent *event)
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
-        return filterPointer(static_cast<QPointerEvent &>(*event));
+        return filterPointer(event);
     case QEvent::TouchCancel:
         cancelPress();
         return false;
@@ -282,8 +282,9 @@ bool InputShield::filterKey(QKeyEvent &event)
     return true;
 }
 
-bool InputShield::filterPointer(QPointerEvent &event)
+bool InputShield::filterPointer(QEvent *pointerEvent)
 {
+    auto &event = static_cast<QPointerEvent &>(*pointerEvent);
     if (event.pointingDevice() == itemOnlyDevice() || !isPressedInside(*this, event)
         || (m_cover && isPressedInside(*m_cover, event)))
         return false;

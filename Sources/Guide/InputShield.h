@@ -49,7 +49,7 @@ private:
     void takeFocus();
     void restoreFocus(const QQuickWindow &window);
     bool filterKey(QKeyEvent &event);
-    bool filterPointer(QPointerEvent &event);
+    bool filterPointer(QEvent *pointerEvent);
     void redirectMouse(QMouseEvent &event);
     void redirectTouch(QTouchEvent &event);
     void cancelPress();

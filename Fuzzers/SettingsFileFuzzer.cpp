@@ -123,7 +123,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         return -1;
     QVariantMap values = File(content).read();
     QVariantMap changed = File(settingsFileWith(content, flagKey, true)).read();
-    require(content.contains('\0') || values.contains(flag) || changed.value(flag) == QStringLiteral("true"));
+    const bool isText = !content.contains('\0') && !content.startsWith("\xEF\xBB\xBF\xEF\xBB\xBF");
+    require(!isText || values.contains(flag) || changed.value(flag) == QStringLiteral("true"));
     values.remove(flag);
     changed.remove(flag);
     require(areSame(values, changed));

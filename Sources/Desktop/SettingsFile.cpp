@@ -26,11 +26,12 @@ bool isContinued(QByteArrayView line)
 
 QByteArray settingsFileWith(const QByteArray &content, const QByteArray &key, bool value)
 {
-    if (content.contains('\0'))
-        return content;
     const QByteArray prefix = key + '=';
     const QByteArray entry = prefix + (value ? "true" : "false");
     const qsizetype begin = content.startsWith(byteOrderMark) ? byteOrderMark.size() : 0;
+    // The first name may begin with another byte order mark, which QSettings would drop in any other line.
+    if (content.contains('\0') || content.sliced(begin).startsWith(byteOrderMark))
+        return content;
     QByteArrayView old; // the last line of the key, which counts
     bool isInGroup = false;
     for (QByteArrayView rest = QByteArrayView(content).sliced(begin); !rest.isEmpty();) {

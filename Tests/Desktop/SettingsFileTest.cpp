@@ -63,6 +63,8 @@ TEST(SettingsFile, KeepsWhatIsNotText)
                              "a\0=\0",
                              6);
     EXPECT_EQ(withFlag(content), content);
+    const QByteArray twoMarks = "\xEF\xBB\xBF\xEF\xBB\xBF=";
+    EXPECT_EQ(withFlag(twoMarks), twoMarks) << "a key that QSettings would not find in another line";
 }
 
 TEST(SettingsFile, TakesLessThanFiveMilliseconds)

@@ -2,6 +2,7 @@
 
 #include "LayerNode.h"
 #include "StrokeMaterial.h"
+#include "StrokeMesh.h"
 
 #include <QtQuick/qsggeometry.h>
 
@@ -9,7 +10,8 @@
 
 namespace TQFoundation {
 
-/// Draws a layer on the GPU: the mesh is uploaded once per stroke, and each frame updates two uniforms.
+/// Draws a layer on the GPU. Each frame updates two uniforms. The mesh is uploaded in stretches, shortly before the pen
+/// reaches them, because triangles that show nothing yet cost as much to draw as others.
 class MeshLayerNode final : public LayerNode
 {
 public:
@@ -27,9 +29,13 @@ private:
     public:
         TrianglesNode(StrokeMaterial::Kind kind, const QSGGeometry::AttributeSet &attributes);
 
-        /// Replaces the triangles; indices have 16 bits if that suffices.
+        /// Replaces the triangles by those that begin before an arc length of \a length; indices have 16 bits if that
+        /// suffices.
         template <typename Vertex>
-        void setTriangles(const std::vector<Vertex> &vertices, const std::vector<std::uint32_t> &indices);
+        void setTriangles(const std::vector<Vertex> &vertices, const std::vector<std::uint32_t> &indices,
+                          double length);
+
+        bool isEmpty() const { return m_geometry->indexCount() == 0; }
 
         StrokeMaterial material;
 
@@ -38,9 +44,12 @@ private:
         std::optional<QSGGeometry> m_geometry;
     };
 
+    void upload(double length);
     static const QSGGeometry::AttributeSet &bandAttributes();
     static const QSGGeometry::AttributeSet &squareAttributes();
 
+    StrokeMesh m_mesh;
+    double m_uploadedLength = 0; // arc length before which all triangles are uploaded
     TrianglesNode m_band{StrokeMaterial::Kind::band, bandAttributes()};
     TrianglesNode m_squares{StrokeMaterial::Kind::square, squareAttributes()};
 };

@@ -12,6 +12,8 @@ ApplicationWindow {
     property bool backgroundOnly: false
     property string screenName: "home"
 
+    signal appearanceChosen(isDark: bool)
+
     visible: true
     title: TQApp.name
     color: Theme.ground
@@ -86,5 +88,6 @@ ApplicationWindow {
         visible: false
         app: root.app
         onBackRequested: root.screenName = "home"
+        onAppearanceChosen: isDark => root.appearanceChosen(isDark)
     }
 }

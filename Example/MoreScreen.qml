@@ -11,6 +11,7 @@ FocusScope {
     readonly property color tint: app.tintColor.legibleOn(Theme.ground, Theme.dark)
 
     signal backRequested
+    signal appearanceChosen(isDark: bool)
 
     Keys.onEscapePressed: backRequested()
     Keys.onBackPressed: backRequested()
@@ -64,6 +65,54 @@ FocusScope {
             color: Theme.text
             Accessible.role: Accessible.Heading
             Accessible.name: text
+        }
+
+        AbstractButton {
+            id: appearance
+
+            anchors { right: parent.right; rightMargin: 4; verticalCenter: parent.verticalCenter }
+            width: 44
+            height: 44
+            checkable: true
+            checked: Theme.dark
+            focusPolicy: Qt.StrongFocus
+            Accessible.name: qsTr("Dark Appearance")
+            Accessible.onPressAction: appearance.clicked()
+            Keys.onReturnPressed: appearance.clicked()
+            Keys.onEnterPressed: appearance.clicked()
+            onClicked: root.appearanceChosen(!Theme.dark)
+
+            background: Rectangle {
+                radius: Theme.corner
+                color: appearance.down ? Theme.pressed : "transparent"
+                border { width: appearance.visualFocus ? 2 : 0; color: root.tint }
+            }
+
+            // A circle whose right half is filled.
+            contentItem: Item {
+                Rectangle {
+                    anchors.centerIn: parent
+                    width: 20
+                    height: 20
+                    radius: 10
+                    color: "transparent"
+                    border { width: 2; color: root.tint }
+
+                    Item {
+                        anchors { right: parent.right; top: parent.top; bottom: parent.bottom }
+                        width: 10
+                        clip: true
+
+                        Rectangle {
+                            x: -10
+                            width: 20
+                            height: 20
+                            radius: 10
+                            color: root.tint
+                        }
+                    }
+                }
+            }
         }
 
         Rectangle {

@@ -1,10 +1,11 @@
 pragma Singleton
 
 import QtQuick
+import TQFoundation
 
-// Colours and sizes of all screens. Dark if the palette has light text on a dark window.
+// Colours and sizes of all screens.
 QtObject {
-    readonly property bool dark: system.window.hslLightness < system.windowText.hslLightness
+    readonly property bool dark: TQAppearance.isDark
 
     readonly property color ground: dark ? "#000000" : "#f2f2f7"
     readonly property color card: dark ? "#1c1c1e" : "#ffffff"
@@ -20,6 +21,5 @@ QtObject {
     readonly property real corner: 12
     readonly property real widest: 620 // largest width of a column, in points
 
-    readonly property SystemPalette system: SystemPalette {}
     readonly property Text systemText: Text {}
 }

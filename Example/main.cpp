@@ -1,5 +1,6 @@
 // Grove, the example host app: is one app of the catalogue and shows that app's guide and More screen.
 
+#include "AppearanceSwitch.h"
 #include "GrovePlatform.h"
 #include "Options.h"
 #include "PicturePlatform.h"
@@ -13,12 +14,12 @@
 #include <QtGui/qfont.h>
 #include <QtGui/qfontinfo.h>
 #include <QtGui/qguiapplication.h>
-#include <QtGui/qpalette.h>
 #include <QtQml/qqmlapplicationengine.h>
 #include <QtQuick/qquickwindow.h>
 
 #include <memory>
 #include <span>
+#include <utility>
 
 using namespace TQFoundation;
 
@@ -64,28 +65,27 @@ void nameApplication(const Options &options)
     QGuiApplication::setDesktopFileName(QStringLiteral("example.tqstudio.grove"));
 }
 
-void install(const Options &options)
+// The platform lives as long as the process.
+GrovePlatform &install(const Options &options)
 {
+    std::unique_ptr<GrovePlatform> made;
     if (options.isPictureRun())
-        installPlatform(std::make_unique<PicturePlatform>(options));
+        made = std::make_unique<PicturePlatform>(options);
     else
-        installPlatform(std::make_unique<GrovePlatform>(options));
+        made = std::make_unique<GrovePlatform>(options);
+    GrovePlatform &installed = *made;
+    installPlatform(std::move(made));
     if (options.resetGuide)
-        platform().setUserDefault(QStringLiteral("KeyOfDidShowGuide"), false);
+        installed.setUserDefault(QStringLiteral("KeyOfDidShowGuide"), false);
+    return installed;
 }
 
-void applyAppearance(const Options &options)
+void applyTextSettings(const Options &options)
 {
     if (options.textSize != 100) {
         QFont font = QGuiApplication::font();
         font.setPointSizeF(QFontInfo(font).pointSizeF() * options.textSize / 100);
         QGuiApplication::setFont(font);
-    }
-    if (options.dark) {
-        QPalette palette;
-        palette.setColor(QPalette::Window, Qt::black);
-        palette.setColor(QPalette::WindowText, Qt::white);
-        QGuiApplication::setPalette(palette);
     }
     QGuiApplication::setLayoutDirection(QLocale().textDirection());
 }
@@ -143,8 +143,8 @@ int main(int argc, char *argv[])
         QTextStream(stdout) << "There is no display; pictures of the screens are written instead:\n";
     }
     nameApplication(options);
-    install(options);
-    applyAppearance(options);
+    AppearanceSwitch appearance(install(options));
+    applyTextSettings(options);
     QTranslator translator;
     loadTable(translator);
     QCoreApplication::installTranslator(&translator);
@@ -153,6 +153,7 @@ int main(int argc, char *argv[])
     QQuickWindow *const window = loadWindow(engine, options);
     if (!window)
         return 1;
+    QObject::connect(window, SIGNAL(appearanceChosen(bool)), &appearance, SLOT(setDark(bool)));
     if (options.isPictureRun())
         return Pictures::take(window, options) ? 0 : 1;
     if (options.hasStartSheet())

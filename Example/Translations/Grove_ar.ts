@@ -15,6 +15,10 @@
         <translation>رجوع</translation>
     </message>
     <message>
+        <source>Dark Appearance</source>
+        <translation>المظهر الداكن</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>المزيد</translation>
     </message>

@@ -15,6 +15,10 @@
         <translation>Zurück</translation>
     </message>
     <message>
+        <source>Dark Appearance</source>
+        <translation>Dunkle Darstellung</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>Mehr</translation>
     </message>

@@ -15,6 +15,10 @@
         <translation>Back</translation>
     </message>
     <message>
+        <source>Dark Appearance</source>
+        <translation>Dark Appearance</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>More</translation>
     </message>

@@ -15,6 +15,10 @@
         <translation>Atrás</translation>
     </message>
     <message>
+        <source>Dark Appearance</source>
+        <translation>Apariencia oscura</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>Más</translation>
     </message>

@@ -15,6 +15,10 @@
         <translation>Retour</translation>
     </message>
     <message>
+        <source>Dark Appearance</source>
+        <translation>Apparence sombre</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>Plus</translation>
     </message>

@@ -15,6 +15,10 @@
         <translation>वापस</translation>
     </message>
     <message>
+        <source>Dark Appearance</source>
+        <translation>डार्क थीम</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>अधिक</translation>
     </message>

@@ -15,6 +15,10 @@
         <translation>Indietro</translation>
     </message>
     <message>
+        <source>Dark Appearance</source>
+        <translation>Aspetto scuro</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>Altro</translation>
     </message>

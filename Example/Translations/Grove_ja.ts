@@ -15,6 +15,10 @@
         <translation>戻る</translation>
     </message>
     <message>
+        <source>Dark Appearance</source>
+        <translation>ダークモード</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>その他</translation>
     </message>

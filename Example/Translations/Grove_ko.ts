@@ -15,6 +15,10 @@
         <translation>뒤로</translation>
     </message>
     <message>
+        <source>Dark Appearance</source>
+        <translation>다크 모드</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>더보기</translation>
     </message>

@@ -15,6 +15,10 @@
         <translation>Terug</translation>
     </message>
     <message>
+        <source>Dark Appearance</source>
+        <translation>Donkere weergave</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>Meer</translation>
     </message>

@@ -15,6 +15,10 @@
         <translation>Voltar</translation>
     </message>
     <message>
+        <source>Dark Appearance</source>
+        <translation>Aparência escura</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>Mais</translation>
     </message>

@@ -15,6 +15,10 @@
         <translation>Назад</translation>
     </message>
     <message>
+        <source>Dark Appearance</source>
+        <translation>Тёмное оформление</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>Ещё</translation>
     </message>

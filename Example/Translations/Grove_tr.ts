@@ -15,6 +15,10 @@
         <translation>Geri</translation>
     </message>
     <message>
+        <source>Dark Appearance</source>
+        <translation>Koyu görünüm</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>Daha Fazla</translation>
     </message>

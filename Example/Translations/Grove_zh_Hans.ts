@@ -15,6 +15,10 @@
         <translation>返回</translation>
     </message>
     <message>
+        <source>Dark Appearance</source>
+        <translation>深色外观</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>更多</translation>
     </message>

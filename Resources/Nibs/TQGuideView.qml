@@ -7,7 +7,7 @@ import TQFoundation.Base
 TQGuideView {
     id: root
 
-    readonly property bool dark: system.dark
+    readonly property bool dark: TQAppearance.isDark
     readonly property color background: backgroundColor.resolved(dark)
     readonly property color foreground: backgroundColor.textColor(dark)
 

@@ -2,6 +2,7 @@
 
 #include "DriftPath.h"
 #include "LibraryEngine.h"
+#include "QmlAppearance.h"
 #include "ShapeLayer.h"
 #include "ShuffledDistribution.h"
 #include "TQFoundation/Environment.h"
@@ -10,7 +11,6 @@
 
 #include <QtCore/qpointer.h>
 #include <QtGui/qguiapplication.h>
-#include <QtGui/qpalette.h>
 #include <QtQml/qjsengine.h>
 
 #include <optional>
@@ -29,14 +29,6 @@ DriftScreen screen()
 ShuffledDistribution shuffled(const IntegerRange &range)
 {
     return {range.lowest, range.highest};
-}
-
-Appearance appearance()
-{
-    const QPalette palette = QGuiApplication::palette();
-    const float ground = palette.color(QPalette::Window).lightnessF();
-    const float text = palette.color(QPalette::WindowText).lightnessF();
-    return ground < text ? Appearance::dark : Appearance::light;
 }
 
 } // namespace
@@ -133,7 +125,7 @@ void AnimationView::updateTimer()
     ShapeLayer line;
     line.path = driftPath(m_stored->transitPoints, screen(), random);
     line.lineWidth = 2;
-    line.strokeColor = m_stored->color.resolved(appearance());
+    line.strokeColor = m_stored->color.resolved(QmlAppearance::current());
     line.strokeColor.alpha = 0.2F;
 
     using KeyPath = BasicAnimation::KeyPath;

@@ -118,6 +118,11 @@ double DesktopPlatform::screenScale() const
     return screen ? screen->devicePixelRatio() : 1;
 }
 
+std::optional<Appearance> DesktopPlatform::appearance() const
+{
+    return {};
+}
+
 std::optional<QString> DesktopPlatform::storefrontCountryCode() const
 {
     return std::nullopt;

@@ -23,6 +23,9 @@ public:
     QSizeF screenBounds() const override;
     double screenScale() const override;
 
+    /// Always empty: the application's palette follows the system, and a host can set it.
+    std::optional<Appearance> appearance() const override;
+
     /// Always empty: a desktop has no storefront.
     std::optional<QString> storefrontCountryCode() const override;
 

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import TQFoundation
 import TQFoundation.Base
 
 // Base of the library's own screens: a modal page that slides up from the bottom of the window. It fills a narrow window
@@ -10,7 +11,7 @@ T.Popup {
     property real widest: 640
     property real tallest: 760
 
-    readonly property bool dark: system.dark
+    readonly property bool dark: TQAppearance.isDark
     readonly property color ground: dark ? "#1c1c1e" : "#ffffff"
     readonly property color ink: dark ? "#ffffff" : "#000000"
     readonly property color quietInk: dark ? "#a1a1a8" : "#65656b"

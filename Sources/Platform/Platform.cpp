@@ -1,5 +1,7 @@
 #include "Platform.h"
 
+#include "AppearanceNotifier.h"
+
 #include <QtCore/qdebug.h>
 
 #include <utility>
@@ -28,6 +30,11 @@ Platform &platform()
 std::unique_ptr<Platform> installPlatform(std::unique_ptr<Platform> next)
 {
     return std::exchange(installed(), next ? std::move(next) : makeDefaultPlatform());
+}
+
+void appearanceChanged()
+{
+    Q_EMIT AppearanceNotifier::instance().changed();
 }
 
 QDebug operator<<(QDebug debug, const SceneWindow &window)

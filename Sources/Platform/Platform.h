@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TQFoundation/Color.h"
 #include "TQFoundation/tqfoundation_export.h"
 
 #include <QtCore/qlist.h>
@@ -93,6 +94,9 @@ public:
     /// Pixels per point of the main screen; 1 without one.
     virtual double screenScale() const = 0;
 
+    /// The app's appearance, or nothing if the application's palette decides. Call appearanceChanged() when it changes.
+    virtual std::optional<Appearance> appearance() const = 0;
+
     /// The ISO 3166-1 alpha-3 country code of the user's store account, or nothing if it is unknown. Any thread.
     virtual std::optional<QString> storefrontCountryCode() const = 0;
 
@@ -145,6 +149,10 @@ TQFOUNDATION_EXPORT Platform &platform();
 ///
 /// Call it on the GUI thread before the library is first used: values that were read before do not change.
 TQFOUNDATION_EXPORT std::unique_ptr<Platform> installPlatform(std::unique_ptr<Platform> next);
+
+/// Tells the library that platform().appearance() has changed. Guide and sheets follow at once, a background with its
+/// next line. GUI thread.
+TQFOUNDATION_EXPORT void appearanceChanged();
 
 /// Makes the platform that the library uses until another one is installed. Defined in Desktop, one of the two
 /// functions that are defined above the folder that declares them. Never null. Any thread.

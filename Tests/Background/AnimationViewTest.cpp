@@ -318,6 +318,11 @@ TEST_F(AnimationViewTest, ResolvesTheAppearanceAtEachTick)
     EXPECT_EQ(line(*view).strokeColor, (Rgba{1, 0, 0, 0.2F}));
     platform->advance(10);
     EXPECT_EQ(line(*view).strokeColor, (Rgba{0, 0, 1, 0.2F}));
+    platform->currentAppearance = Appearance::light;
+    appearanceChanged();
+    EXPECT_EQ(line(*view).strokeColor, (Rgba{0, 0, 1, 0.2F}));
+    platform->advance(10);
+    EXPECT_EQ(line(*view).strokeColor, (Rgba{1, 0, 0, 0.2F})) << "the platform outweighs the palette";
 }
 
 // One layer at a time.

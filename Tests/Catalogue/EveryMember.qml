@@ -19,7 +19,7 @@ Window {
     readonly property tqColor tint: app.tintColor
     readonly property color tintInLight: tint.light
     readonly property color tintInDark: tint.dark
-    readonly property color tintNow: tint.resolved(true)
+    readonly property color tintNow: tint.resolved(TQAppearance.isDark)
     readonly property color textOnTint: tint.textColor(true)
     readonly property color tintOnBlack: tint.legibleOn("black", true)
 
@@ -34,6 +34,7 @@ Window {
 
     function visit() {
         TQApp.openDeveloperPage();
+        TQAppearance.isDarkChanged();
         TQMore.openUrl(TQMore.privacyUrl, tint);
         TQMore.sendFeedbackEmail(tint, "");
         if (guide.shouldShowGuide())

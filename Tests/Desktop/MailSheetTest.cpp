@@ -73,6 +73,17 @@ TEST_F(MailSheet, EscapeAndBackKeysCancel)
     EXPECT_EQ(root->results, (QList{Result::cancelled, Result::cancelled}));
 }
 
+TEST_F(MailSheet, FollowsTheAppearanceOfThePlatform)
+{
+    compose();
+    for (const bool isDark : {true, false}) {
+        platform->currentAppearance = isDark ? Appearance::dark : Appearance::light;
+        appearanceChanged();
+        const QColor ink = text("New Message")->property("color").value<QColor>();
+        EXPECT_EQ(ink, QColor(isDark ? Qt::white : Qt::black));
+    }
+}
+
 TEST_F(MailSheet, ShowsColoredMessageOnWhite)
 {
     compose(QStringLiteral("<p style='color: #222'>dark</p>"));

@@ -10,6 +10,7 @@
 #include <QtQml/qqmlapplicationengine.h>
 #include <QtQuick/qquickitem.h>
 #include <QtQuick/qquickwindow.h>
+#include <QtTest/qsignalspy.h>
 #include <QtTest/qtest.h>
 
 #include <gtest/gtest.h>
@@ -121,6 +122,7 @@ TEST_F(Screens, TabReachesRowsInOrderAndScrollsToThem)
                                  "More Apps I Developed",
                                  "More Apps I Developed",
                                  "Back",
+                                 "Dark Appearance",
                                  "Privacy Policy"};
     for (const char *stop : stops) {
         press(Qt::Key_Tab);
@@ -128,6 +130,8 @@ TEST_F(Screens, TabReachesRowsInOrderAndScrollsToThem)
         EXPECT_TRUE(focused()->property("visualFocus").toBool() || focused()->inherits("QQuickFlickable"));
         EXPECT_TRUE(Layout::isInSight(focused())) << stop << " is scrolled out of view";
     }
+    press(Qt::Key_Backtab);
+    EXPECT_EQ(nameOf(focused()), "Dark Appearance");
     press(Qt::Key_Backtab);
     EXPECT_EQ(nameOf(focused()), "Back");
     press(Qt::Key_Return);
@@ -143,8 +147,8 @@ TEST_F(Screens, RowsActivateOnReturnAndSpace)
     press(Qt::Key_Return);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
         platform->calls.clear();
-        for (int row = 0; row < 8; ++row) {
-            if (!focused()->inherits("QQuickFlickable") && row != 7)
+        for (int row = 0; row < 9; ++row) {
+            if (!focused()->inherits("QQuickFlickable") && row < 7)
                 press(key);
             press(Qt::Key_Tab);
         }
@@ -152,6 +156,25 @@ TEST_F(Screens, RowsActivateOnReturnAndSpace)
         EXPECT_EQ(opened.size(), 5) << opened.join(u' ').toStdString();
         EXPECT_TRUE(platform->calls.contains(QStringLiteral("canSendMail()")));
     }
+}
+
+TEST_F(Screens, SwitchChoosesTheOtherAppearance)
+{
+    open(TQApp::larch);
+    QSignalSpy chosen(window, SIGNAL(appearanceChosen(bool)));
+    window->setProperty("screenName", QStringLiteral("more"));
+    platform->currentAppearance = Appearance::light;
+    appearanceChanged();
+    press(Qt::Key_Backtab);
+    ASSERT_EQ(nameOf(focused()), "Dark Appearance");
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
+        press(key);
+        const bool isDark = chosen.value(chosen.size() - 1).value(0).toBool();
+        EXPECT_EQ(isDark, key == Qt::Key_Space);
+        platform->currentAppearance = isDark ? Appearance::dark : Appearance::light;
+        appearanceChanged();
+    }
+    EXPECT_EQ(chosen.size(), 2);
 }
 
 TEST_F(Screens, ScreenReaderFindsAndPressesEveryPart)
@@ -169,6 +192,7 @@ TEST_F(Screens, ScreenReaderFindsAndPressesEveryPart)
  LayeredPane '' focused
   Button 'Back' focusable
   Heading 'More'
+  CheckBox 'Dark Appearance' focusable
   Button 'Privacy Policy' focusable focused
   Button 'Contact' focusable
   Button 'Rate on the App Store' focusable

@@ -99,6 +99,9 @@ TEST_F(GuideNib, FollowsAppearanceWhileShown)
     EXPECT_EQ(shownColor(guide->guideLabel()), (Rgba{1, 1, 1})) << "white on a black background";
     setAppearance(Appearance::dark);
     EXPECT_EQ(shownColor(guide->guideLabel()), (Rgba{0, 0, 0}));
+    platform->currentAppearance = Appearance::light;
+    appearanceChanged();
+    EXPECT_EQ(shownColor(guide->guideLabel()), (Rgba{1, 1, 1})) << "the platform outweighs the palette";
 }
 
 TEST_F(GuideNib, PaintsWholeOverlayWithOpacityOfItsColor)

@@ -72,6 +72,8 @@ public:
 
     QSizeF bounds{390, 844}; ///< Size of the main screen in points.
     double scale = 3; ///< Pixels per point.
+    /// Light or dark, empty if the palette decides. Call TQFoundation::appearanceChanged() after a change.
+    std::optional<Appearance> currentAppearance;
     std::optional<QString> storefront; ///< Country code of the store; empty if there is no store.
     QVariantMap infoDictionary; ///< Entries of the host's information dictionary.
     QVariantMap defaults; ///< Stored settings of the host, read and written.
@@ -88,7 +90,8 @@ public:
     std::weak_ptr<RecordingInAppBrowser> inAppBrowser; ///< The browser made last; expired once it is destroyed.
 
     /// The calls in their order, each as the function's name with its arguments in parentheses, such as
-    /// "setUserDefault(KeyOfDidShowGuide, true)". Calls of mediaTime() and resourceRoot() are not recorded.
+    /// "setUserDefault(KeyOfDidShowGuide, true)". Calls of appearance(), mediaTime() and resourceRoot() are not
+    /// recorded.
     mutable QStringList calls;
 
     /// The timers in the order in which they were made; expired once they are destroyed.
@@ -113,6 +116,7 @@ public:
 
     QSizeF screenBounds() const override;
     double screenScale() const override;
+    std::optional<Appearance> appearance() const override { return currentAppearance; }
     std::optional<QString> storefrontCountryCode() const override;
     QVariant infoDictionaryValue(const QString &key) const override;
     QVariant userDefault(const QString &key) const override;

@@ -2,10 +2,10 @@ import QtQuick
 import TQFoundation
 
 Rectangle {
-    color: TQApp.hazel.tintColor.light
+    color: TQApp.hazel.tintColor.resolved(TQAppearance.isDark)
 
     Text {
-        color: TQApp.hazel.tintColor.textColor(false)
+        color: TQApp.hazel.tintColor.textColor(TQAppearance.isDark)
         text: TQMore.privacyText
     }
 }

@@ -1,0 +1,11 @@
+#include "AppearanceNotifier.h"
+
+namespace TQFoundation {
+
+AppearanceNotifier &AppearanceNotifier::instance()
+{
+    static AppearanceNotifier notifier;
+    return notifier;
+}
+
+} // namespace TQFoundation

@@ -14,6 +14,11 @@ install(TARGETS TQFoundation EXPORT TQFoundationTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
+if(NOT BUILD_SHARED_LIBS)
+    get_target_property(objects TQFoundation TQ_OBJECTS)
+    install(TARGETS ${objects} EXPORT TQFoundationTargets
+        OBJECTS DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+endif()
 get_target_property(public_headers TQFoundation TQ_PUBLIC_HEADERS)
 install(FILES ${public_headers} ${header_folder}/tqfoundation_export.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/TQFoundation COMPONENT development)
@@ -35,22 +40,25 @@ install(FILES
     ${PROJECT_BINARY_DIR}/TQFoundationConfigVersion.cmake
     cmake/TQFoundationHostInfo.cmake
     DESTINATION ${TQFOUNDATION_INSTALL_CMAKEDIR} COMPONENT development)
-# Relative to the file's own folder, so that the prefix can be moved.
-cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
-    BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/pkgconfig OUTPUT_VARIABLE prefix_from_pkgconfig)
-configure_file(cmake/tqfoundation.pc.in ${PROJECT_BINARY_DIR}/tqfoundation.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/tqfoundation.pc
-    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+# A host of the static library links objects too, which pkg-config cannot find, and its QML module needs no plugin.
+if(BUILD_SHARED_LIBS)
+    # Relative to the file's own folder, so that the prefix can be moved.
+    cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
+        BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/pkgconfig OUTPUT_VARIABLE prefix_from_pkgconfig)
+    configure_file(cmake/tqfoundation.pc.in ${PROJECT_BINARY_DIR}/tqfoundation.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/tqfoundation.pc
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 
-# The plugin finds the library relative to its own folder; below /usr the dynamic linker finds it.
-cmake_path(RELATIVE_PATH CMAKE_INSTALL_LIBDIR BASE_DIRECTORY ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation
-    OUTPUT_VARIABLE library_from_plugin)
-if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
-    set_target_properties(TQFoundationplugin PROPERTIES INSTALL_RPATH "$ORIGIN/${library_from_plugin}")
+    # The plugin finds the library relative to its own folder; below /usr the dynamic linker finds it.
+    cmake_path(RELATIVE_PATH CMAKE_INSTALL_LIBDIR BASE_DIRECTORY ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation
+        OUTPUT_VARIABLE library_from_plugin)
+    if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+        set_target_properties(TQFoundationplugin PROPERTIES INSTALL_RPATH "$ORIGIN/${library_from_plugin}")
+    endif()
+    install(TARGETS TQFoundationplugin
+        LIBRARY DESTINATION ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation COMPONENT qml
+        RUNTIME DESTINATION ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation COMPONENT qml)
 endif()
-install(TARGETS TQFoundationplugin
-    LIBRARY DESTINATION ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation COMPONENT qml
-    RUNTIME DESTINATION ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation COMPONENT qml)
 install(DIRECTORY ${CMAKE_BINARY_DIR}/qml/TQFoundation/
     DESTINATION ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation COMPONENT qml
     FILES_MATCHING PATTERN "Base" EXCLUDE PATTERN "Desktop" EXCLUDE PATTERN "Nibs" EXCLUDE PATTERN "qmldir" PATTERN "*.qmltypes" PATTERN "*.qml")

@@ -53,6 +53,7 @@ with tempfile.TemporaryDirectory() as name:
     run("cmake", "--install", build, "--prefix", folder / "first", stdout=subprocess.DEVNULL)
     prefix = (folder / "first").rename(folder / "moved")
     binary = folder / "build"
+    is_shared = (prefix / "lib/pkgconfig").exists()
 
     if files := sorted(host.glob("*.qml")):
         lint = subprocess.run([tools / "qmllint", "-I", prefix / "lib/qml", *files], capture_output=True, text=True,
@@ -68,8 +69,9 @@ with tempfile.TemporaryDirectory() as name:
     elif host.name == "CppHost":
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
         keeps_running(binary / host.name)
-        compile_with_pkg_config(folder / "pkg-config", prefix)
-        keeps_running(folder / "pkg-config" / host.name)
+        if is_shared:
+            compile_with_pkg_config(folder / "pkg-config", prefix)
+            keeps_running(folder / "pkg-config" / host.name)
     elif host.name == "HostTests":
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
         for country in ("USA", "CHN"):
@@ -83,7 +85,7 @@ with tempfile.TemporaryDirectory() as name:
     elif host.name == "FirstApp":
         for step in ("Step1.qml", "Step2.qml", "Step3.qml"):
             keeps_running(tools / "qml", "-I", prefix / "lib/qml", host / step)
-    elif host.name == "SmallestHost":
+    elif host.name == "SmallestHost" and is_shared:
         # A copy for an app without a guide.
         copy = folder / "Main.qml"
         copy.write_text((host / "Main.qml").read_text().replace("TQApp.hazel", "TQApp.fir"))

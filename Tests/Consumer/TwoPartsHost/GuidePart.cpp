@@ -1,0 +1,6 @@
+#include <TQFoundation/TQGuideView.h>
+
+bool isGuideDue()
+{
+    return TQFoundation::TQGuideView::shouldShowGuide();
+}

@@ -1,0 +1,6 @@
+#include <TQFoundation/TQMore.h>
+
+QString versionRow()
+{
+    return TQFoundation::TQMore::versionText();
+}

@@ -4,6 +4,7 @@
 #include "RecordingPlatform.h"
 #include "StrokeReference.h"
 
+#include <QtGui/qopenglcontext.h>
 #include <QtGui/qscreen.h>
 #include <QtGui/qtransform.h>
 
@@ -32,6 +33,25 @@ Path moved(Path path, const QTransform &transform)
         move(curve.end);
     }
     return path;
+}
+
+// Without a driver Qt falls back to another interface, and the tests below would prove nothing of the one asked for.
+TEST(LayerPixels, AreDrawnByTheInterfaceAskedFor)
+{
+    CountedWindow window;
+    LayerItem item(window.contentItem());
+    window.grabWindow();
+    const QSGRendererInterface &renderer = *window.rendererInterface();
+    if (qEnvironmentVariable("QT_QUICK_BACKEND") == u"software") {
+        EXPECT_EQ(renderer.graphicsApi(), QSGRendererInterface::Software);
+    } else if (qEnvironmentVariable("QSG_RHI_BACKEND") == u"vulkan") {
+        EXPECT_EQ(renderer.graphicsApi(), QSGRendererInterface::Vulkan);
+    } else {
+        ASSERT_EQ(renderer.graphicsApi(), QSGRendererInterface::OpenGL);
+        const auto *context =
+            static_cast<QOpenGLContext *>(renderer.getResource(&window, QSGRendererInterface::OpenGLContextResource));
+        EXPECT_EQ(context->isOpenGLES(), qEnvironmentVariableIsSet("TQ_OPENGL_ES"));
+    }
 }
 
 // Runs for each scale, which CTest sets from outside, on each backend.

@@ -1,6 +1,7 @@
 #include <QtCore/qstandardpaths.h>
 #include <QtCore/qtemporarydir.h>
 #include <QtGui/qguiapplication.h>
+#include <QtGui/qsurfaceformat.h>
 
 #include <gtest/gtest.h>
 
@@ -29,6 +30,13 @@ int main(int argc, char *argv[])
         qputenv("QT_QUICK_BACKEND", "software");
     if (!qEnvironmentVariableIsSet("QSG_RENDER_LOOP"))
         qputenv("QSG_RENDER_LOOP", "basic");
+
+    if (qEnvironmentVariableIsSet("TQ_OPENGL_ES")) {
+        QSurfaceFormat format;
+        format.setRenderableType(QSurfaceFormat::OpenGLES);
+        format.setVersion(3, 0);
+        QSurfaceFormat::setDefaultFormat(format);
+    }
 
     QGuiApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("TQFoundation"));

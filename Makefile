@@ -116,8 +116,7 @@ packages:
 	tools/install-packages build packages
 	cmake --preset packages
 	cmake --build --preset packages
-	cpack --config build/packages/CPackConfig.cmake
-	lintian --fail-on error build/packages/packages/*.deb
+	python3 Tests/Project/packages_test.py build/packages
 
 pictures:
 	tools/install-packages build run pictures

@@ -11,8 +11,7 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://tqstudio.example")
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_ALL runtime development qml)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+set(CPACK_POST_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/debian/RemoveScripts.cmake)
 set(CPACK_STRIP_FILES ON)
 # Permissions of packaged folders, independent of the umask of the build.
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
@@ -24,8 +23,12 @@ set(version "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${library_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/cmake/debian/triggers)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS 
+# CPack would search the QML plugin, which no package links, for a version too.
+file(CONFIGURE OUTPUT debian/shlibs
+    CONTENT "libTQFoundation @PROJECT_VERSION_MAJOR@ @library_package@ (>= @PROJECT_VERSION@)\n" @ONLY)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA
+    ${PROJECT_SOURCE_DIR}/cmake/debian/triggers ${PROJECT_BINARY_DIR}/debian/shlibs)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS
     "qml6-module-qtqml, qml6-module-qtqml-workerscript, qml6-module-qtquick, qml6-module-qtquick-controls, qml6-module-qtquick-templates, qml6-module-qtquick-window")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "qml6-module-qtwebengine")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "default-mta | mail-transport-agent")
@@ -37,7 +40,7 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "${library_package} ${version}, qml6-module-tqfoundation ${version}, qt6-base-dev (>= 6.4), qt6-declarative-dev (>= 6.4)")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "For building such apps: headers, the packages for CMake and pkg-config,
-and a recording platform for the tests of apps.")
+a recording platform for the tests of apps, documents and example apps.")
 
 set(CPACK_DEBIAN_QML_PACKAGE_NAME qml6-module-tqfoundation)
 set(CPACK_DEBIAN_QML_PACKAGE_SECTION libs)
@@ -46,24 +49,41 @@ set(CPACK_DEBIAN_QML_PACKAGE_DEPENDS "${library_package} ${version}, libc6")
 set(CPACK_COMPONENT_QML_DESCRIPTION "The QML module for apps that are written in QML alone and started by the
 QML runtime.")
 
-# Changelog and copyright, which every Debian package has to contain.
-set(changelog ${PROJECT_BINARY_DIR}/debian/changelog.Debian.gz)
+# Changelogs and copyright, which every Debian package has to contain.
 string(TIMESTAMP date "%a, %d %b %Y 00:00:00 +0000" UTC)
 file(CONFIGURE OUTPUT debian/changelog CONTENT
 "tqfoundation (@PROJECT_VERSION@-@CPACK_DEBIAN_PACKAGE_RELEASE@) unstable; urgency=medium
 
-  * See CHANGELOG.md.
+  * See changelog.gz.
 
  -- @CPACK_PACKAGE_CONTACT@  @date@
 " @ONLY)
 find_program(GZIP gzip REQUIRED)
 execute_process(COMMAND ${GZIP} -9nc ${PROJECT_BINARY_DIR}/debian/changelog
-    OUTPUT_FILE ${changelog} COMMAND_ERROR_IS_FATAL ANY)
+    OUTPUT_FILE ${PROJECT_BINARY_DIR}/debian/changelog.Debian.gz COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND ${GZIP} -9nc ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+    OUTPUT_FILE ${PROJECT_BINARY_DIR}/debian/changelog.gz COMMAND_ERROR_IS_FATAL ANY)
 foreach(part IN ITEMS RUNTIME DEVELOPMENT QML)
     string(TOLOWER ${part} component)
-    set(documents ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${part}_PACKAGE_NAME})
-    install(FILES ${changelog} DESTINATION ${documents} COMPONENT ${component})
+    set(package ${CPACK_DEBIAN_${part}_PACKAGE_NAME})
+    set(documents ${CMAKE_INSTALL_DATADIR}/doc/${package})
+    install(FILES ${PROJECT_BINARY_DIR}/debian/changelog.Debian.gz ${PROJECT_BINARY_DIR}/debian/changelog.gz
+        DESTINATION ${documents} COMPONENT ${component})
     install(FILES LICENSE DESTINATION ${documents} RENAME copyright COMPONENT ${component})
+    file(WRITE ${PROJECT_BINARY_DIR}/debian/${package}
+        "# Not for Debian's own archive, where the first version of a package closes a request for it.\n"
+        "${package}: initial-upload-closes-no-bugs\n")
+    install(FILES ${PROJECT_BINARY_DIR}/debian/${package}
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides COMPONENT ${component})
+endforeach()
+
+# Documents, the sources of Grove, and small hosts, each of which is a project by itself.
+set(documents ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME})
+install(FILES README.md DESTINATION ${documents} COMPONENT development)
+install(DIRECTORY docs DESTINATION ${documents} COMPONENT development PATTERN Doxyfile EXCLUDE)
+install(DIRECTORY Example/ DESTINATION ${documents}/examples/Grove COMPONENT development)
+foreach(host IN ITEMS CppHost FirstApp HostTests MoreHost QmlOnlyHost SmallestHost WidgetsHost)
+    install(DIRECTORY Tests/Consumer/${host} DESTINATION ${documents}/examples COMPONENT development)
 endforeach()
 
 include(CPack)

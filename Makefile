@@ -1,6 +1,6 @@
 # Entry points for developers. Every target runs CMake with a preset of CMakePresets.json.
 .DEFAULT_GOAL := help
-.PHONY: help run test elsewhere sanitize fuzz storm soak coverage lint docs bench install packages pictures release-check format clean
+.PHONY: help run test elsewhere sanitize fuzz storm soak coverage lint docs bench install packages try-packages pictures release-check format clean
 
 PREFIX ?= /usr/local
 ARGS ?=
@@ -29,6 +29,7 @@ help:
 	@echo "make install    install to PREFIX=$(PREFIX)"
 	@echo "make packages   build Debian packages into build/packages/packages"
 	@echo "make release-check  check everything before a release; takes hours"
+	@echo "make try-packages  build packages on the Debian release SUITE, or on each; install, run and remove them elsewhere"
 	@echo "make pictures   update the pictures of the documentation"
 	@echo "make format     format all sources with clang-format"
 	@echo "make clean      remove the build folder"
@@ -49,6 +50,9 @@ test:
 
 elsewhere:
 	tools/elsewhere $(SUITE)
+
+try-packages:
+	tools/elsewhere --packages $(SUITE)
 
 sanitize:
 	tools/install-packages build run test sanitize

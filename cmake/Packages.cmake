@@ -82,7 +82,7 @@ set(documents ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NA
 install(FILES README.md DESTINATION ${documents} COMPONENT development)
 install(DIRECTORY docs DESTINATION ${documents} COMPONENT development PATTERN Doxyfile EXCLUDE)
 install(DIRECTORY Example/ DESTINATION ${documents}/examples/Grove COMPONENT development)
-foreach(host IN ITEMS CppHost FirstApp HostTests MoreHost QmlOnlyHost SmallestHost WidgetsHost)
+foreach(host IN ITEMS CppHost FirstApp HostTests MoreHost QmlOnlyHost SheetHost SmallestHost WidgetsHost)
     install(DIRECTORY Tests/Consumer/${host} DESTINATION ${documents}/examples COMPONENT development)
 endforeach()
 

@@ -14,6 +14,7 @@ WORKING = {"id": "echo 0", "df": "printf 'Avail\\n100\\n'", "git": "exit 0", "un
            "mmdebstrap": "exit 0"}
 CASES = {
     "unknown SUITE": (["sarge"], {}, "use bookworm or trixie"),
+    "unknown SUITE for packages": (["--packages", "sarge"], {}, "use bookworm or trixie"),
     "no root": (["trixie"], {"id": "echo 1000"}, "sudo"),
     "no mmdebstrap": (["trixie"], {"mmdebstrap": None}, "apt-get install"),
     "no space": (["trixie"], {"df": "printf 'Avail\\n1\\n'"}, "GiB"),

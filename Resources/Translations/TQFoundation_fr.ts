@@ -190,7 +190,7 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
     <message>
         <source>The connection to this site is not secure, so the page was not opened.</source>
         <extracomment>Stands in place of a web page whose certificate is not valid.</extracomment>
-        <translation>La connexion à ce site n’est pas sécurisée ; la page n’a donc pas été ouverte.</translation>
+        <translation>La connexion à ce site n’est pas sécurisée&#xa0;; la page n’a donc pas été ouverte.</translation>
     </message>
     <message>
         <source>This page has stopped working.</source>
@@ -255,7 +255,7 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
     <message>
         <source>There has been no answer for 30 seconds. Your message may already have been sent; if so, trying again sends it twice.</source>
         <extracomment>Why a mail was not sent. It must say that another attempt may send the mail twice.</extracomment>
-        <translation>Aucune réponse depuis 30 secondes. Votre message est peut-être déjà parti ; dans ce cas, un nouvel essai l’enverra une deuxième fois.</translation>
+        <translation>Aucune réponse depuis 30&#xa0;secondes. Votre message est peut-être déjà parti&#xa0;; dans ce cas, un nouvel essai l’enverra une deuxième fois.</translation>
     </message>
     <message>
         <source>New Message</source>
@@ -285,12 +285,12 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
     <message>
         <source>To:</source>
         <extracomment>Label before the recipient&apos;s address.</extracomment>
-        <translation>À :</translation>
+        <translation>À&#xa0;:</translation>
     </message>
     <message>
         <source>Subject:</source>
         <extracomment>Label before the subject of a mail.</extracomment>
-        <translation>Objet :</translation>
+        <translation>Objet&#xa0;:</translation>
     </message>
     <message>
         <source>Message</source>
@@ -305,7 +305,7 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
     <message>
         <source>Discard this message? What you have written will be lost.</source>
         <extracomment>Asked before the sheet is closed; answered by &quot;Discard&quot; or &quot;Keep Writing&quot;.</extracomment>
-        <translation>Supprimer ce message ? Ce que vous avez écrit sera perdu.</translation>
+        <translation>Supprimer ce message&#xa0;? Ce que vous avez écrit sera perdu.</translation>
     </message>
     <message>
         <source>Discard</source>
@@ -320,7 +320,7 @@ Veuillez agréer l’expression de mes sentiments les meilleurs.</translation>
     <message>
         <source>Stop sending this message? It may already have been sent.</source>
         <extracomment>Asked if the user cancels while the mail is being sent; answered by &quot;Stop Sending&quot; or &quot;Keep Sending&quot;.</extracomment>
-        <translation>Arrêter l’envoi de ce message ? Il est peut-être déjà parti.</translation>
+        <translation>Arrêter l’envoi de ce message&#xa0;? Il est peut-être déjà parti.</translation>
     </message>
     <message>
         <source>Stop Sending</source>

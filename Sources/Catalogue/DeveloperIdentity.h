@@ -7,10 +7,15 @@
 #include <span>
 #include <string_view>
 
-/// All identifiers of the developer and of the developer's apps, in one place where another developer replaces them.
-///
-/// Texts in QT_TRANSLATE_NOOP are also keys of the translation tables: change both together.
+/// All identifiers of the developer, of the developer's apps and of the store, in one place where another developer
+/// replaces them: after a change, tools/replace-developer replaces them in translation tables, tests and documents too.
 namespace TQFoundation::DeveloperIdentity {
+
+/// The name of the developer: organisation of the hosts, maintainer of the packages. Not used by the library.
+inline constexpr const char *name = "TQ Studio";
+
+/// The holder of the copyright, as in LICENSE. Not used by the library.
+inline constexpr const char *copyrightHolder = "The TQFoundation authors";
 
 /// The English pages of the developer's website. A translation table may replace them with pages in its language.
 //: A page of the website: the page in this language if the site has one, else the same address.
@@ -27,8 +32,21 @@ inline constexpr const char *supportAddress = "support@tqstudio.example";
 /// The page that lists the developer's social pages.
 inline constexpr const char *socialPage = "https://links.example/tqstudio";
 
+/// The name of the store.
+inline constexpr const char *storeName = "App Store";
+
+/// The title of the More screen's row that leads to the review form.
+//: Title of a row of the More screen.
+inline constexpr const char *reviewTitle = QT_TRANSLATE_NOOP("TQFoundation", "Rate on the App Store");
+
 /// The public web host of the store.
 inline constexpr const char *storeHost = "https://apps.apple.com";
+
+/// An app's page in the store: the host, this path and the app's store id.
+inline constexpr const char *storeAppPath = "/app/id";
+
+/// The query that turns the link of an app's page into that of its review form.
+inline constexpr const char *storeReviewQuery = "?action=write-review";
 
 /// The store page that lists all the developer's apps.
 inline constexpr const char *storePage = "https://apps.apple.com/developer/tq-studio/id9990000000";
@@ -113,5 +131,6 @@ static_assert(std::string_view(supportAddress).size() == 24);
 static_assert(std::string_view(filingPrefix).size() == 15);
 static_assert(std::string_view(filingSite).size() == 25);
 static_assert(std::string_view(storePage).starts_with(storeHost));
+static_assert(std::string_view(reviewTitle).find(storeName) != std::string_view::npos);
 
 } // namespace TQFoundation::DeveloperIdentity

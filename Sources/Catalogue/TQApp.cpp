@@ -101,12 +101,12 @@ QStringList TQApp::guideText() const
 
 QString TQApp::appLink() const
 {
-    return QLatin1String(DeveloperIdentity::storeHost) + u"/app/id" + id();
+    return QLatin1String(DeveloperIdentity::storeHost) + QLatin1String(DeveloperIdentity::storeAppPath) + id();
 }
 
 QString TQApp::reviewLink() const
 {
-    return appLink() + u"?action=write-review";
+    return appLink() + QLatin1String(DeveloperIdentity::storeReviewQuery);
 }
 
 QString TQApp::name()

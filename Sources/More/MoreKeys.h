@@ -2,15 +2,14 @@
 
 #include <QtCore/qglobal.h>
 
-/// The English texts of the More screen, which are also their translation keys.
+/// The English texts of the More screen, which are also their translation keys. Texts that name the developer or the
+/// store are in DeveloperIdentity.h.
 namespace TQFoundation::MoreKeys {
 
 //: Title of a row of the More screen.
 inline constexpr const char *privacy = QT_TRANSLATE_NOOP("TQFoundation", "Privacy Policy");
 //: Title of a row of the More screen that leads to writing to the developer.
 inline constexpr const char *feedback = QT_TRANSLATE_NOOP("TQFoundation", "Contact");
-//: Title of a row of the More screen.
-inline constexpr const char *review = QT_TRANSLATE_NOOP("TQFoundation", "Rate on the App Store");
 //: Title of a row of the More screen.
 inline constexpr const char *threads = QT_TRANSLATE_NOOP("TQFoundation", "Follow me on Social Media Platforms");
 //: Title of a row of the More screen.

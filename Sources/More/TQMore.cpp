@@ -77,7 +77,7 @@ QString TQMore::feedbackUrl()
 
 QString TQMore::reviewText()
 {
-    return localizedOnce<MoreKeys::review>();
+    return localizedOnce<DeveloperIdentity::reviewTitle>();
 }
 
 QString TQMore::threadsText()

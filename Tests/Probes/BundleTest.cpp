@@ -52,6 +52,15 @@ TEST(Bundle, TranslatesIntoTheUsersLanguage)
     EXPECT_EQ(localizedInLibrary(version), QStringLiteral("版本"));
 }
 
+TEST(Bundle, PrefersTheDefaultLocaleToTheSystemsLanguages)
+{
+    qputenv("LC_ALL", "fr_FR.UTF-8");
+    qputenv("LANGUAGE", "fr");
+    EXPECT_EQ(QLocale::system().uiLanguages().value(0).left(2), QStringLiteral("fr"));
+    useLanguage("zh-CN");
+    EXPECT_EQ(localizedInLibrary(version), QStringLiteral("版本"));
+}
+
 TEST(Bundle, ReturnsTextsWithoutEntryUnchanged)
 {
     useLanguage("zh-CN");

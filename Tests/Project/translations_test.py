@@ -9,6 +9,7 @@ import tempfile
 import xml.etree.ElementTree as ElementTree
 
 root, lupdate = pathlib.Path(sys.argv[1]), sys.argv[2]
+PAGES = {"zh_Hans", "zh_Hant"}
 failures = []
 
 
@@ -74,9 +75,8 @@ def check(tables, keys, languages):
             if language == "en" and text != key:
                 failures.append(f"{where} the English text has to equal the key")
             if key.startswith("https://"):
-                local = language.startswith("zh_")
-                if not text.startswith("https://tqstudio.example/") or (text != key) != local:
-                    failures.append(f"{where} the website has only Chinese and English pages")
+                if not text.startswith("https://tqstudio.example") or text != key and language not in PAGES:
+                    failures.append(f"{where} the website has no pages in this language")
             elif text.count("\n\n") != key.count("\n\n"):
                 failures.append(f"{where} differs in the number of paragraphs")
             # A full-width colon contains its blank.

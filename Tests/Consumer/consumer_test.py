@@ -64,7 +64,7 @@ with tempfile.TemporaryDirectory() as name:
     if host.name == "QmlOnlyHost":
         keeps_running(tools / "qml", "-I", prefix / "lib/qml", host / "Main.qml")
     elif host.name == "FetchedHost":
-        configure_and_build(binary, f"-DTQFOUNDATION_SOURCE_DIR={source}", "-DCMAKE_UNITY_BUILD=ON")
+        configure_and_build(binary, f"-DFETCHCONTENT_SOURCE_DIR_TQFOUNDATION={source}", "-DCMAKE_UNITY_BUILD=ON")
         keeps_running(binary / host.name)
     elif host.name == "CppHost":
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")

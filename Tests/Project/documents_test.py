@@ -114,6 +114,8 @@ if length > 60:
 
 # The sample Info.plist has the entries that tq_add_host_info() writes.
 adopt = (root / "docs/adopt-the-library.md").read_text(encoding="utf-8")
+if f"GIT_TAG v{version})" not in adopt:
+    failures.append(f"adopt-the-library.md: FetchContent does not get version {version}")
 sample = plistlib.loads(re.search(r"```xml\n(.*?)```", adopt, re.DOTALL)[1].encode())
 host_info = (root / "cmake/TQFoundationHostInfo.cmake").read_text(encoding="utf-8")
 compare("sample Info.plist", set(sample), set(re.findall(r"CFBundle\w+", host_info)))

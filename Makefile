@@ -1,6 +1,6 @@
 # Entry points for developers. Every target runs CMake with a preset of CMakePresets.json.
 .DEFAULT_GOAL := help
-.PHONY: help run test elsewhere sanitize fuzz storm soak coverage lint docs bench install packages try-packages pictures release-check format clean
+.PHONY: help run test elsewhere sanitize fuzz storm soak coverage lint docs bench install new-app packages try-packages pictures release-check format clean
 
 PREFIX ?= /usr/local
 ARGS ?=
@@ -27,6 +27,7 @@ help:
 	@echo "make docs       write the API reference to build/docs/html"
 	@echo "make bench      run the benchmarks, print tables and update docs/cost.md"
 	@echo "make install    install to PREFIX=$(PREFIX)"
+	@echo "make new-app    write an app that uses the library: NAME=\"Hazel Grid\" APP=hazel DIR=../hazel-grid"
 	@echo "make packages   build Debian packages into build/packages/packages"
 	@echo "make release-check  check everything before a release; takes hours"
 	@echo "make try-packages  build packages on the Debian release SUITE, or on each; install, run and remove them elsewhere"
@@ -50,6 +51,9 @@ test:
 
 elsewhere:
 	tools/elsewhere $(SUITE)
+
+new-app:
+	@tools/new-app "$$NAME" "$$APP" "$$DIR"
 
 try-packages:
 	tools/elsewhere --packages $(SUITE)

@@ -72,6 +72,13 @@ with tempfile.TemporaryDirectory() as name:
         if is_shared:
             compile_with_pkg_config(folder / "pkg-config", prefix)
             keeps_running(folder / "pkg-config" / host.name)
+    elif host.name == "NewApp":
+        # A name without a letter for a program's name.
+        host = folder / "app"
+        run(source / "tools/new-app", "「青岚」 & 1", "dogwood", host)
+        configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
+        run("ctest", "--test-dir", binary, "--output-on-failure")
+        keeps_running(binary / "Dogwood1")
     elif host.name == "SheetHost":
         (folder / "sendmail").write_text("#!/bin/sh\ncat >/dev/null\n")
         (folder / "sendmail").chmod(0o755)

@@ -28,8 +28,8 @@ void waitFor(const std::function<bool()> &condition, const char *what)
 
 } // namespace
 
-// Walks the guide to its end and opens the mail sheet, both drawn in a window of the desktop's platform. Needs a sendmail
-// program, and settings in which the guide was not shown yet.
+// Walks the guide to its end and opens the mail sheet, both drawn in a window of the desktop's platform. Needs a
+// sendmail program, and settings in which the guide was not shown yet.
 int main(int argc, char *argv[])
 {
     const QGuiApplication application(argc, argv);

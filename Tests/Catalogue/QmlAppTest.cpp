@@ -23,13 +23,11 @@ TEST(QmlApp, HasAPropertyForEveryCase)
 TEST(QmlApp, ListsAllCasesInOrder)
 {
     const InstalledRecordingPlatform platform;
-    EXPECT_EQ(qmlValue("int", "TQApp.allCases.length"), QVariant(10));
-    EXPECT_EQ(qmlValue("string", "TQApp.allCases[0].id + TQApp.allCases[9].id"),
-              QVariant(QStringLiteral("99900000019990000010")));
-    EXPECT_EQ(qmlValue("string", "TQApp.allCases.map(app => app.id).join()"),
-              qmlValue("string",
-                       "[TQApp.larch, TQApp.juniper, TQApp.hazel, TQApp.ginkgo, TQApp.fir, TQApp.elm, "
-                       "TQApp.dogwood, TQApp.cedar, TQApp.birch, TQApp.alder].map(app => app.id).join()"));
+    QStringList ids;
+    for (const TQApp app : TQApp::allCases())
+        ids += app.id();
+    EXPECT_EQ(qmlValue("string", "TQApp.allCases.map(app => app.id).join()"), QVariant(ids.join(u',')));
+    EXPECT_EQ(qmlValue("string", "TQApp.allCases[0].id"), qmlValue("string", "TQApp.larch.id"));
 }
 
 TEST(QmlApp, GivesCasesAllMembers)

@@ -16,6 +16,7 @@
 #include <array>
 #include <bit>
 #include <cstdint>
+#include <iterator>
 #include <unordered_set>
 
 namespace TQFoundation {
@@ -24,12 +25,15 @@ namespace {
 using Testing::InstalledRecordingPlatform;
 using Testing::useLanguage;
 
-TEST(TQApp, ListsTenCasesInOrder)
+// The number of apps.
+constexpr auto appCount = static_cast<int>(TQApp::allCases().size());
+
+TEST(TQApp, ListsCasesInOrder)
 {
     constexpr auto cases = TQApp::allCases();
-    static_assert(cases.size() == 10);
     const TQApp expected[] = {TQApp::larch, TQApp::juniper, TQApp::hazel, TQApp::ginkgo, TQApp::fir,
                               TQApp::elm,   TQApp::dogwood, TQApp::cedar, TQApp::birch,  TQApp::alder};
+    ASSERT_EQ(cases.size(), std::size(expected)) << "this test does not list all apps";
     for (std::size_t index = 0; index < cases.size(); ++index) {
         EXPECT_EQ(cases[index], expected[index]);
         EXPECT_EQ(static_cast<std::size_t>(TQApp::Case(cases[index])), index);
@@ -44,7 +48,7 @@ TEST(TQApp, HasDistinctIdsOfTenDigits)
         EXPECT_TRUE(tenDigits.match(app.id()).hasMatch()) << app.id().toStdString();
         ids.insert(app.id());
     }
-    EXPECT_EQ(ids.size(), 10);
+    EXPECT_EQ(ids.size(), appCount);
 }
 
 TEST(TQApp, HasDistinctFilingsExceptAlder)
@@ -53,14 +57,17 @@ TEST(TQApp, HasDistinctFilingsExceptAlder)
     platform->root = Testing::emptyBundle();
     static const QRegularExpression filing(QStringLiteral("\\AICP-[0-9]{10}-[0-9]{1,2}A\\z"));
     QSet<QString> filings;
+    int filed = 0;
+    EXPECT_FALSE(TQApp::alder.icp());
     for (const TQApp app : TQApp::allCases()) {
-        EXPECT_EQ(app.icp().has_value(), app != TQApp::alder);
         if (app.icp()) {
+            ++filed;
             EXPECT_TRUE(filing.match(*app.icp()).hasMatch()) << app.icp()->toStdString();
             filings.insert(*app.icp());
         }
     }
-    EXPECT_EQ(filings.size(), 9);
+    EXPECT_GE(filed, 9);
+    EXPECT_EQ(filings.size(), filed);
 }
 
 TEST(TQApp, TranslatesFilingsUpToTheirSuffix)
@@ -164,8 +171,8 @@ TEST(TQApp, ComparesAndHashesByCase)
         standard.insert(a);
         qt.insert(a);
     }
-    EXPECT_EQ(standard.size(), 10U);
-    EXPECT_EQ(qt.size(), 10);
+    EXPECT_EQ(static_cast<int>(standard.size()), appCount);
+    EXPECT_EQ(qt.size(), appCount);
 }
 
 TEST(TQApp, WorksInSwitch)
@@ -174,18 +181,9 @@ TEST(TQApp, WorksInSwitch)
         switch (app) {
         case TQApp::larch:
             return true;
-        case TQApp::juniper:
-        case TQApp::hazel:
-        case TQApp::ginkgo:
-        case TQApp::fir:
-        case TQApp::elm:
-        case TQApp::dogwood:
-        case TQApp::cedar:
-        case TQApp::birch:
-        case TQApp::alder:
-            break;
+        default:
+            return false;
         }
-        return false;
     };
     EXPECT_TRUE(isFirst(TQApp::larch));
     EXPECT_FALSE(isFirst(TQApp::alder));
@@ -296,7 +294,7 @@ TEST(TQAppArtwork, DiffersBetweenApps)
         EXPECT_EQ(qAlpha(icon.pixel(0, 0)), 0) << "the artwork brings its own rounded shape";
         EXPECT_EQ(qAlpha(icon.pixel(icon.width() / 2, 2)), 255);
     }
-    EXPECT_EQ(pictures.size(), 10);
+    EXPECT_EQ(pictures.size(), appCount);
 }
 
 TEST(TQAppArtwork, IsScaledByAveraging)

@@ -26,7 +26,7 @@ int main(int argc, char *argv[])
     const bool asked = TQApp::name() == QStringLiteral("Watched App") && TQApp::version() == QStringLiteral("9.8.7")
         && TQApp::buildNumber() == QStringLiteral("65") && TQGuideView::shouldShowGuide() && isChn()
         && screenWidth() > 0 && !TQMore::versionText().isEmpty() && !TQMore::privacyUrl().isEmpty()
-        && TQApp::allCases().size() == 10 && !TQApp::hazel.guideText().isEmpty();
+        && !TQApp::hazel.guideText().isEmpty();
     if (!asked)
         return 3;
     if (finishes)

@@ -18,7 +18,7 @@ class BrowserPage : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("An in-app browser makes it.")
+    QML_UNCREATABLE("Not for apps: an in-app browser makes it.")
     Q_PROPERTY(TQFoundation::Color tint MEMBER tint CONSTANT FINAL)
     Q_PROPERTY(QUrl url MEMBER url CONSTANT FINAL)
     Q_PROPERTY(TQFoundation::BrowserPage::Problem problem READ problem NOTIFY problemChanged FINAL)

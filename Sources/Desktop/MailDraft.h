@@ -17,7 +17,7 @@ class MailDraft : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("A mail composer makes it.")
+    QML_UNCREATABLE("Not for apps: a mail composer makes it.")
     Q_PROPERTY(TQFoundation::Color tint MEMBER tint CONSTANT FINAL)
     Q_PROPERTY(QString recipient READ recipient CONSTANT FINAL)
     Q_PROPERTY(QString subject READ subject WRITE setSubject NOTIFY subjectChanged FINAL)

@@ -155,6 +155,9 @@ def check_examples(examples):
 actual, (documented, examples) = types_of_the_module(), documented_types()
 # Other types are for the library's own QML files, as the page says.
 for_apps = {name for name in actual if name.startswith(("TQ", "tq"))} - {"TQGuideView"}
+internal = set(re.findall(r"`(\w+)`", re.search(r"^Editors offer more types.*?:(.*?)\.", page, re.MULTILINE)[1]))
+if internal != actual.keys() - for_apps:
+    failures.append(f"types that are not for apps: the page names {sorted(internal)}, not {sorted(actual.keys() - for_apps)}")
 for name in sorted(for_apps - documented.keys()):
     failures.append(f"{name} is not documented")
 for name in sorted(documented.keys() - actual.keys()):

@@ -81,7 +81,9 @@ TEST(TQApp, LinksToItsStorePageAndReviewForm)
 {
     EXPECT_EQ(TQApp::larch.appLink(), QStringLiteral("https://apps.apple.com/app/id9990000001"));
     for (const TQApp app : TQApp::allCases()) {
-        EXPECT_EQ(app.appLink(), QLatin1String(DeveloperIdentity::storeHost) + QStringLiteral("/app/id") + app.id());
+        EXPECT_EQ(app.appLink(),
+                  QLatin1String(DeveloperIdentity::storeHost) + QLatin1String(DeveloperIdentity::storeAppPath)
+                      + app.id());
         EXPECT_EQ(app.reviewLink(), QString(app.appLink() + QStringLiteral("?action=write-review")));
     }
 }

@@ -1,9 +1,12 @@
 #include "Sheet.h"
 
 #include "LibraryEngine.h"
+#include "SafeArea.h"
 #include "Topmost.h"
 #include "TQFoundation/Platform.h"
 
+#include <QtGui/qguiapplication.h>
+#include <QtGui/qinputmethod.h>
 #include <QtQml/qjsengine.h>
 #include <QtQuick/qquickitem.h>
 #include <QtQuick/qquickwindow.h>
@@ -49,6 +52,20 @@ bool Sheet::open(const QString &name, std::unique_ptr<QObject> page, QQuickWindo
     m_popup->setParent(applicationScope());
     QObject::connect(window, &QObject::destroyed, m_popup, &QObject::deleteLater);
     m_popup->setProperty("parent", QVariant::fromValue(window->contentItem()));
+    const auto updateSafeArea = [popup = m_popup.data(), window = QPointer(window)] {
+        if (!window)
+            return;
+        QRectF area = safeArea(*window);
+        const QRectF keyboard = QGuiApplication::inputMethod()->keyboardRectangle();
+        if (!keyboard.isEmpty())
+            area.setBottom(std::clamp(keyboard.top(), area.top(), area.bottom()));
+        popup->setProperty("safeArea", area);
+    };
+    updateSafeArea();
+    QObject::connect(QGuiApplication::inputMethod(), &QInputMethod::keyboardRectangleChanged, m_popup, updateSafeArea);
+    QObject::connect(window, &QWindow::widthChanged, m_popup, updateSafeArea);
+    QObject::connect(window, &QWindow::heightChanged, m_popup, updateSafeArea);
+    QObject::connect(window, &QQuickWindow::afterAnimating, m_popup, updateSafeArea);
     m_popup->setProperty("visible", true);
     raisePopupOverlay(window->contentItem());
     return true;

@@ -27,8 +27,11 @@ T.Popup {
     readonly property real corner: 14
     readonly property bool rightToLeft: system.rightToLeft
 
-    readonly property real hostWidth: parent ? parent.width : 0
-    readonly property real hostHeight: parent ? parent.height : 0
+    // Part of the window that bars, notches and the on-screen keyboard leave free.
+    property rect safeArea
+    readonly property real windowHeight: parent ? parent.height : 0
+    readonly property real hostWidth: safeArea.width
+    readonly property real hostHeight: safeArea.height
     readonly property bool narrow: hostWidth < 700
     // Slide animation: 0 is the final position, 1 the position below the window.
     property real slid: 0
@@ -36,9 +39,9 @@ T.Popup {
     readonly property SystemStyle system: SystemStyle {}
 
     width: narrow ? hostWidth : Math.min(widest, hostWidth - 80)
-    height: narrow ? hostHeight - Math.min(12, hostHeight / 40) : Math.min(tallest, hostHeight - 48)
-    x: Math.round((hostWidth - width) / 2)
-    y: Math.round((narrow ? hostHeight - height : (hostHeight - height) / 2) + slid * hostHeight)
+    height: narrow ? hostHeight - Math.round(Math.min(12, hostHeight / 40)) : Math.min(tallest, hostHeight - 48)
+    x: Math.round(safeArea.x + (hostWidth - width) / 2)
+    y: Math.round(safeArea.y + (narrow ? hostHeight - height : (hostHeight - height) / 2) + slid * windowHeight)
     padding: 0
     modal: true
     focus: true
@@ -63,8 +66,8 @@ T.Popup {
     background: Item {
         Rectangle {
             width: parent.width
-            // If the page reaches the bottom of the window, its lower corners are outside of it.
-            height: parent.height + (root.narrow ? radius : 0)
+            // If the page reaches the bottom of the safe area, its background reaches below the window.
+            height: parent.height + (root.narrow ? radius + root.windowHeight - root.safeArea.bottom : 0)
             radius: root.corner
             color: root.ground
             border { width: root.dark && !root.narrow ? 1 : 0; color: root.line }

@@ -5,13 +5,13 @@
 #include "LibraryEngine.h"
 #include "OpacityAnimation.h"
 #include "Precondition.h"
+#include "SafeArea.h"
 #include "Topmost.h"
 #include "TQFoundation/Bundle.h"
 #include "TQFoundation/Platform.h"
 
 #include <QtGui/qaccessible.h>
 #include <QtGui/qevent.h>
-#include <QtGui/qscreen.h>
 
 #include <limits>
 #include <utility>
@@ -33,13 +33,6 @@ QQuickItem *required(QQuickItem *outlet)
     precondition(outlet);
     return outlet;
 }
-
-// Flag of windows that extend below the bars and notches of the screen.
-#if QT_VERSION >= QT_VERSION_CHECK(6, 10, 0)
-constexpr Qt::WindowType extendsUnderBars = Qt::ExpandedClientAreaHint;
-#else
-constexpr Qt::WindowType extendsUnderBars = Qt::MaximizeUsingFullscreenGeometryHint;
-#endif
 
 } // namespace
 
@@ -295,13 +288,7 @@ void TQGuideView::updateShownArea()
             if (ancestor->clip())
                 shown &= mapRectFromItem(ancestor, ancestor->clipRect());
         }
-        // Only windows that ask for the whole screen extend below its bars and notches.
-        const bool usesWholeScreen =
-            m_window->flags().testFlag(extendsUnderBars) || m_window->visibility() == QWindow::FullScreen;
-        if (const QScreen *screen = m_window->screen(); screen && usesWholeScreen) {
-            const QRectF available = screen->availableGeometry();
-            shown &= QRectF(mapFromGlobal(available.topLeft()), mapFromGlobal(available.bottomRight()));
-        }
+        shown &= mapRectFromItem(content, safeArea(*m_window));
     }
     if (m_shownArea == shown)
         return;

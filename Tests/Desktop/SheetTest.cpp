@@ -1,7 +1,13 @@
+#include "Layout.h"
 #include "MailHost.h"
+
+#include <QtGui/qpa/qwindowsysteminterface.h>
+#include <QtGui/qscreen.h>
 
 namespace TQFoundation {
 namespace {
+
+using Testing::Layout;
 
 class Sheet : public Testing::MailHost
 {};
@@ -33,6 +39,29 @@ TEST_F(Sheet, KeepsFocusFromItemsBelow)
         ASSERT_TRUE(window->activeFocusItem());
         EXPECT_NE(window->activeFocusItem(), &host);
     }
+}
+
+TEST_F(Sheet, StaysClearOfSystemBars)
+{
+    QScreen *const screen = window->screen();
+    const QRect whole = screen->geometry();
+    const auto setBars = [&](const QMargins &bars) {
+        QWindowSystemInterface::handleScreenGeometryChange(screen, whole, whole.marginsRemoved(bars));
+        settle();
+        window->grabWindow();
+    };
+    window->showFullScreen();
+    compose();
+    const QQuickItem *const sheet = Layout::popupOf(message());
+    const QRectF usual = sheet->mapRectToScene(QRectF({}, sheet->size()));
+    EXPECT_EQ(usual.center(), QRectF(whole).center());
+    setBars({0, whole.height() / 2, 0, 20});
+    EXPECT_GE(button("Send")->mapToScene({}).y(), whole.height() / 2);
+    EXPECT_LE(sheet->mapToScene({0, sheet->height()}).y(), whole.height() - 20);
+    setBars({whole.width() / 2, 0, 0, 0});
+    EXPECT_GE(button("Cancel")->mapToScene({}).x(), whole.width() / 2);
+    setBars({});
+    EXPECT_EQ(sheet->mapRectToScene(QRectF({}, sheet->size())), usual);
 }
 
 TEST_F(Sheet, IsDestroyedWithItsWindow)

@@ -12,6 +12,7 @@
 #include <QtGui/qtextdocument.h>
 #include <QtGui/qtextdocumentfragment.h>
 #include <QtGui/qtextobject.h>
+#include <QtQuick/qquickitem.h>
 
 #include <algorithm>
 #include <utility>
@@ -106,6 +107,9 @@ void MailDraft::load(QQuickTextDocument *editor)
         return format.isImageFormat() || format.isAnchor();
     });
 
+    // Works around Qt: until it is pressed once, a text area keeps the grab of a touch that would scroll the page.
+    if (auto *area = qobject_cast<QQuickItem *>(editor->parent()))
+        area->setKeepMouseGrab(false);
     m_document = editor->textDocument();
     m_document->setUndoRedoEnabled(false);
     QImage blank(1, 1, QImage::Format_ARGB32_Premultiplied);

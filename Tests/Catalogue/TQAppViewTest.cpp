@@ -1,6 +1,7 @@
 #include "DeathTest.h"
 #include "QmlWindow.h"
 #include "RecordingPlatform.h"
+#include "TouchScreen.h"
 
 #include <TQFoundation/TQApp.h>
 
@@ -214,6 +215,14 @@ TEST_F(TQAppView, ScrollsOnDragWithoutOpening)
     for (int x = 170; x >= 60; x -= 10)
         QTest::mouseMove(&host.window, {x, 18}, 10);
     QTest::mouseRelease(&host.window, Qt::LeftButton, {}, {60, 18});
+    EXPECT_GT(scrolled(host), 0);
+    EXPECT_EQ(opened(), 0);
+}
+
+TEST_F(TQAppView, ScrollsOnATouchDragWithoutOpening)
+{
+    QmlWindow host(row(TQApp::hazel, "width: 320"));
+    Testing::TouchScreen().drag(&host.window, {300, 18}, {100, 18});
     EXPECT_GT(scrolled(host), 0);
     EXPECT_EQ(opened(), 0);
 }

@@ -3,6 +3,7 @@
 #include "RecordingPlatform.h"
 #include "Scenes.h"
 #include "ScreenReader.h"
+#include "TouchScreen.h"
 
 #include <TQFoundation/TQApp.h>
 
@@ -175,6 +176,27 @@ TEST_F(Screens, SwitchChoosesTheOtherAppearance)
         appearanceChanged();
     }
     EXPECT_EQ(chosen.size(), 2);
+}
+
+TEST_F(Screens, AreUsableByTouchAlone)
+{
+    const Testing::TouchScreen touch;
+    for (const int width : {320, 360, 430}) {
+        open(TQApp::larch, 18);
+        window->resize(width, 568);
+        touch.tap(focused());
+        ASSERT_EQ(screen(), "more");
+        window->grabWindow();
+        QQuickItem *const first = focused();
+        EXPECT_EQ(nameOf(first), "Privacy Policy");
+        platform->calls.clear();
+        touch.drag(window, {width / 2, 500}, {width / 2, 300});
+        EXPECT_LT(first->mapToScene({}).y(), 0) << "scrolled";
+        EXPECT_EQ(platform->calls, QStringList()) << "no row is pressed by scrolling";
+        touch.drag(window, {width / 2, 300}, {width / 2, 550});
+        touch.tap(first);
+        EXPECT_EQ(platform->calls.filter(QStringLiteral("openUrl(")).size(), 1);
+    }
 }
 
 TEST_F(Screens, ScreenReaderFindsAndPressesEveryPart)

@@ -1,6 +1,7 @@
 #include "DeathTest.h"
 #include "RecordingGuideView.h"
 
+#include <QtGui/qpa/qwindowsysteminterface.h>
 #include <QtQuick/qquickitem.h>
 
 #include <algorithm>
@@ -236,6 +237,37 @@ TEST_F(TQGuideViewSteps, IgnoresTapsDuringAnimations)
     clock.pass(100);
     click(guide->nextButton());
     EXPECT_EQ(platform->calls.count(QStringLiteral("softImpact()")), 2);
+    EXPECT_EQ(completed, 1);
+}
+
+TEST_F(TQGuideViewSteps, CompletesFadesAcrossSuspension)
+{
+    const auto suspend = [this] {
+        constexpr auto setState =
+            QWindowSystemInterface::handleApplicationStateChanged<QWindowSystemInterface::SynchronousDelivery>;
+        setState(Qt::ApplicationSuspended, false);
+        window.hide();
+        clock.jump(3'600'000);
+        window.show();
+        setState(Qt::ApplicationActive, false);
+    };
+    const auto guide = shown(paragraphs(2));
+    clock.pass(300);
+    suspend();
+    EXPECT_EQ(guide->opacity(), 1);
+    click(guide->nextButton());
+    clock.pass(200);
+    suspend();
+    EXPECT_EQ(textOf(*guide), QStringLiteral("Paragraph 1"));
+    clock.pass(200);
+    suspend();
+    EXPECT_EQ(guide->guideLabel()->opacity(), 1);
+    EXPECT_TRUE(guide->nextButton()->isEnabled());
+    EXPECT_EQ(completed, 0);
+    click(guide->nextButton());
+    clock.pass(300);
+    suspend();
+    EXPECT_EQ(guide->parentItem(), nullptr);
     EXPECT_EQ(completed, 1);
 }
 

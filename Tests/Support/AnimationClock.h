@@ -17,13 +17,18 @@ public:
     void pass(int milliseconds)
     {
         constexpr int step = 10;
+        for (int passed = 0; passed < milliseconds; passed += step)
+            jump(step);
+    }
+
+    /// Advances all animations by \a milliseconds at once, as after the process was suspended.
+    void jump(int milliseconds)
+    {
         settle();
-        for (int passed = 0; passed < milliseconds; passed += step) {
-            m_elapsed += step;
-            if (isRunning())
-                advanceAnimation();
-            settle();
-        }
+        m_elapsed += milliseconds;
+        if (isRunning())
+            advanceAnimation();
+        settle();
     }
 
     qint64 elapsed() const override { return m_elapsed; }

@@ -1,5 +1,6 @@
 #include "TQGuideView.h"
 
+#include "FocusAnnouncer.h"
 #include "InputShield.h"
 #include "KeyWindow.h"
 #include "LibraryEngine.h"
@@ -39,6 +40,7 @@ QQuickItem *required(QQuickItem *outlet)
 TQGuideView::TQGuideView(QQuickItem *parent) : QQuickItem(parent), m_shield(new InputShield(this))
 {
     setFlag(ItemIsFocusScope);
+    new FocusAnnouncer(this);
 }
 
 TQGuideView::~TQGuideView() = default;

@@ -2,6 +2,7 @@
 #include "Languages.h"
 #include "Layout.h"
 #include "ScreenReader.h"
+#include "TouchScreen.h"
 
 #include <TQFoundation/TQApp.h>
 
@@ -260,6 +261,37 @@ TEST_F(GuideNib, KeepsContentInsideResizedWindow)
     EXPECT_EQ(guide->size(), QSizeF(1000, 900));
 }
 
+TEST_F(GuideNib, KeepsParagraphAndLayoutInRotatedPhone)
+{
+    const Testing::TouchScreen screen;
+    const QStringList paragraphs = TQApp(TQApp::hazel).guideText();
+    const auto rotate = [this] {
+        window.resize(window.size().transposed());
+        QCoreApplication::processEvents();
+        window.grabWindow();
+    };
+    for (const QSize size : {QSize(320, 568), QSize(360, 800), QSize(390, 844), QSize(430, 932)}) {
+        platform->bounds = size;
+        window.resize(size);
+        const auto guide = shown(paragraphs);
+        clock.pass(600);
+        for (const QString &paragraph : paragraphs) {
+            EXPECT_EQ(textOf(*guide), paragraph);
+            EXPECT_EQ(Testing::Layout::flawsOf(guide.get()), QStringList()) << window.width();
+            rotate();
+            EXPECT_EQ(textOf(*guide), paragraph);
+            EXPECT_EQ(guide->shownArea().size(), QSizeF(window.size()));
+            EXPECT_EQ(Testing::Layout::flawsOf(guide.get()), QStringList()) << window.width();
+            screen.tap(guide->nextButton());
+            clock.pass(200);
+            rotate();
+            clock.pass(600);
+        }
+        EXPECT_EQ(guide->parentItem(), nullptr);
+    }
+    EXPECT_EQ(completed, 4);
+}
+
 TEST_F(GuideNib, FillsWindowLargerThanScreen)
 {
     platform->bounds = {320, 480};
@@ -452,6 +484,32 @@ TEST_F(GuideNib, AnnouncesEachParagraph)
     guide->nextGuide();
     clock.pass(600);
     EXPECT_EQ(reader.alerts(), paragraphs(3)) << "the end is not announced";
+}
+
+TEST_F(GuideNib, AnnouncesFocusWhenItsWindowBecomesActive)
+{
+    const ScreenReader reader;
+    QQuickWindow next;
+    // A screen reader turns to the window then, away from what was announced before.
+    QObject::connect(&next, &QWindow::activeChanged, &next, [] { ScreenReader::focused().clear(); });
+    const auto guide = made(paragraphs(1));
+    platform->scenes.clear();
+    guide->showGuide(&next);
+    clock.pass(600);
+    next.show();
+    next.requestActivate();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&next));
+    EXPECT_EQ(reader.focused(), QStringList(QStringLiteral("Next")));
+}
+
+TEST_F(GuideNib, AnnouncesFocusWhenScreenReaderStarts)
+{
+    const auto guide = shown(paragraphs(1));
+    clock.pass(600);
+    const ScreenReader reader;
+    EXPECT_EQ(reader.focused(), QStringList());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(reader.focused(), QStringList(QStringLiteral("Next")));
 }
 
 TEST_F(GuideNib, HasAccessibleNamesAndRoles)

@@ -17,8 +17,9 @@
 
 namespace TQFoundation::Testing {
 
-/// Fake screen reader: activates accessibility until it is destroyed and records alerts. Make it before the items that
-/// it reads. Uses private Qt API, because there is no public way to activate accessibility in both directions.
+/// Fake screen reader: activates accessibility until it is destroyed and records alerts and focus. Make it before the
+/// items that it reads. Uses private Qt API, because there is no public way to activate accessibility in both
+/// directions.
 class ScreenReader
 {
 public:
@@ -34,8 +35,11 @@ public:
         QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
             if (event->type() == QAccessible::Alert && event->accessibleInterface())
                 alerts() += event->accessibleInterface()->text(QAccessible::Name);
+            if (event->type() == QAccessible::Focus && event->accessibleInterface())
+                focused() += event->accessibleInterface()->text(QAccessible::Name);
         });
         alerts().clear();
+        focused().clear();
     }
     ScreenReader(const ScreenReader &) = delete;
     ScreenReader &operator=(const ScreenReader &) = delete;
@@ -50,6 +54,13 @@ public:
     {
         static auto *const texts = new QStringList;
         return *texts;
+    }
+
+    /// The names of all objects that were announced as focused, in their order.
+    static QStringList &focused()
+    {
+        static auto *const names = new QStringList;
+        return *names;
     }
 
     /// Returns the accessible interface of \a object; a missing one fails the test.

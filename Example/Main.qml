@@ -70,7 +70,7 @@ ApplicationWindow {
         visible: !root.backgroundOnly
         focus: true
         initialItem: homeScreen
-        onCurrentItemChanged: if (currentItem) currentItem.forceActiveFocus()
+        onCurrentItemChanged: if (currentItem) currentItem.focus = true
     }
 
     HomeScreen {

@@ -21,6 +21,8 @@ using Testing::InstalledRecordingPlatform;
 using Testing::LayerItem;
 
 constexpr int darkest = 51; // of a line with an alpha of 0.2
+// Windows have an alpha channel on Wayland; Qt repaints the edge of a part of one with an alpha of 254 there.
+constexpr int repaintRounding = 1;
 
 // The darkest pixel of a picture, or of a part of it.
 int darkestOf(const QImage &picture, QRect area = {})
@@ -264,7 +266,7 @@ TEST_F(LayerInAWindow, ContinuesAtTheRightPlaceAfterBeingHidden)
     for (const bool byOpacity : {false, true}) {
         byOpacity ? item.setOpacity(0) : item.setVisible(false);
         EXPECT_TRUE(window.rests());
-        EXPECT_EQ(darkestOf(window.grabWindow()), 0);
+        EXPECT_LE(darkestOf(window.grabWindow()), repaintRounding);
         EXPECT_TRUE(window.rests());
         platform->stall(2);
         byOpacity ? item.setOpacity(1) : item.setVisible(true);
@@ -307,8 +309,8 @@ TEST_F(LayerInAWindow, SurvivesTheLossOfItsSceneGraph)
     LayerItem item(window.contentItem());
     item.setLayer(Testing::driftingLayer(Testing::randomPath(random), 0));
     goTo(4);
-    const QImage before = window.grabWindow();
-    EXPECT_EQ(darkestOf(before), darkest);
+    EXPECT_TRUE(window.moves());
+    // No picture is taken before the last round: Qt 6.4 shows no more frames of a hidden window on Wayland otherwise.
     for (int round = 0; round < 3; ++round) {
         window.hide();
         window.releaseResources();
@@ -316,8 +318,14 @@ TEST_F(LayerInAWindow, SurvivesTheLossOfItsSceneGraph)
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
         EXPECT_TRUE(window.moves());
-        EXPECT_EQ(farthest(window.grabWindow(), before), 0);
     }
+    const QImage shown = window.grabWindow();
+    EXPECT_EQ(darkestOf(shown), darkest);
+    CountedWindow fresh;
+    LayerItem same(fresh.contentItem());
+    random.seed(11);
+    same.setLayer(Testing::driftingLayer(Testing::randomPath(random), 0));
+    EXPECT_EQ(farthest(shown, fresh.grabWindow()), 0);
 }
 
 TEST_F(LayerInAWindow, MovesFromWindowToWindow)
@@ -518,9 +526,9 @@ TEST_F(LayerInAWindow, ReappearsAfterItsCover)
     {
         ColorItem cover(window.contentItem());
         cover.setSize({100, 40});
-        EXPECT_EQ(darkestOf(window.grabWindow()), 0);
+        EXPECT_LE(darkestOf(window.grabWindow()), repaintRounding);
     }
-    EXPECT_EQ(farthest(window.grabWindow(), plain), 0);
+    EXPECT_LE(farthest(window.grabWindow(), plain), repaintRounding);
 }
 
 TEST_F(LayerInAWindow, FollowsTheSizeOfItsWindow)

@@ -1,3 +1,4 @@
+#include "KeyboardFocus.h"
 #include "Languages.h"
 #include "Layout.h"
 #include "RecordingPlatform.h"
@@ -48,8 +49,7 @@ protected:
         engine->load(QUrl(QStringLiteral("qrc:/Grove/Main.qml")));
         window = qobject_cast<QQuickWindow *>(engine->rootObjects().value(0));
         ASSERT_TRUE(window);
-        window->requestActivate();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+        ASSERT_TRUE(Testing::showWithFocus(*window));
         platform->scenes = Testing::keyScene(window);
     }
 

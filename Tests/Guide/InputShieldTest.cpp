@@ -1,4 +1,5 @@
 #include "GuideHost.h"
+#include "KeyboardFocus.h"
 #include "QmlWindow.h"
 
 #include <QtCore/qmimedata.h>
@@ -486,9 +487,7 @@ TEST_F(InputShield, HandsFocusFromLaterToEarlierGuide)
 TEST_F(InputShield, TakesFocusOfNextWindow)
 {
     auto window = std::make_unique<QQuickWindow>();
-    window->show();
-    window->requestActivate();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    EXPECT_TRUE(Testing::showWithFocus(*window));
     platform->scenes = keyScene(window.get());
     const auto guide = TQGuideView::initFromNib(Color::systemBlue(), {QStringLiteral("Only")}, {});
     guide->showGuide();
@@ -498,8 +497,7 @@ TEST_F(InputShield, TakesFocusOfNextWindow)
 
     platform->scenes = keyScene(&host.window);
     guide->showGuide();
-    host.window.requestActivate();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&host.window));
+    EXPECT_TRUE(Testing::showWithFocus(host.window));
     EXPECT_EQ(host.window.activeFocusItem(), guide->nextButton());
 }
 

@@ -1,3 +1,4 @@
+#include "KeyboardFocus.h"
 #include "RecordingPlatform.h"
 #include "Scenes.h"
 
@@ -58,12 +59,7 @@ public:
         program.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
     }
 
-    void showKeyWindow(QQuickWindow &window)
-    {
-        window.show();
-        window.requestActivate();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    }
+    void showKeyWindow(QQuickWindow &window) { ASSERT_TRUE(Testing::showWithFocus(window)); }
 
     void passTime(double seconds) { QThread::usleep(static_cast<unsigned long>(seconds * 1e6)); }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AnimationClock.h"
+#include "KeyboardFocus.h"
 #include "RecordingPlatform.h"
 #include "Scenes.h"
 
@@ -42,9 +43,7 @@ protected:
     {
         window.setColor(Qt::white);
         window.resize(390, 700);
-        window.show();
-        window.requestActivate();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        EXPECT_TRUE(showWithFocus(window));
         platform->scenes = keyScene(&window);
     }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KeyboardFocus.h"
+
 #include <QtCore/qbytearray.h>
 #include <QtQml/qqmlcomponent.h>
 #include <QtQml/qqmlengine.h>
@@ -27,9 +29,7 @@ public:
         EXPECT_TRUE(object) << component.errorString().toStdString();
         if ((item = qobject_cast<QQuickItem *>(object.get())))
             item->setParentItem(window.contentItem());
-        window.show();
-        window.requestActivate();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        EXPECT_TRUE(showWithFocus(window));
     }
 
     QQmlEngine engine;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AnimationClock.h"
+#include "KeyboardFocus.h"
 #include "RecordingPlatform.h"
 #include "Scenes.h"
 
@@ -76,9 +77,7 @@ protected:
         window->resize(size);
         root = std::make_shared<Delegate>(window->contentItem());
         ViewController::setRoot(window.get(), root);
-        window->show();
-        window->requestActivate();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        EXPECT_TRUE(showWithFocus(*window));
         platform->scenes = keyScene(window.get());
     }
 

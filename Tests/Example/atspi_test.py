@@ -165,7 +165,8 @@ def check_screens_and_mail():
         rows = ["Contact", "Rate on the App Store", "Browse My Personal Website", "Follow me on Social Media Platforms",
                 "More Apps I Developed", "More Apps I Developed"]
         icons = ["Larch", "Juniper", "Hazel", "Ginkgo", "Fir", "Elm", "Dogwood", "Cedar", "Birch"]
-        expect(app.tree(), ["button 'Back' focusable", "heading 'More'", "check box 'Dark Appearance' focusable", "button 'Privacy Policy' focusable focused",
+        expect(app.tree(), ["button 'Back' focusable", "heading 'More'", "check box 'Dark Appearance' focusable",
+                            "button 'Privacy Policy' focusable focused",
                             *(f"button '{row}' focusable" for row in rows), *(f"image '{icon}'" for icon in icons),
                             "label 'Version 2.3.1(57)' focusable"], "More screen")
 

@@ -14,7 +14,7 @@ from tree import tracked
 root, build, qt_tools = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2]), sys.argv[3]
 COMMAND = re.compile(r"(make|cmake|ctest|cpack|git|sudo|apt-get|g\+\+|rsvg-convert|qmllint|lupdate|grep|python3|sh) .+"
                      r"|tools/[\w-]+( .+)?|\./[\w.]+|\.ci/run|Tests/\S+\.py .+")
-PLACEHOLDERS = {"…": "/tmp/prefix", "<folder of Qt>": "/usr", "build/release/lib": f"{build}/lib"}
+PLACEHOLDERS = {"…": "/tmp/prefix", "<folder of Qt>": "/usr", "COMMAND": "true", "build/release/lib": f"{build}/lib"}
 # Not run, and why.
 EXCEPTIONS = {
     ".ci/run": "runs this test",
@@ -35,7 +35,8 @@ def commands_of(page):
     for block in re.findall(r"^ *```sh\n(.*?)^ *```$", text, re.DOTALL | re.MULTILINE):
         yield "\n".join(line.strip() for line in block.splitlines())
     text = re.sub(r"^ *```.*?^ *```$", "", text, flags=re.DOTALL | re.MULTILINE)
-    yield from (span for span in re.findall(r"`([^`\n]+)`", text) if COMMAND.fullmatch(span))
+    # In a table a bar is written with a backslash.
+    yield from (span.replace("\\|", "|") for span in re.findall(r"`([^`\n]+)`", text) if COMMAND.fullmatch(span))
 
 
 def run(command, folder, **environment):

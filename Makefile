@@ -1,12 +1,14 @@
 # Entry points for developers. Every target runs CMake with a preset of CMakePresets.json.
 .DEFAULT_GOAL := help
-.PHONY: help run test elsewhere sanitize fuzz storm soak coverage lint docs bench install new-app packages try-packages pictures release-check format clean
+.PHONY: help run test elsewhere sanitize fuzz storm soak coverage mutate lint docs bench install new-app packages try-packages pictures release-check format clean
 
 PREFIX ?= /usr/local
 ARGS ?=
 CTEST ?=
 SECONDS ?= 60
 SUITE ?=
+SEED ?=
+COUNT ?=
 WERROR ?= OFF
 FUZZ ?= --verbose
 release := build/release
@@ -23,6 +25,7 @@ help:
 	@echo "make storm      run a million random calls and events under AddressSanitizer"
 	@echo "make soak       simulate a month of use in half an hour and draw the memory used"
 	@echo "make coverage   print the line and branch coverage of Sources"
+	@echo "make mutate     mutation testing: change COUNT places of Sources, drawn by SEED, and expect a test to fail"
 	@echo "make lint       check the words of comments and documents; run clang-tidy and clazy"
 	@echo "make docs       write the API reference to build/docs/html"
 	@echo "make bench      run the benchmarks, print tables and update docs/cost.md"
@@ -96,6 +99,10 @@ coverage:
 	ctest --preset coverage
 	gcovr --root . --filter Sources/ --exclude-throw-branches --exclude-unreachable-branches \
 		--txt --print-summary build/coverage
+
+mutate:
+	tools/install-packages build run test mutate
+	tools/mutate --seed "$(SEED)" --count "$(COUNT)" --docs docs
 
 lint:
 	tools/install-packages build run test

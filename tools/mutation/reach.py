@@ -1,0 +1,149 @@
+"""Which tests reach which functions and QML files: each test runs once in an instrumented build."""
+
+import collections
+import concurrent.futures
+import hashlib
+import json
+import re
+import subprocess
+
+from . import suite
+from .scratch import FOLDER, ROOT, Scratch, tracked_files
+
+PROBE = 'readonly property int reachedByTests: {{ console.warn("reached: {}"); return 0; }}'
+
+
+def with_probe(name, content):
+    """A QML file that reports when it is loaded."""
+    if not re.match(r"(Sources/.*|Resources/Nibs/.*)\.qml$", name):
+        return content
+    return re.sub(rb"^(\w[\w.]* \{)$", lambda match: match[1] + b" " + PROBE.format(name).encode(), content, count=1, flags=re.MULTILINE)
+
+
+def hash_of(prefixes):
+    digest = hashlib.sha1()
+    for name in tracked_files():
+        if name.startswith(prefixes):
+            digest.update(name.encode() + b"\0" + (ROOT / name).read_bytes())
+    return digest.hexdigest()[:16]
+
+
+def sources_hash():
+    return hash_of(("Sources/", "Resources/", "CMakeLists.txt", "cmake/"))
+
+
+def tests_hash():
+    return hash_of(("Tests/", "Example/"))
+
+
+class Reach:
+    """For each test: its duration in seconds, the functions and the QML files that it reaches."""
+
+    def __init__(self):
+        self.file = FOLDER / "reach.json"
+        self.tests = {}
+        self.starts = {}
+
+    def load(self):
+        self.scratch = Scratch("reach", "", f"-DTQ_REACH={ROOT}/tools/mutation/reach.cpp")
+        state = {"sources": sources_hash(), "tests": tests_hash()}
+        if self.file.exists():
+            known = json.loads(self.file.read_text())
+            if known["state"]["sources"] == state["sources"]:
+                self.tests = known["tests"]
+            if known["state"] == state:
+                self.index()
+                return
+        print("finding out which test reaches which function …", flush=True)
+        self.scratch.update(with_probe)
+        self.collect(state)
+        self.file.write_text(json.dumps({"state": state, "tests": self.tests}))
+        self.index()
+
+    def collect(self, state):
+        # A test that is known and whose file is unchanged is not run again.
+        files, paths = files_of_cases(self.scratch.build)
+        tests = suite.tests_of(self.scratch.build)
+        self.functions = {}
+        waiting = [test for name, test in tests.items() if test.group < 2 and (
+            name not in self.tests or self.tests[name]["file"] != files.get(test.case, state["tests"]))]
+        print(f"running {len(waiting)} of {len(tests)} tests …", flush=True)
+        with concurrent.futures.ThreadPoolExecutor(2) as pool:
+            for test, found in zip(waiting, pool.map(self.run, waiting)):
+                self.tests[test.name] = dict(found, file=files.get(test.case, state["tests"]),
+                                              path=paths.get(test.case, ""))
+        self.tests = {name: found for name, found in self.tests.items() if name in tests}
+        self.resolve()
+
+    def run(self, test):
+        report = FOLDER / f"reach/{hashlib.sha1(test.name.encode()).hexdigest()[:12]}.txt"
+        report.unlink(missing_ok=True)
+        _, output, seconds = suite.run(test, 300, FOLDER / "home", extra=(f"TQ_REACH={report}",))
+        lines = sorted(set(report.read_text().splitlines())) if report.exists() else []
+        report.unlink(missing_ok=True)
+        qml = sorted(set(re.findall(r"reached: (\S+\.qml)", output)))
+        return {"seconds": round(seconds, 2), "raw": lines, "qml": qml}
+
+    def resolve(self):
+        """Turns addresses into files and lines."""
+        addresses = collections.defaultdict(set)
+        for found in self.tests.values():
+            for line in found.get("raw", []):
+                module, offset = line.rsplit(" ", 1)
+                addresses[module].add(offset)
+        where = {}
+        for module, offsets in addresses.items():
+            offsets = sorted(offsets)
+            if not module.startswith("/"):
+                module = str(self.scratch.build / module)
+            answer = subprocess.run(["addr2line", "-e", module, *offsets], capture_output=True, text=True, check=True)
+            for offset, place in zip(offsets, answer.stdout.splitlines()):
+                match = re.search(r"/tree/((?:Sources)/[\w./]+):(\d+)", place)
+                where[module, offset] = [match[1], int(match[2])] if match else None
+        for found in self.tests.values():
+            if "raw" in found:
+                places = [where.get(tuple(line.rsplit(" ", 1))) for line in found.pop("raw")]
+                found["functions"] = sorted({tuple(place) for place in places if place})
+
+    def index(self):
+        self.starts = collections.defaultdict(lambda: collections.defaultdict(set))
+        self.qml = collections.defaultdict(set)
+        for name, found in self.tests.items():
+            for file, line in found["functions"]:
+                self.starts[file][line].add(name)
+            for file in found["qml"]:
+                self.qml[file].add(name)
+
+    def seconds(self, name):
+        return self.tests[name]["seconds"] if name in self.tests else 30
+
+    def path(self, name):
+        """The file of a test case, such as Tests/Guide/TQGuideTest.cpp; empty for other tests."""
+        return self.tests[name].get("path", "") if name in self.tests else ""
+
+    def names_for(self, mutant):
+        """The tests that reach a mutant: those that run its function, or load its QML file."""
+        if mutant.file.endswith(".qml"):
+            return set(self.qml.get(mutant.file, ()))
+        for first, last in mutant.functions:
+            if names := set().union(*(self.starts[mutant.file][line] for line in range(first, last + 1))):
+                return names
+        return set()
+
+
+def files_of_cases(build):
+    """The hash and the path of the file that defines each test case."""
+    hashes, paths = {}, {}
+    for program in ("Tests", "CoreTests"):
+        listing = FOLDER / f"{program}.json"
+        subprocess.run([build / "Tests" / program, "--gtest_list_tests", f"--gtest_output=json:{listing}"],
+                       capture_output=True, check=True)
+        content = {}
+        for each in json.loads(listing.read_text())["testsuites"]:
+            for case in each["testsuite"]:
+                if case["file"] not in content:
+                    with open(build / case["file"], "rb") as file:
+                        content[case["file"]] = hashlib.sha1(file.read()).hexdigest()[:16]
+                hashes[f"{each['name']}.{case['name']}"] = content[case["file"]]
+                paths[f"{each['name']}.{case['name']}"] = case["file"][case["file"].index("/tree/") + 6:]
+    return hashes, paths

@@ -1,0 +1,27 @@
+# Included by CMake in the scratch copies of tools/mutate, after project(). A changed file has to compile in a second or
+# two. With TQ_REACH the library's sources report the functions that run.
+function(tq_mutation_settings)
+    target_precompile_headers(TQFoundation PRIVATE <QtQuick/qquickwindow.h> <QtQml/qqmlengine.h> <functional> <memory>)
+    # Tests of pixels compute for minutes without optimisation.
+    foreach(target IN ITEMS TQFoundationCore StrokeReference)
+        target_compile_options(${target} PRIVATE -O1)
+    endforeach()
+    get_target_property(sources Tests SOURCES)
+    list(FILTER sources INCLUDE REGEX "/Sources/")
+    set_source_files_properties(${sources} TARGET_DIRECTORY Tests PROPERTIES SKIP_PRECOMPILE_HEADERS OFF)
+    if(NOT TQ_REACH)
+        return()
+    endif()
+    set(instrumented -finstrument-functions -finstrument-functions-exclude-file-list=/usr/ -g1)
+    add_library(tq_reach STATIC ${TQ_REACH})
+    set_target_properties(tq_reach PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET default AUTOMOC OFF)
+    set_source_files_properties(${sources} TARGET_DIRECTORY Tests PROPERTIES
+        COMPILE_OPTIONS "${instrumented}" SKIP_PRECOMPILE_HEADERS ON)
+    target_compile_options(TQFoundation PRIVATE ${instrumented})
+    target_compile_options(TQFoundationCore PRIVATE ${instrumented})
+    target_link_libraries(TQFoundation PRIVATE $<BUILD_INTERFACE:tq_reach>)
+    foreach(target IN ITEMS Tests CoreTests ComposeMail)
+        target_link_libraries(${target} PRIVATE tq_reach)
+    endforeach()
+endfunction()
+cmake_language(DEFER CALL tq_mutation_settings)

@@ -138,6 +138,21 @@ TEST(TQApp, TranslatesEachParagraph)
                              "as if by underpopulation."));
 }
 
+TEST(TQApp, TranslatesAnewAtEachCall)
+{
+    useLanguage("zh-CN");
+    const InstalledRecordingPlatform platform;
+    const QString filing = TQApp::larch.icp().value();
+    const QStringList guide = TQApp::hazel.guideText();
+    const QUrl icon = TQApp::larch.iconUrl();
+    platform->root = Testing::emptyBundle();
+    EXPECT_EQ(filing, QStringLiteral("京ICP备2099000001号-1A"));
+    EXPECT_EQ(TQApp::larch.icp(), QStringLiteral("ICP-2099000001-1A"));
+    EXPECT_FALSE(guide.at(1).startsWith(QStringLiteral("1.\n\nAny live cell")));
+    EXPECT_TRUE(TQApp::hazel.guideText().at(1).startsWith(QStringLiteral("1.\n\nAny live cell")));
+    EXPECT_NE(TQApp::larch.iconUrl(), icon);
+}
+
 TEST(TQApp, KeepsTintLiteralsBitForBit)
 {
     using Bits = std::array<std::uint32_t, 4>;
@@ -297,6 +312,23 @@ TEST(TQAppArtwork, DiffersBetweenApps)
         EXPECT_EQ(qAlpha(icon.pixel(icon.width() / 2, 2)), 255);
     }
     EXPECT_EQ(pictures.size(), appCount);
+}
+
+// The file, and the colour of its upper edge, which differs between apps.
+TEST(TQAppArtwork, BelongsToItsApp)
+{
+    const InstalledRecordingPlatform platform;
+    const std::pair<const char *, QColor> expected[] = {
+        {"larch-page", 0xFE893C}, {"juniper-page", 0x3B95FE}, {"hazel-page", 0x4E4E53}, {"ginkgo-page", 0xFF80C1},
+        {"fir", 0x9C9CA1},        {"elm-page", 0xFE584D},     {"dogwood", 0x21A721},    {"cedar", 0xAA5AFE},
+        {"birch", 0xAB2B67},      {"alder-page", 0x1EC7CA}};
+    for (const TQApp app : TQApp::allCases()) {
+        const auto &[name, color] = expected[static_cast<std::size_t>(TQApp::Case(app))];
+        EXPECT_EQ(app.iconUrl().fileName(), QLatin1String(name) + QLatin1String(".png"));
+        const QColor shown = app.icon().pixelColor(54, 3);
+        for (const auto component : {&QColor::red, &QColor::green, &QColor::blue})
+            EXPECT_NEAR((shown.*component)(), (color.*component)(), 8) << name;
+    }
 }
 
 TEST(TQAppArtwork, IsScaledByAveraging)

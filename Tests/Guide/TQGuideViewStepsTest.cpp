@@ -129,6 +129,29 @@ TEST_F(TQGuideViewSteps, TakesLastStepInOrder)
                            QStringLiteral("fades"), QStringLiteral("removed")}));
 }
 
+TEST_F(TQGuideViewSteps, LooksUpOutletsAgainInEachStep)
+{
+    const auto guide = shown(paragraphs(2));
+    clock.pass(600);
+    QQuickItem *const firstButton = guide->nextButton();
+    QQuickItem button;
+    QQuickItem label;
+    button.setEnabled(false);
+    label.setOpacity(0);
+    guide->nextGuide();
+    clock.pass(200);
+    guide->setNextButton(&button);
+    guide->setGuideLabel(&label);
+    clock.pass(400);
+    EXPECT_EQ(textOf(*guide), QStringLiteral("Paragraph 1"));
+    EXPECT_LT(label.opacity(), 1);
+    EXPECT_FALSE(button.isEnabled());
+    clock.pass(200);
+    EXPECT_EQ(label.opacity(), 1);
+    EXPECT_TRUE(button.isEnabled());
+    EXPECT_FALSE(firstButton->isEnabled());
+}
+
 TEST_F(TQGuideViewSteps, StoresFlagBeforeFadeOutEnds)
 {
     const auto guide = shown(paragraphs(1));

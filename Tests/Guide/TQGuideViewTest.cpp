@@ -74,7 +74,8 @@ TEST_F(TQGuideViewFactory, TakesItsStepsInOrder)
     RecordingGuideView::log().clear();
     const auto guide = recording(paragraphs(2));
     EXPECT_EQ(RecordingGuideView::log(),
-              (QStringList{QStringLiteral("setDescriptions"), QStringLiteral("setCompleteClosure")}));
+              (QStringList{QStringLiteral("backgroundColorChanged"), QStringLiteral("setDescriptions"),
+                           QStringLiteral("setCompleteClosure")}));
     EXPECT_EQ(platform->calls, (QStringList{QStringLiteral("screenBounds()"), QStringLiteral("screenBounds()")}))
         << "width and height are read separately";
     EXPECT_EQ(guide->backgroundColor(), Color::systemBlue());

@@ -13,6 +13,9 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <utility>
+
 namespace TQFoundation {
 namespace {
 
@@ -102,6 +105,33 @@ TEST_F(TQMoreFeedbackEmail, ShowsNothingWithoutATopController)
     EXPECT_EQ(platform->calls.mid(platform->calls.indexOf(QStringLiteral("canSendMail()"))),
               (QStringList{QStringLiteral("canSendMail()"), QStringLiteral("connectedScenes()")}));
     EXPECT_TRUE(platform->mailComposer.expired());
+}
+
+// A system that shows a screen of its own while it is asked for mail.
+struct PresentingPlatform : Testing::RecordingPlatform
+{
+    bool canSendMail() const override
+    {
+        TQMore::topViewController()->present(alert);
+        return RecordingPlatform::canSendMail();
+    }
+
+    std::shared_ptr<ViewController> alert = std::make_shared<ViewController>();
+};
+
+TEST_F(TQMoreFeedbackEmail, ReadsTheTopControllerAgainToPresent)
+{
+    auto presenting = std::make_unique<PresentingPlatform>();
+    PresentingPlatform &asked = *presenting;
+    asked.scenes = platform->scenes;
+    auto former = installPlatform(std::move(presenting));
+    TQMore::sendFeedbackEmail(std::nullopt, message);
+    const auto composer = asked.mailComposer.lock();
+    ASSERT_TRUE(composer);
+    EXPECT_EQ(composer->delegate.lock(), ViewController::rootOf(&window));
+    EXPECT_EQ(asked.alert->presentedViewController(), composer);
+    ViewController::rootOf(&window)->dismiss();
+    installPlatform(std::move(former));
 }
 
 TEST_F(TQMoreFeedbackEmail, OpensTheContactPageWithoutMail)

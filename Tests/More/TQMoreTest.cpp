@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+#include <vector>
+
 namespace TQFoundation {
 namespace {
 
@@ -78,17 +81,42 @@ TEST_F(TQMoreRows, PassesHostileVersionsOn)
     EXPECT_EQ(TQMore::versionText(), QStringLiteral("Version <b>1</b>\n()()"));
 }
 
-TEST_F(TQMoreRows, KeepsTextsWhenTablesChange)
+// Texts and links that a table or the host may change, and what they are in English.
+const std::vector<std::pair<QString (*)(), QString>> members{
+    {TQMore::privacyText, QStringLiteral("Privacy Policy")},
+    {TQMore::privacyUrl, QStringLiteral("https://tqstudio.example/privacy-policy-en")},
+    {TQMore::feedbackText, QStringLiteral("Contact")},
+    {TQMore::feedbackUrl, QStringLiteral("https://tqstudio.example/contact-en")},
+    {TQMore::reviewText, QStringLiteral("Rate on the App Store")},
+    {TQMore::threadsText, QStringLiteral("Follow me on Social Media Platforms")},
+    {TQMore::blogText, QStringLiteral("Browse My Personal Website")},
+    {TQMore::blogUrl, QStringLiteral("https://tqstudio.example/en")},
+    {TQMore::moreAppText, QStringLiteral("More Apps I Developed")},
+    {TQMore::versionText, QStringLiteral("Version ()")},
+};
+
+TEST_F(TQMoreRows, KeepsEveryTextReadBeforeTablesChange)
 {
     useLanguage("zh-CN");
-    const QString privacy = TQMore::privacyText();
-    const QString version = TQMore::versionText();
-    EXPECT_NE(privacy, QStringLiteral("Privacy Policy"));
+    QStringList before;
+    for (const auto &[member, english] : members) {
+        before += member();
+        EXPECT_NE(before.last(), english);
+    }
     platform->root = Testing::emptyBundle();
     platform->infoDictionary.insert(QStringLiteral("CFBundleVersion"), QStringLiteral("58"));
-    EXPECT_EQ(TQMore::privacyText(), privacy);
-    EXPECT_EQ(TQMore::versionText(), version);
-    EXPECT_EQ(TQMore::feedbackText(), QStringLiteral("Contact")) << "one-time initialisation per member";
+    for (qsizetype index = 0; index < before.size(); ++index)
+        EXPECT_EQ(members[static_cast<std::size_t>(index)].first(), before[index]);
+}
+
+TEST_F(TQMoreRows, ReadsEachTextAtItsOwnFirstCall)
+{
+    useLanguage("zh-CN");
+    for (const auto &[member, english] : members) {
+        EXPECT_EQ(TQMore::threadsUrl(), QStringLiteral("https://links.example/tqstudio"));
+        platform->root = Testing::emptyBundle();
+        EXPECT_EQ(member(), english);
+    }
 }
 
 TEST_F(TQMoreRows, ShowsFilingThenWebsiteInChina)

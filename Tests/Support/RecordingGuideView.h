@@ -12,7 +12,10 @@ class RecordingGuideView : public TQGuideView
     Q_OBJECT
 
 public:
-    using TQGuideView::TQGuideView;
+    explicit RecordingGuideView(QQuickItem *parent = nullptr) : TQGuideView(parent)
+    {
+        connect(this, &TQGuideView::backgroundColorChanged, [] { note("backgroundColorChanged"); });
+    }
 
     static QStringList &log()
     {

@@ -18,7 +18,6 @@ PLACEHOLDERS = {"…": "/tmp/prefix", "<folder of Qt>": "/usr", "COMMAND": "true
 # Not run, and why.
 EXCEPTIONS = {
     ".ci/run": "runs this test",
-    "tools/break": "builds the tree again for each mutation",
     "cmake --preset release -DCMAKE_PREFIX_PATH=/usr": "configures the tree as for this test",
     "cmake --build --preset release": "builds the tree as for this test",
     "ctest --preset release": "runs this test",

@@ -166,7 +166,6 @@ TEST_F(TQMoreRows, IgnoresTheFilingOutsideChina)
 TEST(DeveloperIdentity, HasAFilingSiteOfSchemeAndHost)
 {
     EXPECT_EQ(QLatin1String(DeveloperIdentity::filingSite), filingSite);
-    EXPECT_EQ(filingSite.size(), 25);
 }
 
 } // namespace

@@ -212,7 +212,7 @@ class CppListing(Listing):
             self.add(at, at + 7, "", "static")
         elif is_local and "constexpr" not in text and children and self.can_change(children[-1]):
             if re.search(rb"[;{}]\s*$", self.text[:span[0]]):
-                self.add(span[0], span[0], "static ", "remembered value")
+                self.add(*span, f"static {text}", "remembered value")
         if cursor.type.kind == TypeKind.LVALUEREFERENCE and (is_local or not cursor.type.get_pointee().is_const_qualified()):
             name = cursor.location.offset
             if self.text[name - 1:name] == b"&":

@@ -14,6 +14,7 @@ class Mutant:
     operator: str
     line: int  # of the start, from 1
     old: str  # the bytes that are replaced
+    text: str = ""  # the whole line
     functions: tuple = ()  # the functions around it, innermost first: the lines from the name to the opening brace
     owner: str = ""  # the name of the function or variable that it belongs to
 
@@ -28,9 +29,12 @@ class Mutant:
         return self.file.split("/")[1] if self.file.startswith("Sources/") else "Guide"
 
     def change(self):
-        """The change on one line, such as `a < b` -> `a <= b`."""
+        """The change on one line, such as `<` -> `<=`."""
         old, new = (" ".join(text.split()) for text in (self.old, self.new))
         return f"`{old[:90]}` -> `{new[:90]}`"
+
+    def described(self):
+        return f"{self.file}:{self.line} | {self.operator} | {self.text} | {self.change()}"
 
 
 class Listing:
@@ -39,6 +43,7 @@ class Listing:
     def __init__(self, file, text):
         self.file = file
         self.text = text
+        self.lines = text.split(b"\n")
         self.mutants = {}
         self.declared = []
 
@@ -61,8 +66,9 @@ class Listing:
         old = self.text[start:end].decode()
         if old == new or (start, end, new) in self.mutants:
             return
-        line = self.text.count(b"\n", 0, start) + 1
-        self.mutants[start, end, new] = Mutant(self.file, start, end, new, operator, line, old)
+        line = self.text.count(b"\n", 0, start)
+        text = self.lines[line].decode().strip()
+        self.mutants[start, end, new] = Mutant(self.file, start, end, new, operator, line + 1, old, text)
 
 
 # Replacements of operators.

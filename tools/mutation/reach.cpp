@@ -17,6 +17,8 @@ void __cyg_profile_func_enter(void *function, void *)
     constexpr std::size_t slots = 1 << 16;
     static std::atomic<void *> seen[slots];
     for (std::size_t slot = reinterpret_cast<std::uintptr_t>(function) / 4 % slots;; slot = (slot + 1) % slots) {
+        if (seen[slot].load(std::memory_order_relaxed) == function)
+            return;
         void *expected = nullptr;
         if (seen[slot].compare_exchange_strong(expected, function))
             break;

@@ -57,28 +57,34 @@ class Reach:
         print("finding out which test reaches which function …", flush=True)
         self.scratch.update(with_probe)
         self.collect(state)
-        self.file.write_text(json.dumps({"state": state, "tests": self.tests}))
+        self.save(state)
         self.index()
 
     def collect(self, state):
         # A test that is known and whose file is unchanged is not run again.
         files, paths = files_of_cases(self.scratch.build)
         tests = suite.tests_of(self.scratch.build)
-        self.functions = {}
+        (FOLDER / "home").mkdir(mode=0o700, exist_ok=True)
         waiting = [test for name, test in tests.items() if test.group < 2 and (
             name not in self.tests or self.tests[name]["file"] != files.get(test.case, state["tests"]))]
         print(f"running {len(waiting)} of {len(tests)} tests …", flush=True)
         with concurrent.futures.ThreadPoolExecutor(2) as pool:
-            for test, found in zip(waiting, pool.map(self.run, waiting)):
+            for number, (test, found) in enumerate(zip(waiting, pool.map(self.run, waiting)), 1):
                 self.tests[test.name] = dict(found, file=files.get(test.case, state["tests"]),
                                               path=paths.get(test.case, ""))
+                if number % 100 == 0:
+                    # An interrupted run continues from here.
+                    self.save(dict(state, tests=""))
         self.tests = {name: found for name, found in self.tests.items() if name in tests}
+
+    def save(self, state):
         self.resolve()
+        self.file.write_text(json.dumps({"state": state, "tests": self.tests}))
 
     def run(self, test):
         report = FOLDER / f"reach/{hashlib.sha1(test.name.encode()).hexdigest()[:12]}.txt"
         report.unlink(missing_ok=True)
-        _, output, seconds = suite.run(test, 300, FOLDER / "home", extra=(f"TQ_REACH={report}",))
+        _, output, seconds = suite.run(test, 60, FOLDER / "home", extra=(f"TQ_REACH={report}",))
         lines = sorted(set(report.read_text().splitlines())) if report.exists() else []
         report.unlink(missing_ok=True)
         qml = sorted(set(re.findall(r"reached: (\S+\.qml)", output)))

@@ -1,7 +1,7 @@
 """Verdicts that are kept, and mutants without an observable effect."""
 
-import fnmatch
 import json
+import re
 
 from .reach import sources_hash, tests_hash
 from .scratch import FOLDER
@@ -43,21 +43,27 @@ class Equivalents:
         for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
             if not line.strip() or line.startswith("#"):
                 continue
-            cells = [cell.strip() for cell in line.split(" | ", 3)]
-            if len(cells) != 4:
-                raise SystemExit(f"{path.name}:{number}: write `file | operator | change | reason`.")
+            cells = [cell.strip() for cell in line.split(" | ", 4)]
+            if len(cells) != 5:
+                raise SystemExit(f"{path.name}:{number}: write `file | operator | line | change | reason`.")
             self.rules.append((number, *cells))
         self.used = set()
 
     def reason(self, mutant):
-        for number, file, operator, change, reason in self.rules:
-            if mutant.file == file and mutant.operator == operator and \
-                    fnmatch.fnmatchcase(mutant.change().replace("[", "("), change.replace("[", "(")):
+        for number, file, operator, text, change, reason in self.rules:
+            if mutant.file == file and operator in (mutant.operator, "*") and matches(mutant.text, text) \
+                    and matches(mutant.change(), change):
                 self.used.add(number)
                 return reason
         return None
 
     def unused(self, mutants):
+        """The lines that match no mutant."""
         for mutant in mutants:
             self.reason(mutant)
-        return [f"{file} | {operator} | {change}" for number, file, operator, change, _ in self.rules if number not in self.used]
+        return [" | ".join(cells[:4]) for number, *cells in self.rules if number not in self.used]
+
+
+def matches(text, pattern):
+    """Whether \a text is like \a pattern, in which * stands for any text."""
+    return re.fullmatch(".*".join(re.escape(part) for part in pattern.split("*")), text) is not None

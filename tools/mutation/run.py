@@ -69,8 +69,7 @@ class Run:
                 self.results.add(mutant, self.seed, verdict, test, seconds)
                 self.count(mutant, verdict)
                 if verdict != INVALID:
-                    print(f"{mutant.file}:{mutant.line}: {mutant.operator} {mutant.change()}: {verdict} {test} "
-                          f"({seconds:.1f} s)", flush=True)
+                    print(f"{verdict} {test} ({seconds:.0f} s): {mutant.described()}", flush=True)
 
     def run(self):
         slots = [Slot(number, self.reach) for number in (1, 2)]

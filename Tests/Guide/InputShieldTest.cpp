@@ -356,6 +356,7 @@ TEST_F(InputShield, BlocksTouchpadGestures)
     for (const Qt::NativeGestureType type : {Qt::BeginNativeGesture, Qt::ZoomNativeGesture, Qt::EndNativeGesture}) {
         QNativeGestureEvent event(type, &touchpad, 2, {195, 300}, {195, 300}, {195, 300}, 0.5, {});
         QCoreApplication::sendEvent(&host.window, &event);
+        EXPECT_FALSE(event.isAccepted()) << "as if no item were there";
     }
     EXPECT_EQ(received(), QString());
 }

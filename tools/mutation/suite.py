@@ -42,7 +42,7 @@ def tests_of(build):
     tests = {}
     for entry in json.loads(shown.stdout)["tests"]:
         properties = {each["name"]: each["value"] for each in entry.get("properties", [])}
-        if "command" in entry:
+        if "command" in entry and not properties.get("DISABLED"):
             tests[entry["name"]] = Test(entry["name"], tuple(entry["command"]), tuple(properties.get("ENVIRONMENT", [])),
                                         tuple(properties.get("LABELS", [])), properties.get("WORKING_DIRECTORY", str(build)))
     return tests

@@ -36,5 +36,11 @@ function(tq_add_host_info target)
     set_source_files_properties("${plist}" PROPERTIES QT_RESOURCE_ALIAS Info.plist)
     qt_add_resources(${target} "${target}_host_info" PREFIX / FILES "${plist}")
     set_target_properties(${target} PROPERTIES MACOSX_BUNDLE_INFO_PLIST "${plist}")
+
+    # A shared Qt loads QML modules at run time, and yet from 6.8 on warns of each plugin that it will not link.
+    get_target_property(scan ${target} QT_QML_MODULE_NO_IMPORT_SCAN)
+    if(QT6_IS_SHARED_LIBS_BUILD AND scan STREQUAL "scan-NOTFOUND")
+        set_target_properties(${target} PROPERTIES QT_QML_MODULE_NO_IMPORT_SCAN ON)
+    endif()
 endfunction()
 cmake_policy(POP)

@@ -18,8 +18,10 @@ def run(*command, **options):
 
 
 def configure_and_build(folder, *options):
-    run("cmake", "-S", host, "-B", folder, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release", *options,
-        stdout=subprocess.DEVNULL)
+    configured = subprocess.run(["cmake", "-S", host, "-B", folder, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release", *options],
+                                capture_output=True, text=True, timeout=300)
+    if configured.returncode or configured.stderr:
+        sys.exit(f"{host.name}: cmake ended with {configured.returncode}: {configured.stderr}")
     run("cmake", "--build", folder, stdout=subprocess.DEVNULL)
 
 

@@ -98,7 +98,7 @@ TEST(BrowserPage, HasATextForEachProblem)
                            QStringLiteral("This page takes too long to load.")}));
 }
 
-// Qt WebEngine's threads may still use a profile when its view is gone.
+// Qt WebEngine's threads may still use a profile when its view is destroyed.
 TEST(BrowserPage, KeepsAProfileBeyondItsView)
 {
     const BrowserPage page;

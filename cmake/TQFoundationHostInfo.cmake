@@ -38,8 +38,8 @@ function(tq_add_host_info target)
     set_target_properties(${target} PROPERTIES MACOSX_BUNDLE_INFO_PLIST "${plist}")
 
     # A shared Qt loads QML modules at run time, and yet from 6.8 on warns of each plugin that it will not link.
-    get_target_property(scan ${target} QT_QML_MODULE_NO_IMPORT_SCAN)
-    if(QT6_IS_SHARED_LIBS_BUILD AND scan STREQUAL "scan-NOTFOUND")
+    # qt_add_qml_module() resets the property, so call it before.
+    if(QT6_IS_SHARED_LIBS_BUILD)
         set_target_properties(${target} PROPERTIES QT_QML_MODULE_NO_IMPORT_SCAN ON)
     endif()
 endfunction()

@@ -80,6 +80,17 @@ protected:
         return clickUntil([this, text] { return title() == QLatin1String(text); });
     }
 
+    /// Clicks the page until \a condition holds.
+    template <typename Condition>
+    bool clickUntil(const Condition &condition)
+    {
+        return comes([this, &condition] {
+            click(web());
+            QTest::qWait(50);
+            return condition();
+        });
+    }
+
     /// Clicks the page until another one is being loaded.
     bool clickUntilLoading()
     {
@@ -112,16 +123,6 @@ protected:
     QString secure; ///< The server's address over HTTPS with a self-signed certificate, without a path.
 
 private:
-    template <typename Condition>
-    bool clickUntil(const Condition &condition)
-    {
-        return comes([this, &condition] {
-            click(web());
-            QTest::qWait(50);
-            return condition();
-        });
-    }
-
     static QQuickItem *findWeb(const QQuickItem *from)
     {
         const QList<QQuickItem *> children = from->childItems();

@@ -3,9 +3,6 @@
 #include "SheetText.h"
 #include "TQFoundation/Platform.h"
 
-#include <QtCore/qtimer.h>
-
-#include <chrono>
 #include <utility>
 
 namespace TQFoundation {
@@ -75,12 +72,6 @@ void BrowserPage::fail(Problem problem)
     endLoading();
     if (m_problem == NoProblem)
         setProblem(problem);
-}
-
-void BrowserPage::destroyLater(QObject *profile) const
-{
-    profile->setParent(nullptr);
-    QTimer::singleShot(std::chrono::seconds(10), profile, &QObject::deleteLater);
 }
 
 void BrowserPage::setProblem(Problem problem)

@@ -33,7 +33,6 @@ WebEngineView {
     profile: WebEngineProfile {
         offTheRecord: true
     }
-    Component.onDestruction: page.destroyLater(profile)
     // The default of web pages that set no colours of their own.
     backgroundColor: "#ffffff"
     settings {

@@ -80,11 +80,13 @@ void MeshLayerNode::updateStroke()
 void MeshLayerNode::upload(double length)
 {
     m_uploadedLength = length;
-    removeAllChildNodes();
     m_band.setTriangles(m_mesh.band, m_mesh.bandIndices, length);
     m_squares.setTriangles(m_mesh.squares, m_mesh.squareIndices, length);
     for (TrianglesNode *node : {&m_band, &m_squares}) {
-        if (!node->isEmpty())
+        // Only if it has to: a node that comes or goes makes the renderer sort the whole scene again.
+        if (node->isEmpty() && node->parent())
+            removeChildNode(node);
+        else if (!node->isEmpty() && !node->parent())
             appendChildNode(node);
     }
 }

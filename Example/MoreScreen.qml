@@ -23,24 +23,12 @@ FocusScope {
         height: Math.max(56, title.height + Theme.margin)
         z: 1
 
-        AbstractButton {
+        BarButton {
             id: back
 
             anchors { left: parent.left; leftMargin: 4; verticalCenter: parent.verticalCenter }
-            width: 44
-            height: 44
-            focusPolicy: Qt.StrongFocus
             Accessible.name: qsTr("Back")
-            Accessible.onPressAction: back.clicked()
-            Keys.onReturnPressed: back.clicked()
-            Keys.onEnterPressed: back.clicked()
             onClicked: root.backRequested()
-
-            background: Rectangle {
-                radius: Theme.corner
-                color: back.down ? Theme.pressed : "transparent"
-                border { width: back.visualFocus ? 2 : 0; color: root.tint }
-            }
 
             contentItem: Item {
                 Chevron {
@@ -67,26 +55,12 @@ FocusScope {
             Accessible.name: text
         }
 
-        AbstractButton {
-            id: appearance
-
+        BarButton {
             anchors { right: parent.right; rightMargin: 4; verticalCenter: parent.verticalCenter }
-            width: 44
-            height: 44
             checkable: true
             checked: Theme.dark
-            focusPolicy: Qt.StrongFocus
             Accessible.name: qsTr("Dark Appearance")
-            Accessible.onPressAction: appearance.clicked()
-            Keys.onReturnPressed: appearance.clicked()
-            Keys.onEnterPressed: appearance.clicked()
             onClicked: root.appearanceChosen(!Theme.dark)
-
-            background: Rectangle {
-                radius: Theme.corner
-                color: appearance.down ? Theme.pressed : "transparent"
-                border { width: appearance.visualFocus ? 2 : 0; color: root.tint }
-            }
 
             // A circle whose right half is filled.
             contentItem: Item {
@@ -234,6 +208,29 @@ FocusScope {
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
             }
+        }
+    }
+
+    component BarButton: AbstractButton {
+        id: button
+
+        // Clicks once for each key press; auto-repeat is ignored.
+        function press(event: KeyEvent) {
+            if (!event.isAutoRepeat)
+                clicked();
+        }
+
+        width: 44
+        height: 44
+        focusPolicy: Qt.StrongFocus
+        Accessible.onPressAction: clicked()
+        Keys.onReturnPressed: event => press(event)
+        Keys.onEnterPressed: event => press(event)
+
+        background: Rectangle {
+            radius: Theme.corner
+            color: button.down ? Theme.pressed : "transparent"
+            border { width: button.visualFocus ? 2 : 0; color: root.tint }
         }
     }
 

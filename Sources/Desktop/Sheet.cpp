@@ -63,8 +63,6 @@ bool Sheet::open(const QString &name, std::unique_ptr<QObject> page, QQuickWindo
     };
     updateSafeArea();
     QObject::connect(QGuiApplication::inputMethod(), &QInputMethod::keyboardRectangleChanged, m_popup, updateSafeArea);
-    QObject::connect(window, &QWindow::widthChanged, m_popup, updateSafeArea);
-    QObject::connect(window, &QWindow::heightChanged, m_popup, updateSafeArea);
     QObject::connect(window, &QQuickWindow::afterAnimating, m_popup, updateSafeArea);
     m_popup->setProperty("visible", true);
     raisePopupOverlay(window->contentItem());

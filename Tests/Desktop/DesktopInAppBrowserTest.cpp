@@ -23,7 +23,7 @@ TEST_F(DesktopInAppBrowser, ClosesABusyPageAtOnce)
 {
     for (const char *page : {"/busy", "/busy-at-once"}) {
         browse(plain + QLatin1String(page));
-        QTest::qWait(600); // the page is busy from 200 ms on
+        QTest::qWait(600); // busy from 200 ms on; a busy page gives no sign
         click(button("Close"));
         EXPECT_FALSE(isShown());
         slide();

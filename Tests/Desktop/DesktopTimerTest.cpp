@@ -143,7 +143,7 @@ TEST(DesktopTimer, DoesNotTickInsideItsTick)
     int ticks = 0;
     const auto timer = makeTimer(0.01, [&] {
         const int before = ++ticks;
-        QTest::qWait(50);
+        QTest::qWait(50); // five intervals, in an event loop of the tick's own
         EXPECT_EQ(ticks, before);
     });
     timer->schedule();

@@ -66,7 +66,6 @@ TEST_F(LayerInItsOwnThread, LeavesTheGuiThreadAsleep)
 {
     item->setLayer(layer(100));
     ASSERT_TRUE(window->moves());
-    QTest::qWait(100);
     const int before = window->frames;
     EXPECT_LE(wakeUpsWithin(1500), 2);
     EXPECT_GE(window->frames - before, 20);

@@ -18,7 +18,7 @@
 namespace TQFoundation::Testing {
 
 /// Fake screen reader: activates accessibility until it is destroyed and records alerts and focus. Make it before the
-/// items that it reads. Uses private Qt API, because there is no public way to activate accessibility in both
+/// items that it reads. It uses private Qt API, because there is no public way to activate accessibility in both
 /// directions.
 class ScreenReader
 {

@@ -2,7 +2,7 @@
 #
 # Writes an Info.plist with the given entries and embeds it in <target>. The library reads the host app's name, version
 # and build from it; on Apple systems it is the bundle's Info.plist as well. For an entry that is missing or empty the
-# library uses its documented fallback. Texts are taken verbatim.
+# library uses its documented fallback. Texts are taken verbatim. Call it after qt_add_qml_module().
 cmake_policy(PUSH)
 if(POLICY CMP0174)
     cmake_policy(SET CMP0174 NEW)
@@ -38,7 +38,7 @@ function(tq_add_host_info target)
     set_target_properties(${target} PROPERTIES MACOSX_BUNDLE_INFO_PLIST "${plist}")
 
     # A shared Qt loads QML modules at run time, and yet from 6.8 on warns of each plugin that it will not link.
-    # qt_add_qml_module() resets the property, so call it before.
+    # qt_add_qml_module() resets the property, so it has to be called first.
     if(QT6_IS_SHARED_LIBS_BUILD)
         set_target_properties(${target} PROPERTIES QT_QML_MODULE_NO_IMPORT_SCAN ON)
     endif()

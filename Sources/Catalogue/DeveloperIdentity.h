@@ -7,8 +7,8 @@
 #include <span>
 #include <string_view>
 
-/// All identifiers of the developer, of the developer's apps and of the store, in one place where another developer
-/// replaces them: after a change, tools/replace-developer replaces them in translation tables, tests and documents too.
+/// All texts that name the developer, the apps or the store. To replace the developer, change them and run
+/// tools/replace-developer, which changes translation tables, tests and documents too.
 namespace TQFoundation::DeveloperIdentity {
 
 /// The name of the developer: organisation of the hosts, maintainer of the packages. Not used by the library.

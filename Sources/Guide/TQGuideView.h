@@ -102,8 +102,8 @@ public:
     /// Shows the current paragraph and fades the overlay in within 0.6 seconds.
     ///
     /// The overlay becomes the topmost child of the key window's content item, even if \a inWindow is another window.
-    /// If no window is key, \a inWindow is used, else \a orInView, else it gets no parent. It keeps its size, and its
-    /// position at the origin. Stops the process if there are no paragraphs. A later call repeats all of this.
+    /// If no window is key, \a inWindow is used, else \a orInView, else it gets no parent. It keeps its size and
+    /// its position at the origin. Stops the process if there are no paragraphs. A later call repeats all of this.
     virtual void showGuide(QQuickWindow *inWindow = nullptr, QQuickItem *orInView = nullptr);
 
     /// Handles a tap on the next button; \a sender is ignored. The next paragraph fades in within 0.8 seconds, during

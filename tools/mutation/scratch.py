@@ -55,7 +55,7 @@ class Scratch:
         linker = next((f"-fuse-ld={name}" for name in ("lld", "gold") if shutil.which(f"ld.{name}")), "")
         environment = dict(os.environ, CCACHE_DIR=str(FOLDER / "ccache"), CCACHE_BASEDIR=str(FOLDER),
                            CCACHE_SLOPPINESS="pch_defines,time_macros,include_file_mtime,include_file_ctime")
-        # Also where the system's time of a copied file counts.
+        # Files that did not change come from the cache.
         launcher = ["-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"] if shutil.which("ccache") else []
         built = self.run(["cmake", "-S", self.tree, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
                           "-DCMAKE_CXX_FLAGS=-w", "-DCMAKE_CXX_FLAGS_RELEASE=-O0", "-DTQFOUNDATION_TESTS=ON",

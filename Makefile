@@ -53,7 +53,7 @@ test:
 	ctest --preset release $(CTEST)
 
 elsewhere:
-	tools/elsewhere $(SUITE)
+	CTEST="$(CTEST)" tools/elsewhere $(SUITE)
 
 new-app:
 	@tools/new-app "$$NAME" "$$APP" "$$DIR"

@@ -27,6 +27,7 @@ FocusScope {
             id: back
 
             anchors { left: parent.left; leftMargin: 4; verticalCenter: parent.verticalCenter }
+            tint: root.tint
             Accessible.name: qsTr("Back")
             onClicked: root.backRequested()
 
@@ -57,6 +58,7 @@ FocusScope {
 
         BarButton {
             anchors { right: parent.right; rightMargin: 4; verticalCenter: parent.verticalCenter }
+            tint: root.tint
             checkable: true
             checked: Theme.dark
             Accessible.name: qsTr("Dark Appearance")
@@ -214,6 +216,8 @@ FocusScope {
     component BarButton: AbstractButton {
         id: button
 
+        required property color tint
+
         // Clicks once for each key press; auto-repeat is ignored.
         function press(event: KeyEvent) {
             if (!event.isAutoRepeat)
@@ -230,7 +234,7 @@ FocusScope {
         background: Rectangle {
             radius: Theme.corner
             color: button.down ? Theme.pressed : "transparent"
-            border { width: button.visualFocus ? 2 : 0; color: root.tint }
+            border { width: button.visualFocus ? 2 : 0; color: button.tint }
         }
     }
 

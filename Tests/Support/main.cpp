@@ -7,9 +7,12 @@
 
 namespace {
 
-// The library logs nothing, so every logged line fails the running test.
+// The library logs nothing, so every logged line fails the running test. Qt's Wayland client logs one if a window is
+// hidden while its render thread draws.
 void failOnLog(QtMsgType, const QMessageLogContext &, const QString &message)
 {
+    if (message.startsWith(u"eglSwapBuffers failed"))
+        return;
     ADD_FAILURE() << "logged: " << message.toStdString();
 }
 

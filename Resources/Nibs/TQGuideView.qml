@@ -25,8 +25,8 @@ TQGuideView {
 
     Keys.onUpPressed: scroller.scroll(-2 * textSize)
     Keys.onDownPressed: scroller.scroll(2 * textSize)
-    Keys.onTabPressed: button.focusReason = Qt.TabFocusReason
-    Keys.onBacktabPressed: button.focusReason = Qt.BacktabFocusReason
+    Keys.onTabPressed: button.visualFocus = true
+    Keys.onBacktabPressed: button.visualFocus = true
     Keys.onPressed: event => {
         if (event.key === Qt.Key_PageUp)
             scroller.scroll(-0.9 * scroller.height);
@@ -110,8 +110,18 @@ TQGuideView {
             opacity: 0.4
         }
 
-        PressButton {
+        // Not a control: loading Qt Quick Templates would add half to the guide's memory.
+        Item {
             id: button
+
+            readonly property alias pressed: area.pressed
+            // Whether the focus is shown: after keys that move it, until the next press.
+            property bool visualFocus: false
+
+            function press(event: KeyEvent) {
+                if (!event.isAutoRepeat)
+                    root.nextGuide(button);
+            }
 
             anchors {
                 right: parent.right
@@ -122,12 +132,33 @@ TQGuideView {
             width: 60
             height: 60
             focus: true
+            activeFocusOnTab: true
+            Accessible.role: Accessible.Button
             Accessible.name: root.nextButtonName
             // Screen readers speak it with each paragraph, because the button gets the focus again.
             Accessible.description: label.text
-            onClicked: root.nextGuide(button)
+            Accessible.onPressAction: {
+                if (button.enabled)
+                    root.nextGuide(button);
+            }
+            Keys.onReturnPressed: event => press(event)
+            Keys.onEnterPressed: event => press(event)
+            Keys.onSpacePressed: event => press(event)
 
-            background: Rectangle {
+            MouseArea {
+                id: area
+
+                anchors.fill: parent
+                onPressed: {
+                    button.visualFocus = false;
+                    button.forceActiveFocus();
+                }
+                onClicked: root.nextGuide(button)
+            }
+
+            Rectangle {
+                objectName: "disc"
+                anchors.fill: parent
                 radius: width / 2
                 color: root.foreground
 
@@ -140,9 +171,11 @@ TQGuideView {
                 }
             }
 
-            contentItem: Arrow {
+            Arrow {
+                objectName: "arrow"
+                anchors.fill: parent
                 color: Qt.tint(root.dark ? "black" : "white", root.background)
-                rotation: button.mirrored ? 180 : 0
+                rotation: system.rightToLeft ? 180 : 0
             }
 
             SequentialAnimation {

@@ -40,7 +40,7 @@ Rgba shownColor(const QObject *item)
 
 QQuickItem *part(const QQuickItem *button, const char *name)
 {
-    return button->property(name).value<QQuickItem *>();
+    return button->findChild<QQuickItem *>(QLatin1String(name));
 }
 
 QRectF sceneRect(const QQuickItem *item)
@@ -83,8 +83,8 @@ TEST_F(GuideNib, HasLegibleColorsOnEveryTint)
             const auto guide = TQGuideView::initFromNib(app.tintColor(), {QStringLiteral("Text")}, nullptr);
             const Rgba ground = app.tintColor().resolved(appearance);
             const Rgba text = shownColor(guide->guideLabel());
-            const Rgba disc = shownColor(part(guide->nextButton(), "background"));
-            const Rgba arrow = shownColor(part(guide->nextButton(), "contentItem"));
+            const Rgba disc = shownColor(part(guide->nextButton(), "disc"));
+            const Rgba arrow = shownColor(part(guide->nextButton(), "arrow"));
             EXPECT_GE(contrast(text, ground), 4.5) << app.id().toStdString();
             EXPECT_GE(contrast(disc, ground), 4.5) << app.id().toStdString();
             EXPECT_GE(contrast(arrow, disc), 4.5) << app.id().toStdString();
@@ -389,11 +389,11 @@ TEST_F(GuideNib, MirrorsLayoutForRightToLeftLanguages)
     useLanguage("en");
     const auto left = shownIn({390, 844}, QStringLiteral("Text"));
     EXPECT_GT(sceneRect(left->nextButton()).center().x(), 195);
-    EXPECT_EQ(part(left->nextButton(), "contentItem")->rotation(), 0);
+    EXPECT_EQ(part(left->nextButton(), "arrow")->rotation(), 0);
     useLanguage("ar");
     const auto right = shownIn({390, 844}, QStringLiteral("نص"));
     EXPECT_LT(sceneRect(right->nextButton()).center().x(), 195);
-    EXPECT_EQ(part(right->nextButton(), "contentItem")->rotation(), 180);
+    EXPECT_EQ(part(right->nextButton(), "arrow")->rotation(), 180);
 }
 
 // The button.
@@ -420,9 +420,7 @@ TEST_F(GuideNib, HasOneControl)
 {
     const auto guide = made(paragraphs(3));
     const QList<QQuickItem *> items = guide->findChildren<QQuickItem *>();
-    EXPECT_EQ(std::count_if(items.begin(), items.end(),
-                            [](const QQuickItem *item) { return item->inherits("QQuickAbstractButton"); }),
-              1);
+    EXPECT_EQ(std::ranges::count_if(items, &QQuickItem::activeFocusOnTab), 1);
 }
 
 // Untrusted paragraphs.

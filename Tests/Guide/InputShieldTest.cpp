@@ -7,7 +7,6 @@
 #include <QtGui/qpa/qwindowsysteminterface.h>
 #include <QtGui/qpointingdevice.h>
 #include <QtQuick/qquickitem.h>
-#include <QtTest/qsignalspy.h>
 
 namespace TQFoundation {
 namespace {
@@ -395,10 +394,9 @@ TEST_F(InputShield, CancelsPressAtTouchCancel)
     const auto guide = shown();
     clock.pass(600);
     const QPoint middle = guide->nextButton()->mapToScene({30, 30}).toPoint();
-    const QSignalSpy canceled(guide->nextButton(), SIGNAL(canceled()));
     QTest::touchEvent(&host.window, touchScreen).press(0, middle);
+    EXPECT_TRUE(guide->nextButton()->property("pressed").toBool());
     cancelTouches();
-    EXPECT_EQ(canceled.count(), 1);
     EXPECT_FALSE(guide->nextButton()->property("pressed").toBool());
     EXPECT_EQ(taps(), 0);
     QTest::touchEvent(&host.window, touchScreen).press(0, middle);

@@ -73,15 +73,15 @@ QImage TQApp::icon() const
 {
     constexpr double largestSide = 16384;
 
-    const QImage artwork = libraryBundle().image(QLatin1String(rowOf(*this).iconName));
-    precondition(!artwork.isNull());
-
     const double scale = screenScale();
     const double pixels = std::round(iconSide * scale);
-    if (!(pixels >= 1 && pixels <= largestSide))
+    const bool isDrawable = pixels >= 1 && pixels <= largestSide;
+    const int side = isDrawable ? static_cast<int>(pixels) : iconSide;
+    const QImage artwork = libraryBundle().image(QLatin1String(rowOf(*this).iconName), side);
+    precondition(!artwork.isNull());
+    if (!isDrawable)
         return {};
-    const QSize size(static_cast<int>(pixels), static_cast<int>(pixels));
-    QImage thumbnail = artwork.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QImage thumbnail = artwork.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     thumbnail.setDevicePixelRatio(scale);
     return thumbnail;
 }

@@ -49,8 +49,14 @@ QString translated(const QString &root, const char *context, const QString &key)
 
 } // namespace
 
-QImage Bundle::image(const QString &name) const
+QImage Bundle::image(const QString &name, int side) const
 {
+    for (const int stored : {36, 72, 108}) {
+        if (stored % side != 0)
+            continue;
+        if (const QImage image(imagePath(QString::number(stored) + u'/' + name)); !image.isNull())
+            return image;
+    }
     return QImage(imagePath(name));
 }
 

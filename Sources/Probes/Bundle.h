@@ -18,11 +18,12 @@ public:
     /// The folder, without a trailing slash.
     const QString &root() const { return m_root; }
 
-    /// The PNG image \a name (without folder and extension) in full size; null if it is missing or broken. Decoded at
-    /// each call.
-    QImage image(const QString &name) const;
+    /// The PNG image \a name (without folder and extension); null if it is missing or broken. Decoded at each call.
+    /// It is in full size, unless the bundle stores it in a size that is a whole multiple of \a side (pixels, at least
+    /// 1).
+    QImage image(const QString &name, int side) const;
 
-    /// The URL of that image, which need not exist, for QML's `Image.source`.
+    /// The URL of the image \a name in full size, which need not exist, for QML's `Image.source`.
     QUrl imageUrl(const QString &name) const;
 
     /// The translation of \a key, or \a key itself if there is no table or no entry.

@@ -28,6 +28,25 @@ using Testing::useLanguage;
 // The number of apps.
 constexpr auto appCount = static_cast<int>(TQApp::allCases().size());
 
+// Expects each pixel of \a image to be the average of \a block by \a block pixels of \a artwork.
+void expectAverages(const QImage &image, const QImage &artwork, int block)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            int red = 0;
+            int alpha = 0;
+            for (int pixel = 0; pixel < block * block; ++pixel) {
+                const auto *line = reinterpret_cast<const QRgb *>(artwork.constScanLine(y * block + pixel / block));
+                red += qRed(line[x * block + pixel % block]);
+                alpha += qAlpha(line[x * block + pixel % block]);
+            }
+            const QRgb shown = reinterpret_cast<const QRgb *>(image.constScanLine(y))[x];
+            ASSERT_NEAR(qRed(shown), red / (block * block), 3) << x << ',' << y;
+            ASSERT_NEAR(qAlpha(shown), alpha / (block * block), 3) << x << ',' << y;
+        }
+    }
+}
+
 TEST(TQApp, ListsCasesInOrder)
 {
     constexpr auto cases = TQApp::allCases();
@@ -334,24 +353,15 @@ TEST(TQAppArtwork, BelongsToItsApp)
 TEST(TQAppArtwork, IsScaledByAveraging)
 {
     const InstalledRecordingPlatform platform;
-    platform->scale = 1;
-    constexpr int block = 6; // the artwork's pixels for each of the thumbnail's
-    const QImage artwork = QImage(QStringLiteral(":/qt-project.org/imports/TQFoundation/Icons/larch-page.png"))
-                               .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    const QImage icon = TQApp::larch.icon().convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    ASSERT_EQ(artwork.size(), icon.size() * block);
-    for (int y = 0; y < icon.height(); ++y) {
-        for (int x = 0; x < icon.width(); ++x) {
-            int red = 0;
-            int alpha = 0;
-            for (int pixel = 0; pixel < block * block; ++pixel) {
-                const auto *line = reinterpret_cast<const QRgb *>(artwork.constScanLine(y * block + pixel / block));
-                red += qRed(line[x * block + pixel % block]);
-                alpha += qAlpha(line[x * block + pixel % block]);
-            }
-            const QRgb shown = reinterpret_cast<const QRgb *>(icon.constScanLine(y))[x];
-            ASSERT_NEAR(qRed(shown), red / (block * block), 3) << x << ',' << y;
-            ASSERT_NEAR(qAlpha(shown), alpha / (block * block), 3) << x << ',' << y;
+    for (const TQApp app : TQApp::allCases()) {
+        const auto artwork =
+            QImage(app.iconUrl().toString().mid(3)).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        for (const double scale : {1.0, 1.5, 2.0, 3.0}) {
+            platform->scale = scale;
+            const QImage icon = app.icon().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+            const int block = artwork.width() / icon.width(); // the artwork's pixels for each of the icon's
+            ASSERT_EQ(artwork.size(), icon.size() * block);
+            expectAverages(icon, artwork, block);
         }
     }
 }

@@ -174,15 +174,27 @@ TEST(Bundle, KeepsInterfaceTextsInTheirOwnContext)
     EXPECT_EQ(libraryBundle().interfaceString(version), version);
 }
 
-TEST(Bundle, LoadsAnImageByName)
+TEST(Bundle, LoadsTheStoredSizeThatIsAWholeMultiple)
 {
-    EXPECT_EQ(libraryBundle().image(QStringLiteral("fir")).size(), QSize(216, 216));
+    const std::pair<int, int> expected[] = {{36, 36},   {18, 36},  {54, 108},  {72, 72},
+                                            {108, 108}, {45, 216}, {1000, 216}};
+    for (const auto &[side, stored] : expected)
+        EXPECT_EQ(libraryBundle().image(QStringLiteral("fir"), side).size(), QSize(stored, stored)) << side;
+}
+
+TEST(Bundle, LoadsTheFullSizeOfImagesThatAreNotStoredSmaller)
+{
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("Icons")));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(":/qt-project.org/imports/TQFoundation/Icons/fir.png"),
+                            folder.filePath(QStringLiteral("Icons/fir.png"))));
+    EXPECT_EQ(Bundle(folder.path()).image(QStringLiteral("fir"), 36).size(), QSize(216, 216));
 }
 
 TEST(Bundle, ReturnsNullForMissingImages)
 {
-    EXPECT_TRUE(libraryBundle().image(QStringLiteral("baobab")).isNull());
-    EXPECT_TRUE(libraryBundle().image(QString()).isNull());
+    EXPECT_TRUE(libraryBundle().image(QStringLiteral("baobab"), 36).isNull());
+    EXPECT_TRUE(libraryBundle().image(QString(), 36).isNull());
 }
 
 } // namespace

@@ -118,7 +118,7 @@ bench:
 	tools/install-packages build run bench
 	cmake --preset bench
 	cmake --build --preset bench
-	Benchmarks/run build/bench
+	Benchmarks/run build/bench --docs docs
 	Benchmarks/measure-background build/bench --docs docs
 
 install:

@@ -6,6 +6,7 @@
 // replacing a line by the next. `host` draws all the time, `host-1` does so beside one background.
 
 #include "Line.h"
+#include "Memory.h"
 #include "ShapeLayer.h"
 
 #include <TQFoundation/AnimationView.h>
@@ -120,19 +121,6 @@ struct Usage
     long wakeUps = 0;
     int frames;
 };
-
-// Private memory of the process in KiB. Pages of files are shared and do not count.
-qint64 memory()
-{
-    QFile status(QStringLiteral("/proc/self/smaps_rollup"));
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    for (const QByteArray &row : status.readAll().split('\n')) {
-        if (row.startsWith("Anonymous:"))
-            return row.simplified().split(' ').value(1).toLongLong();
-    }
-    return 0;
-}
 
 // Writes the line of the background to a file, for the alternatives.
 void writeLine(const AnimationView &view, const QString &file)

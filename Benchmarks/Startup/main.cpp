@@ -1,6 +1,9 @@
-// Shows one window and exits after its first frame.
+// Shows one window, prints its private memory in KiB after its first frame, and exits.
+
+#include "Memory.h"
 
 #include <QtCore/qlocale.h>
+#include <QtCore/qtextstream.h>
 #include <QtGui/qguiapplication.h>
 #include <QtQml/qqmlapplicationengine.h>
 #include <QtQuick/qquickwindow.h>
@@ -18,6 +21,11 @@ int main(int argc, char *argv[])
         return 1;
     // Without destructors, because shutdown is not measured.
     QObject::connect(
-        window, &QQuickWindow::frameSwapped, window, [] { std::_Exit(0); }, Qt::DirectConnection);
+        window, &QQuickWindow::frameSwapped, window,
+        [] {
+            QTextStream(stdout) << memory();
+            std::_Exit(0);
+        },
+        Qt::DirectConnection);
     return QGuiApplication::exec();
 }

@@ -8,6 +8,7 @@
 #include <QtCore/qlocale.h>
 #include <QtCore/qmutex.h>
 #include <QtCore/qtranslator.h>
+#include <QtGui/qimagereader.h>
 
 #include <map>
 
@@ -47,6 +48,17 @@ QString translated(const QString &root, const char *context, const QString &key)
     return entry.isNull() ? key : entry;
 }
 
+QImage readPng(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    // Detection would load the plugins of all other formats.
+    QImageReader reader(&file, "png");
+    reader.setAutoDetectImageFormat(false);
+    return reader.read();
+}
+
 } // namespace
 
 QImage Bundle::image(const QString &name, int side) const
@@ -54,10 +66,10 @@ QImage Bundle::image(const QString &name, int side) const
     for (const int stored : {36, 72, 108}) {
         if (stored % side != 0)
             continue;
-        if (const QImage image(imagePath(QString::number(stored) + u'/' + name)); !image.isNull())
+        if (const QImage image = readPng(imagePath(QString::number(stored) + u'/' + name)); !image.isNull())
             return image;
     }
-    return QImage(imagePath(name));
+    return readPng(imagePath(name));
 }
 
 QUrl Bundle::imageUrl(const QString &name) const

@@ -61,6 +61,7 @@ struct AnimationView::Stored
 AnimationView::AnimationView(QQuickItem *parent) : QQuickItem(parent), m_stored(std::make_unique<Stored>())
 {
     setFlag(ItemHasContents);
+    hideWindowsAtExit();
 }
 
 AnimationView::~AnimationView()

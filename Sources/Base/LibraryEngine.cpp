@@ -4,11 +4,14 @@
 
 #include <QtCore/qcoreapplication.h>
 #include <QtCore/qfile.h>
+#include <QtCore/qpointer.h>
 #include <QtCore/qscopedvaluerollback.h>
+#include <QtGui/qguiapplication.h>
 #include <QtQml/qqmlabstracturlinterceptor.h>
 #include <QtQml/qqmlcomponent.h>
 #include <QtQml/qqmlengine.h>
 #include <QtQuick/qquickitem.h>
+#include <QtQuick/qquickwindow.h>
 
 #include <algorithm>
 #include <utility>
@@ -41,6 +44,7 @@ bool isEnding = false;
 Library *library()
 {
     if (!instance) {
+        hideWindowsAtExit();
         instance = new Library;
         qAddPostRoutine([] {
             const QScopedValueRollback ending(isEnding, true);
@@ -85,6 +89,28 @@ bool hasQmlModule(const QString &name)
 QObject *applicationScope()
 {
     return &library()->scope;
+}
+
+void hideWindowsAtExit()
+{
+    // exit() destroys the calling thread's thread-local objects before all static ones, even if a render thread creates
+    // those later. The render thread of a window has stopped drawing when hide() returns.
+    struct Hider
+    {
+        ~Hider()
+        {
+            if (!QCoreApplication::instance())
+                return;
+            const QWindowList all = QGuiApplication::allWindows();
+            // A handler of visibleChanged() may destroy other windows.
+            const QList<QPointer<QWindow>> windows(all.begin(), all.end());
+            for (const QPointer<QWindow> &window : windows) {
+                if (auto *quickWindow = qobject_cast<QQuickWindow *>(window.data()))
+                    quickWindow->hide();
+            }
+        }
+    };
+    thread_local const Hider hider;
 }
 
 void deferredDelete(QObject *object)

@@ -23,6 +23,10 @@ bool hasQmlModule(const QString &name);
 /// Parent for objects that must be destroyed before the application object is. Never null. GUI thread.
 QObject *applicationScope();
 
+/// Hides all windows of Qt Quick if the calling thread, which is the GUI thread, ends the process by `exit()` while the
+/// application object exists. No render thread then uses objects that `exit()` destroys. Later calls do nothing.
+void hideWindowsAtExit();
+
 /// Deletes \a object in the event loop, because one of its own handlers may be running; at once if the application
 /// object is destroyed. An item leaves its window immediately. A deleter for shared pointers. GUI thread.
 void deferredDelete(QObject *object);

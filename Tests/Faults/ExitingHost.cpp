@@ -5,6 +5,7 @@
 #include <TQFoundation/Platform.h>
 #include <TQFoundation/TQGuideView.h>
 
+#include <QtCore/qeventloop.h>
 #include <QtCore/qtimer.h>
 #include <QtGui/qguiapplication.h>
 #include <QtQuick/qquickwindow.h>
@@ -42,15 +43,20 @@ int main(int, char *argv[])
     background->createTimer();
     const auto guide = TQGuideView::initFromNib(Color::systemBlue(), {QStringLiteral("Text")}, nullptr);
     guide->showGuide(&window);
+    QEventLoop loop;
     QTimer::singleShot(moment, &window, [&] {
         if (moment % 2)
             guide->nextGuide();
+        if (way == "exit")
+            std::exit(0);
         if (way == "quick_exit")
             std::quick_exit(0);
         if (way == "quit")
             QCoreApplication::quit();
-        else
+        if (way == "return")
+            loop.quit();
+        if (way == "close")
             window.close();
     });
-    return QGuiApplication::exec();
+    return way == "return" ? loop.exec() : QGuiApplication::exec();
 }

@@ -62,3 +62,31 @@ endif()
 install(DIRECTORY ${CMAKE_BINARY_DIR}/qml/TQFoundation/
     DESTINATION ${TQFOUNDATION_INSTALL_QMLDIR}/TQFoundation COMPONENT qml
     FILES_MATCHING PATTERN "Base" EXCLUDE PATTERN "Desktop" EXCLUDE PATTERN "Nibs" EXCLUDE PATTERN "qmldir" PATTERN "*.qmltypes" PATTERN "*.qml")
+
+# Documents and examples, each of which is a project by itself except Grove. The paths in documents are those of the
+# source tree, so they are replaced.
+if(PROJECT_IS_TOP_LEVEL)
+    set(TQFOUNDATION_INSTALL_DOCDIR ${CMAKE_INSTALL_DATADIR}/doc/TQFoundation
+        CACHE STRING "Folder of documents, relative to the prefix")
+    cmake_path(RELATIVE_PATH CMAKE_INSTALL_INCLUDEDIR BASE_DIRECTORY ${TQFOUNDATION_INSTALL_DOCDIR}
+        OUTPUT_VARIABLE headers)
+    file(GLOB pages RELATIVE ${PROJECT_SOURCE_DIR} *.md docs/*.md)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${pages})
+    foreach(page IN LISTS pages)
+        file(READ ${page} text)
+        string(REPLACE "](Sources/Platform/" "](${headers}/TQFoundation/" text "${text}")
+        string(REPLACE "](Tests/Support/" "](${headers}/TQFoundation/Testing/" text "${text}")
+        string(REPLACE "Tests/Consumer/" "examples/" text "${text}")
+        string(REGEX REPLACE "([`(])Example/" "\\1examples/Grove/" text "${text}")
+        file(WRITE ${PROJECT_BINARY_DIR}/documents/${page} "${text}")
+    endforeach()
+    install(DIRECTORY ${PROJECT_BINARY_DIR}/documents/
+        DESTINATION ${TQFOUNDATION_INSTALL_DOCDIR} COMPONENT development)
+    install(FILES LICENSE DESTINATION ${TQFOUNDATION_INSTALL_DOCDIR} COMPONENT development)
+    install(DIRECTORY docs/pictures DESTINATION ${TQFOUNDATION_INSTALL_DOCDIR}/docs COMPONENT development)
+    install(DIRECTORY Example/ DESTINATION ${TQFOUNDATION_INSTALL_DOCDIR}/examples/Grove COMPONENT development)
+    foreach(host IN ITEMS CppHost FirstApp HostTests MoreHost QmlOnlyHost SheetHost SmallestHost WidgetsHost)
+        install(DIRECTORY Tests/Consumer/${host} DESTINATION ${TQFOUNDATION_INSTALL_DOCDIR}/examples
+            COMPONENT development)
+    endforeach()
+endif()

@@ -83,13 +83,4 @@ foreach(part IN ITEMS RUNTIME DEVELOPMENT QML)
         DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides COMPONENT ${component})
 endforeach()
 
-# Documents, the sources of Grove, and small hosts, each of which is a project by itself.
-set(documents ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME})
-install(FILES README.md DESTINATION ${documents} COMPONENT development)
-install(DIRECTORY docs DESTINATION ${documents} COMPONENT development PATTERN Doxyfile EXCLUDE)
-install(DIRECTORY Example/ DESTINATION ${documents}/examples/Grove COMPONENT development)
-foreach(host IN ITEMS CppHost FirstApp HostTests MoreHost QmlOnlyHost SheetHost SmallestHost WidgetsHost)
-    install(DIRECTORY Tests/Consumer/${host} DESTINATION ${documents}/examples COMPONENT development)
-endforeach()
-
 include(CPack)

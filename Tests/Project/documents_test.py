@@ -85,6 +85,12 @@ for name, package_version in re.findall(r"`([\w-]+?)_([\d.]+)-1_amd64\.deb`", in
     if package_version != version or name.removesuffix(version[0]) not in packaging:
         failures.append(f"README.md: there is no package {name} {package_version}")
 
+# Releasing.
+release = (root / "docs/release.md").read_text(encoding="utf-8")
+check = release.split("make release-check")[1].split("**Tag")[0]
+compare("commands of release-check in release.md", set(re.findall(r"`(\.ci/run|make [^`]+)`", check)),
+        set(constant(root / "tools/release-check", "RUNS")))
+
 # The catalogue: name, filing or null, and a guide at the end of the row.
 identity = (root / "Sources/Catalogue/DeveloperIdentity.h").read_text(encoding="utf-8")
 apps = re.findall(r'\{"(\w+)", "\d+", ("\w+"|nullptr), .*?(, \w+Guide)?\},$', identity, re.MULTILINE)

@@ -2,9 +2,9 @@
 
 #include "DriftPath.h"
 #include "LibraryEngine.h"
-#include "QmlAppearance.h"
 #include "ShapeLayer.h"
 #include "ShuffledDistribution.h"
+#include "TQFoundation/AppearanceObserver.h"
 #include "TQFoundation/Environment.h"
 #include "TQFoundation/Platform.h"
 #include "UpdateLayerNode.h"
@@ -126,7 +126,7 @@ void AnimationView::updateTimer()
     ShapeLayer line;
     line.path = driftPath(m_stored->transitPoints, screen(), random);
     line.lineWidth = 2;
-    line.strokeColor = m_stored->color.resolved(QmlAppearance::current());
+    line.strokeColor = m_stored->color.resolved(AppearanceObserver::current());
     line.strokeColor.alpha = 0.2F;
 
     using KeyPath = BasicAnimation::KeyPath;

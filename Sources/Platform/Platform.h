@@ -151,7 +151,7 @@ TQFOUNDATION_EXPORT Platform &platform();
 TQFOUNDATION_EXPORT std::unique_ptr<Platform> installPlatform(std::unique_ptr<Platform> next);
 
 /// Tells the library that platform().appearance() has changed. Guide and sheets follow at once, a background with its
-/// next line. GUI thread.
+/// next line. A host notices it by an AppearanceObserver. GUI thread.
 TQFOUNDATION_EXPORT void appearanceChanged();
 
 /// Makes the platform that the library uses until another one is installed. Defined in Desktop, one of the two

@@ -1,4 +1,4 @@
-#include "QmlAppearance.h"
+#include "AppearanceObserver.h"
 
 #include "AppearanceNotifier.h"
 #include "TQFoundation/Platform.h"
@@ -9,13 +9,13 @@
 
 namespace TQFoundation {
 
-QmlAppearance::QmlAppearance(QObject *parent) : QObject(parent)
+AppearanceObserver::AppearanceObserver(QObject *parent) : QObject(parent)
 {
-    connect(&AppearanceNotifier::instance(), &AppearanceNotifier::changed, this, &QmlAppearance::update);
+    connect(&AppearanceNotifier::instance(), &AppearanceNotifier::changed, this, &AppearanceObserver::update);
     qGuiApp->installEventFilter(this);
 }
 
-Appearance QmlAppearance::current()
+Appearance AppearanceObserver::current()
 {
     const QPalette palette = QGuiApplication::palette();
     const float ground = palette.color(QPalette::Window).lightnessF();
@@ -23,14 +23,14 @@ Appearance QmlAppearance::current()
     return platform().appearance().value_or(ground < text ? Appearance::dark : Appearance::light);
 }
 
-bool QmlAppearance::eventFilter(QObject *watched, QEvent *event)
+bool AppearanceObserver::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange)
         update();
     return QObject::eventFilter(watched, event);
 }
 
-void QmlAppearance::update()
+void AppearanceObserver::update()
 {
     const bool isDark = current() == Appearance::dark;
     if (m_isDark == isDark)

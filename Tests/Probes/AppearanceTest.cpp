@@ -1,5 +1,7 @@
 #include "RecordingPlatform.h"
 
+#include <TQFoundation/AppearanceObserver.h>
+
 #include <QtCore/qcoreapplication.h>
 #include <QtGui/qguiapplication.h>
 #include <QtGui/qpalette.h>
@@ -9,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <vector>
 
 namespace TQFoundation {
 namespace {
@@ -93,6 +96,22 @@ TEST_F(AppearanceInQml, TellsOnlyOfRealChanges)
     appearanceChanged();
     QGuiApplication::setPalette(palette(Qt::white, Qt::black));
     EXPECT_EQ(host->property("changes").toInt(), changes);
+}
+
+TEST_F(AppearanceInQml, IsObservedInCpp)
+{
+    recording->currentAppearance = Appearance::light;
+    AppearanceObserver observer;
+    std::vector<bool> seen;
+    QObject::connect(&observer, &AppearanceObserver::isDarkChanged, [&] { seen.push_back(observer.isDark()); });
+    recording->currentAppearance = Appearance::dark;
+    appearanceChanged();
+    QGuiApplication::setPalette(palette(Qt::white, Qt::black));
+    recording->currentAppearance.reset();
+    appearanceChanged();
+    QGuiApplication::setPalette(palette(Qt::black, Qt::white));
+    EXPECT_EQ(seen, (std::vector{true, false, true}));
+    EXPECT_EQ(AppearanceObserver::current(), Appearance::dark);
 }
 
 } // namespace

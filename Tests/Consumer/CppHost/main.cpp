@@ -1,3 +1,4 @@
+#include <TQFoundation/AppearanceObserver.h>
 #include <TQFoundation/DesktopPlatform.h>
 #include <TQFoundation/TQApp.h>
 #include <TQFoundation/TQGuideView.h>
@@ -27,6 +28,14 @@ int main(int argc, char *argv[])
     window.setTitle(TQApp::name());
     window.resize(390, 844);
     window.show();
+
+    AppearanceObserver appearance;
+    const auto setColor = [&window] {
+        const Rgba tint = TQApp::hazel.tintColor().resolved(AppearanceObserver::current());
+        window.setColor(QColor::fromRgbF(tint.red, tint.green, tint.blue, tint.alpha));
+    };
+    setColor();
+    QObject::connect(&appearance, &AppearanceObserver::isDarkChanged, &window, setColor);
 
     const TQApp app = TQApp::hazel;
     if (!app.guideText().isEmpty() && TQGuideView::shouldShowGuide()) {

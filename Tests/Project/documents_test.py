@@ -88,7 +88,7 @@ for name, package_version in re.findall(r"`([\w-]+?)_([\d.]+)-1_amd64\.deb`", in
 # Releasing.
 release = (root / "docs/release.md").read_text(encoding="utf-8")
 check = release.split("make release-check")[1].split("**Tag")[0]
-compare("commands of release-check in release.md", set(re.findall(r"`(\.ci/run|make [^`]+)`", check)),
+compare("commands of release-check in release.md", set(re.findall(r"`(\.ci/run|(?:ctest|make) [^`]+)`", check)),
         set(constant(root / "tools/release-check", "RUNS")))
 
 # The catalogue: name, filing or null, and a guide at the end of the row.

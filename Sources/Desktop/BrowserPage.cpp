@@ -3,6 +3,12 @@
 #include "SheetText.h"
 #include "TQFoundation/Platform.h"
 
+#include <QtCore/qcoreapplication.h>
+#include <QtCore/qlist.h>
+#include <QtCore/qpointer.h>
+#include <QtCore/qtimer.h>
+
+#include <chrono>
 #include <utility>
 
 namespace TQFoundation {
@@ -72,6 +78,24 @@ void BrowserPage::fail(Problem problem)
     endLoading();
     if (m_problem == NoProblem)
         setProblem(problem);
+}
+
+void BrowserPage::destroyLater(QObject *profile) const
+{
+    static QList<QPointer<QObject>> kept;
+    // Called before Qt WebEngine's own, which is older and ends what a profile needs.
+    static const bool isRegistered = [] {
+        qAddPostRoutine([] {
+            for (const QPointer<QObject> &each : std::exchange(kept, {}))
+                delete each;
+        });
+        return true;
+    }();
+    Q_UNUSED(isRegistered)
+    kept.removeAll(nullptr);
+    kept.append(profile);
+    profile->setParent(nullptr);
+    QTimer::singleShot(std::chrono::seconds(10), profile, &QObject::deleteLater);
 }
 
 void BrowserPage::setProblem(Problem problem)

@@ -31,8 +31,12 @@ WebEngineView {
 
     // Keeps nothing on disk. Refuses downloads, because nothing accepts them.
     profile: WebEngineProfile {
+        id: ownProfile
+
         offTheRecord: true
     }
+    // By its id, because the view's own property is gone if the app ends.
+    Component.onDestruction: page.destroyLater(ownProfile)
     // The default of web pages that set no colours of their own.
     backgroundColor: "#ffffff"
     settings {

@@ -2,9 +2,13 @@
 
 #include "RecordingPlatform.h"
 
+#include <QtCore/qcoreapplication.h>
+#include <QtCore/qpointer.h>
 #include <QtTest/qsignalspy.h>
 
 #include <gtest/gtest.h>
+
+#include <memory>
 
 namespace TQFoundation {
 namespace {
@@ -92,6 +96,19 @@ TEST(BrowserPage, HasATextForEachProblem)
                            QStringLiteral("The connection to this site is not secure, so the page was not opened."),
                            QStringLiteral("This page has stopped working."),
                            QStringLiteral("This page takes too long to load.")}));
+}
+
+// Qt WebEngine's threads may still use a profile when its view is destroyed.
+TEST(BrowserPage, KeepsAProfileBeyondItsView)
+{
+    const BrowserPage page;
+    auto view = std::make_unique<QObject>();
+    const QPointer<QObject> profile = new QObject(view.get());
+    page.destroyLater(profile);
+    view.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(profile);
+    delete profile;
 }
 
 } // namespace

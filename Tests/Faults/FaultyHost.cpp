@@ -63,7 +63,8 @@ public:
     }
 };
 
-// Opens the filing site and prints whether the in-app browser or the system shows it.
+// Opens the filing site and prints whether the in-app browser or the system shows it. With "close" the browser is closed
+// before the app ends.
 int openFilingSite(int argc, char *argv[])
 {
     QGuiApplication application(argc, argv);
@@ -77,7 +78,9 @@ int openFilingSite(int argc, char *argv[])
         [&] {
             TQMore::openUrl(QStringLiteral("https://beian.miit.gov.cn"), TQApp::hazel.tintColor());
             std::puts(TQMore::topViewController() == root ? "no sheet" : "sheet");
-            QCoreApplication::quit();
+            if (argc > 2)
+                root->dismiss();
+            QTimer::singleShot(argc > 2 ? 1000 : 0, &application, &QCoreApplication::quit);
         },
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     window.show();

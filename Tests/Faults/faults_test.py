@@ -89,10 +89,11 @@ with tempfile.TemporaryDirectory() as name:
         environment.update({key: os.environ[key] for key in ("DISPLAY", "XAUTHORITY")}, QT_QPA_PLATFORM="xcb",
                            LIBGL_ALWAYS_SOFTWARE="1", QTWEBENGINE_DISABLE_SANDBOX="1")
         del environment["QT_QUICK_BACKEND"]
-        result = run("open-filing-site")
         shown = "sheet" if fault == "WebEngine" else "system https://beian.miit.gov.cn\nno sheet"
-        expect(result.returncode == 0 and result.stdout.strip() == shown,
-               f"{result.returncode} {result.stdout} {result.stderr}")
+        for end in ([], ["close"]):
+            result = run("open-filing-site", *end)
+            expect(result.returncode == 0 and result.stdout.strip() == shown,
+                   f"{end} {result.returncode} {result.stdout} {result.stderr}")
         sys.exit(0)
     else:
         sys.exit(f"unknown: {fault}")

@@ -26,9 +26,9 @@ void load(QTranslator &table, const QString &root)
     }
 }
 
-// Immutable once loaded, so that readers need no lock.
-const QTranslator &tableOf(const QString &root)
+QString lookUp(const QString &root, const char *context, const char *text)
 {
+    // Held during the look-up, because newer QTranslators find nothing while another thread translates with them.
     static QMutex mutex;
     // Never destroyed, because other threads may translate while the process exits.
     static auto &tables = *new std::map<QString, QTranslator>;
@@ -36,15 +36,15 @@ const QTranslator &tableOf(const QString &root)
     const auto [entry, isNew] = tables.try_emplace(root);
     if (isNew)
         load(entry->second, root);
-    return entry->second;
+    return entry->second.translate(context, text);
 }
 
 QString translated(const QString &root, const char *context, const QString &key)
 {
-    // QTranslator takes a C string and would look up the part before a NUL.
-    if (key.contains(QChar::Null))
+    // QTranslator takes a C string and would look up the part before a NUL; UTF-8 may leave out half a character.
+    if (key.contains(QChar::Null) || !key.isValidUtf16())
         return key;
-    const QString entry = tableOf(root).translate(context, key.toUtf8().constData());
+    const QString entry = lookUp(root, context, key.toUtf8().constData());
     return entry.isNull() ? key : entry;
 }
 

@@ -80,6 +80,9 @@ InputShield::InputShield(QQuickItem *overlay) : QQuickItem(overlay), m_overlay(o
     setAcceptHoverEvents(true);
     // A Flickable of the host must not steal a gesture that began on the overlay.
     setKeepMouseGrab(true);
+    // Newer versions of Qt Quick call contains() only inside the item's rectangle, which therefore covers any window.
+    setPosition({-1e5, -1e5});
+    setSize({2e5, 2e5});
 }
 
 InputShield::~InputShield()
@@ -171,7 +174,8 @@ void InputShield::restoreFocus(const QQuickWindow &window)
 
 bool InputShield::contains(const QPointF &point) const
 {
-    return (m_window && m_overlay->parentItem() == m_window->contentItem()) || m_overlay->contains(point);
+    return (m_window && m_overlay->parentItem() == m_window->contentItem())
+        || m_overlay->contains(mapToItem(m_overlay, point));
 }
 
 void InputShield::itemChange(ItemChange change, const ItemChangeData &data)
@@ -228,7 +232,7 @@ bool InputShield::event(QEvent *event)
 {
     if (event->type() == QEvent::DragEnter)
         static_cast<QDropEvent *>(event)->setDropAction(Qt::IgnoreAction);
-    else if (!event->isPointerEvent())
+    else if (!event->isPointerEvent() && event->type() != QEvent::ContextMenu)
         return QQuickItem::event(event);
     event->accept();
     return true;

@@ -33,8 +33,8 @@ public:
     /// in the event loop after most changes; call it to have the effect at once. Does nothing without a window.
     void updateStacking();
 
-    /// Whether \a point, in the overlay's coordinates, is shielded: any point if the overlay is a child of its window's
-    /// content item, else the points of the overlay.
+    /// Whether \a point is shielded: any point if the overlay is a child of its window's content item, else the points
+    /// of the overlay.
     bool contains(const QPointF &point) const override;
 
 protected:

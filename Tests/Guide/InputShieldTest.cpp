@@ -14,7 +14,8 @@ namespace {
 using Testing::keyScene;
 using Testing::QmlWindow;
 
-// Records every event that its items, handlers, shortcuts and popup receive.
+// Records every event that its items, handlers, shortcuts and popup receive. The editor is no TextField, because newer
+// ones open a context menu, which takes the focus.
 constexpr char recordingHost[] = R"(
 import QtQuick.Controls
 Item {
@@ -57,7 +58,7 @@ Item {
         onCanceled: root.record("cancel")
     }
     DropArea { anchors.fill: parent; onEntered: root.record("drag"); onDropped: root.record("drop") }
-    TextField { id: editor; onTextEdited: root.record("edit") }
+    TextInput { id: editor; width: 120; height: 25; activeFocusOnTab: true; onTextEdited: root.record("edit") }
     Button { y: 100; focusPolicy: Qt.TabFocus; onClicked: root.record("click"); onActiveFocusChanged: root.record("focus") }
     Popup {
         id: popup
@@ -328,6 +329,36 @@ TEST_F(InputShield, RejectsDragFromAnotherApp)
     QDropEvent drop(QPointF(195, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&host.window, &drop);
     EXPECT_EQ(received(), QString());
+}
+
+// Older versions of Qt send these events to widgets only.
+TEST_F(InputShield, BlocksContextMenus)
+{
+    class Menus final : public QQuickItem
+    {
+    public:
+        using QQuickItem::QQuickItem;
+        int opened = 0;
+
+    protected:
+        bool event(QEvent *event) override
+        {
+            opened += event->type() == QEvent::ContextMenu;
+            return QQuickItem::event(event);
+        }
+    };
+    Menus menus(host.item);
+    menus.setSize({390, 700});
+    menus.setFocus(true);
+    const auto guide = shown();
+    for (const QPoint place : places()) {
+        QTest::mouseClick(&host.window, Qt::RightButton, {}, place);
+        for (const auto reason : {QContextMenuEvent::Mouse, QContextMenuEvent::Keyboard}) {
+            QContextMenuEvent event(reason, place, host.window.mapToGlobal(place), Qt::NoModifier);
+            QCoreApplication::sendEvent(&host.window, &event);
+        }
+    }
+    EXPECT_EQ(menus.opened, 0);
 }
 
 TEST_F(InputShield, TreatsStylusAsPointer)

@@ -13,6 +13,16 @@ WebEngineView {
     // The page that began to load last.
     property url requestedUrl: page.url
 
+    // Owns a profile that keeps nothing on disk and refuses downloads, because nothing accepts them: from Qt 6.9 on its
+    // prototype, because any other way logs a warning; before, the profile itself.
+    readonly property QtObject profileOwner: {
+        try {
+            return Qt.createQmlObject("import QtWebEngine; WebEngineProfilePrototype {}", root);
+        } catch (olderQt) {
+            return Qt.createQmlObject("import QtWebEngine; WebEngineProfile { offTheRecord: true }", root);
+        }
+    }
+
     // Reloads the shown page, or loads the requested one after a problem.
     function load() {
         if (page.problem === BrowserPage.NoProblem && hasContent)
@@ -29,14 +39,8 @@ WebEngineView {
         runJavaScript(page.linkScript(target), WebEngineScript.ApplicationWorld); // qmllint disable unqualified
     }
 
-    // Keeps nothing on disk. Refuses downloads, because nothing accepts them.
-    profile: WebEngineProfile {
-        id: ownProfile
-
-        offTheRecord: true
-    }
-    // By its id, because the view's own property is gone if the app ends.
-    Component.onDestruction: page.destroyLater(ownProfile)
+    profile: profileOwner.instance ? profileOwner.instance() : profileOwner // qmllint disable
+    Component.onDestruction: page.destroyLater(profileOwner)
     // The default of web pages that set no colours of their own.
     backgroundColor: "#ffffff"
     settings {

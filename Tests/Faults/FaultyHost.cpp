@@ -63,8 +63,8 @@ public:
     }
 };
 
-// Opens the filing site and prints whether the in-app browser or the system shows it. With "close" the browser is closed
-// before the app ends.
+// Opens the filing site and prints whether the in-app browser or the system shows it. With "close" the browser is
+// closed before the app ends.
 int openFilingSite(int argc, char *argv[])
 {
     QGuiApplication application(argc, argv);

@@ -161,6 +161,8 @@ protected:
             u"QVulkanInstance: Failed to initialize Vulkan",
             u"Failed to create platform Vulkan instance",
             u"Unable to detect GPU vendor.",
+            u"Failed to create RHI for backend: OpenGL",
+            u"GPUInfo not initialized on GpuInfoUpdate",
         };
         const bool isTheEngines = QByteArrayView(context.category).startsWith("qt.webengine")
             || message.startsWith(u"QWebEngine") || message.startsWith(u"Sandboxing disabled")

@@ -172,6 +172,7 @@ TEST_F(MailDraft, KeepsTextIfThereIsNoProgram)
     EXPECT_EQ(document()->toPlainText(), QStringLiteral("precious"));
     EXPECT_EQ(root->results, QList<Result>());
     makeKeepingProgram();
+    window->grabWindow(); // the button can be clicked once it is drawn
     click(button("Try Again"));
     ASSERT_TRUE(comes([this] { return !isShown(); }));
     EXPECT_TRUE(sentHtml().contains(QStringLiteral("precious")));
@@ -245,6 +246,7 @@ TEST_F(MailDraft, ReportsTimeoutAfterThirtySeconds)
     EXPECT_TRUE(isShown());
     EXPECT_TRUE(comes([this] { return ::kill(kept("process").trimmed().toInt(), 0) != 0; })) << "it is ended";
     makeKeepingProgram();
+    window->grabWindow(); // the button can be clicked once it is drawn
     click(button("Try Again"));
     ASSERT_TRUE(comes([this] { return !isShown(); }));
     platform->advance(60);

@@ -72,8 +72,8 @@ public:
     }
 
     /// Returns the accessible tree below \a object in reading order, one line per object: indented by its depth, with
-    /// its role, its name, and the states focusable, focused and read only. Whether Qt counts a disabled object as
-    /// focusable depends on its version, so that it is not.
+    /// its role, its name, and the states focusable, focused and read only. Left out, because it depends on the version
+    /// of Qt: that a disabled object is focusable, that an unfocusable one is read only, the client area of a window.
     static std::string tree(QObject *object) { return linesOf(describes(object), 0).join(u'\n').toStdString(); }
 
     /// Performs the press action of \a object's accessible interface.
@@ -91,18 +91,22 @@ private:
         if (state.invisible)
             return {};
         const bool isEnabled = !from->object() || from->object()->property("enabled") != QVariant(false);
+        const bool isListed = from->role() != QAccessible::Client;
         QString line = QString(depth, u' ')
             + QLatin1String(QMetaEnum::fromType<QAccessible::Role>().valueToKey(from->role())) + u" '"
             + from->text(QAccessible::Name) + u'\'';
-        const std::pair<bool, const char *> words[] = {
-            {state.focusable && isEnabled, "focusable"}, {state.focused, "focused"}, {state.readOnly, "read only"}};
+        const std::pair<bool, const char *> words[] = {{state.focusable && isEnabled, "focusable"},
+                                                       {state.focused, "focused"},
+                                                       {state.readOnly && state.focusable, "read only"}};
         for (const auto &[holds, word] : words) {
             if (holds)
                 line += u' ' + QLatin1String(word);
         }
-        QStringList lines(line);
+        QStringList lines;
+        if (isListed)
+            lines += line;
         for (int index = 0; index < from->childCount(); ++index)
-            lines += linesOf(from->child(index), depth + 1);
+            lines += linesOf(from->child(index), depth + isListed);
         return lines;
     }
 

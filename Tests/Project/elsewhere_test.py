@@ -13,12 +13,13 @@ root = pathlib.Path(sys.argv[1])
 WORKING = {"id": "echo 0", "df": "printf 'Avail\\n100\\n'", "git": "exit 0", "unshare": 'shift 3; exec "$@"',
            "mmdebstrap": "exit 0"}
 CASES = {
-    "unknown SUITE": (["sarge"], {}, "use bookworm or trixie"),
-    "unknown SUITE for packages": (["--packages", "sarge"], {}, "use bookworm or trixie"),
+    "unknown SUITE": (["sarge"], {}, "use bookworm, trixie or sid"),
+    "unknown SUITE for packages": (["--packages", "sarge"], {}, "use bookworm, trixie or sid"),
     "no root": (["trixie"], {"id": "echo 1000"}, "sudo"),
     "no mmdebstrap": (["trixie"], {"mmdebstrap": None}, "apt-get install"),
     "no space": (["trixie"], {"df": "printf 'Avail\\n1\\n'"}, "GiB"),
     "no mirror": (["trixie"], {"mmdebstrap": "mkdir -p \"$4/etc\"; echo 'Could not connect to 192.0.2.1'; exit 25"}, "MIRROR"),
+    "old mirror of sid": (["sid"], {"mmdebstrap": "echo \"Could not use $*\"; exit 25"}, 'Check-Valid-Until "false"'),
 }
 TOOLS = ("sh", "dirname", "mkdir", "rm", "tail", "grep", "umount")
 failures = []

@@ -66,7 +66,7 @@ QImage Bundle::image(const QString &name, int side) const
     for (const int stored : {36, 72, 108}) {
         if (stored % side != 0)
             continue;
-        if (const QImage image = readPng(imagePath(QString::number(stored) + u'/' + name)); !image.isNull())
+        if (QImage image = readPng(imagePath(QString::number(stored) + u'/' + name)); !image.isNull())
             return image;
     }
     return readPng(imagePath(name));

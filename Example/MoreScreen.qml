@@ -64,7 +64,7 @@ FocusScope {
             Accessible.name: qsTr("Dark Appearance")
             onClicked: root.appearanceChosen(!Theme.dark)
 
-            // A circle whose right half is filled.
+            // A circle of which one half is filled.
             contentItem: Item {
                 Rectangle {
                     anchors.centerIn: parent
@@ -80,7 +80,7 @@ FocusScope {
                         clip: true
 
                         Rectangle {
-                            x: -10
+                            anchors.right: parent.right
                             width: 20
                             height: 20
                             radius: 10

@@ -72,7 +72,7 @@ TEST(WaylandScreen, BackgroundMovesToTheSecondOutput)
     Testing::CountedWindow window;
     view->setParentItem(window.contentItem());
     view->createTimer();
-    for (QScreen *screen : {screens[1], screens[0], screens[1]}) {
+    for (QScreen *screen : {screens[0], screens[1], screens[0], screens[1]}) {
         window.hide();
         window.setScreen(screen);
         window.showFullScreen();

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 namespace {
 
 // The library logs nothing, so every logged line fails the running test. Qt's Wayland client logs one if a window is
@@ -15,6 +17,29 @@ void failOnLog(QtMsgType, const QMessageLogContext &, const QString &message)
         return;
     ADD_FAILURE() << "logged: " << message.toStdString();
 }
+
+/// Prints, after a test has failed, the command that runs it again.
+class RunAgain final : public testing::EmptyTestEventListener
+{
+public:
+    explicit RunAgain(const char *program) : m_program(program) {}
+
+    void OnTestEnd(const testing::TestInfo &test) override
+    {
+        if (!test.result()->Failed())
+            return;
+        std::printf("Run it again:");
+        for (const char *name : {"QT_QPA_PLATFORM", "QT_QUICK_BACKEND", "QT_SCALE_FACTOR", "QSG_RENDER_LOOP",
+                                 "QSG_RHI_BACKEND", "LIBGL_ALWAYS_SOFTWARE", "TQ_OPENGL_ES"}) {
+            if (qEnvironmentVariableIsSet(name))
+                std::printf(" %s=%s", name, qgetenv(name).constData());
+        }
+        std::printf(" %s --gtest_filter=%s.%s\n", m_program, test.test_suite_name(), test.name());
+    }
+
+private:
+    const char *const m_program;
+};
 
 } // namespace
 
@@ -45,5 +70,6 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationName(QStringLiteral("TQFoundation"));
     QCoreApplication::setApplicationName(QStringLiteral("Tests"));
     qInstallMessageHandler(failOnLog);
+    testing::UnitTest::GetInstance()->listeners().Append(new RunAgain(argv[0]));
     return RUN_ALL_TESTS();
 }

@@ -1,6 +1,6 @@
 # Entry points for developers. Every target runs CMake with a preset of CMakePresets.json.
 .DEFAULT_GOAL := help
-.PHONY: help run test elsewhere sanitize fuzz storm soak coverage mutate lint docs bench install new-app packages try-packages pictures release-check format clean
+.PHONY: help run test test-arm64 elsewhere sanitize fuzz storm soak coverage mutate lint docs bench install new-app packages try-packages pictures release-check format clean
 
 PREFIX ?= /usr/local
 ARGS ?=
@@ -19,6 +19,7 @@ units = $(shell find Sources Example -name '*.cpp')
 help:
 	@echo "make run        build and start the example (ARGS=\"--app birch --dark\"); without a display, write pictures"
 	@echo "make test       check formatting and QML files, build, run all tests"
+	@echo "make test-arm64  compile for arm64 on x86-64 and run the tests that an emulator can run"
 	@echo "make elsewhere  run \`make run\` and \`make test\` in a minimal system of the Debian release SUITE, or of each"
 	@echo "make sanitize   run the tests under AddressSanitizer, UndefinedBehaviorSanitizer, ThreadSanitizer and Valgrind"
 	@echo "make fuzz       run each fuzz target for SECONDS=$(SECONDS) seconds"
@@ -51,6 +52,12 @@ test:
 	cmake --build --preset release
 	cmake --build --preset release --target all_qmllint
 	ctest --preset release $(CTEST)
+
+test-arm64:
+	tools/install-packages build run arm64
+	cmake --preset arm64 -DTQFOUNDATION_WERROR=$(WERROR)
+	cmake --build --preset arm64
+	ctest --preset arm64 $(CTEST)
 
 elsewhere:
 	CTEST="$(CTEST)" tools/elsewhere $(SUITE)

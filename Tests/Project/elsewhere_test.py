@@ -11,10 +11,14 @@ import tempfile
 root = pathlib.Path(sys.argv[1])
 # The stubs of a machine on which everything works; unshare runs its command without a namespace.
 WORKING = {"id": "echo 0", "df": "printf 'Avail\\n100\\n'", "git": "exit 0", "unshare": 'shift 3; exec "$@"',
-           "mmdebstrap": "exit 0"}
+           "mmdebstrap": "exit 0", "arch-test": "exit 0"}
 CASES = {
-    "unknown SUITE": (["sarge"], {}, "use bookworm, trixie or sid"),
-    "unknown SUITE for packages": (["--packages", "sarge"], {}, "use bookworm, trixie or sid"),
+    "unknown SUITE": (["sarge"], {}, "use bookworm, trixie, sid or bookworm-arm64"),
+    "unknown SUITE for packages": (["--packages", "sarge"], {}, "use bookworm, trixie, sid or bookworm-arm64"),
+    "packages for arm64": (["--packages", "bookworm-arm64"], {}, "use bookworm, trixie or sid"),
+    "no arch-test": (["bookworm-arm64"], {"arch-test": None}, "apt-get install"),
+    "no emulator": (["bookworm-arm64"], {"arch-test": "exit 1"}, "update-binfmts"),
+    "no mirror for arm64": (["bookworm-arm64"], {"mmdebstrap": "exit 25"}, "MIRROR"),
     "no root": (["trixie"], {"id": "echo 1000"}, "sudo"),
     "no mmdebstrap": (["trixie"], {"mmdebstrap": None}, "apt-get install"),
     "no space": (["trixie"], {"df": "printf 'Avail\\n1\\n'"}, "GiB"),

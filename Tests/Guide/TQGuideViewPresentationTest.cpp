@@ -142,7 +142,7 @@ TEST_F(TQGuideViewPresentation, StopsProcessWithoutParagraphs)
                              [] { std::fprintf(stderr, "added"); });
             guide->showGuide();
         },
-        testing::KilledBySignal(trapSignal), "^$");
+        testing::KilledBySignal(trapSignal), Testing::noMessage);
 }
 
 TEST_F(TQGuideViewPresentation, StopsProcessWithoutLabel)

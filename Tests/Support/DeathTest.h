@@ -13,4 +13,7 @@ inline constexpr int trapSignal = SIGILL;
 inline constexpr int trapSignal = SIGTRAP;
 #endif
 
+/// Regular expression of an empty standard error. An emulator of another processor writes one line about the signal.
+inline constexpr const char *noMessage = "^(qemu: uncaught target signal [^\n]*\n)?$";
+
 } // namespace TQFoundation::Testing

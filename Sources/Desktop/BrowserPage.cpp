@@ -80,7 +80,7 @@ void BrowserPage::fail(Problem problem)
         setProblem(problem);
 }
 
-void BrowserPage::destroyLater(QObject *owner) const
+void BrowserPage::destroyLater(QObject *profile) const
 {
     static QList<QPointer<QObject>> kept;
     // Called before Qt WebEngine's own, which is older and ends what a profile needs.
@@ -93,9 +93,9 @@ void BrowserPage::destroyLater(QObject *owner) const
     }();
     Q_UNUSED(isRegistered)
     kept.removeAll(nullptr);
-    kept.append(owner);
-    owner->setParent(nullptr);
-    QTimer::singleShot(std::chrono::seconds(10), owner, &QObject::deleteLater);
+    kept.append(profile);
+    profile->setParent(nullptr);
+    QTimer::singleShot(std::chrono::seconds(10), profile, &QObject::deleteLater);
 }
 
 void BrowserPage::setProblem(Problem problem)

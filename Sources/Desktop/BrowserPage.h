@@ -73,9 +73,9 @@ public:
     /// Cancels the timeout and sets the problem. Only the first problem of a page counts; later ones are ignored.
     Q_INVOKABLE void fail(TQFoundation::BrowserPage::Problem problem);
 
-    /// Keeps the \a owner of a web view's profile for ten more seconds, or until the application object is destroyed.
+    /// Keeps a web view's \a profile for ten more seconds, or until the application object is destroyed.
     /// Qt WebEngine crashes at times if a profile is destroyed while its threads still end a refused download.
-    Q_INVOKABLE void destroyLater(QObject *owner) const;
+    Q_INVOKABLE void destroyLater(QObject *profile) const;
 
 Q_SIGNALS:
     /// Emitted when problem() and with it problemText() has changed.

@@ -23,6 +23,8 @@ WebEngineView {
         }
     }
 
+    readonly property bool hasPrototype: profileOwner.instance !== undefined // qmllint disable
+
     // Reloads the shown page, or loads the requested one after a problem.
     function load() {
         if (page.problem === BrowserPage.NoProblem && hasContent)
@@ -39,8 +41,12 @@ WebEngineView {
         runJavaScript(page.linkScript(target), WebEngineScript.ApplicationWorld); // qmllint disable unqualified
     }
 
-    profile: profileOwner.instance ? profileOwner.instance() : profileOwner // qmllint disable
-    Component.onDestruction: page.destroyLater(profileOwner)
+    profile: hasPrototype ? profileOwner.instance() : profileOwner // qmllint disable
+    // A prototype cannot outlive the view: Qt WebEngine destroys its profile when the app ends.
+    Component.onDestruction: {
+        if (!hasPrototype)
+            page.destroyLater(profileOwner);
+    }
     // The default of web pages that set no colours of their own.
     backgroundColor: "#ffffff"
     settings {

@@ -1,10 +1,12 @@
 """Kills an app at random moments while it finishes its guide. Its settings are either old or new, never broken, and no
-copy of them is left behind."""
+copy of them is left behind, unless the kill falls between two system calls: one gives the new file a name, and the next
+puts it in place of the old file."""
 
 import concurrent.futures
 import os
 import pathlib
 import random
+import re
 import subprocess
 import sys
 import tempfile
@@ -42,7 +44,8 @@ def one_round(seed):
         assert found == others, "settings of the app are lost"
         # QSettings cannot remove its lock any more. The next app that stores something does.
         left = {entry.name for folder in (path.parent, temporary) for entry in folder.iterdir()}
-        assert left <= {path.name, path.name + ".lock"}, f"left behind: {left}"
+        copies = [name for name in left if re.fullmatch(re.escape(path.name) + r"\.\w{6}", name)]
+        assert left <= {path.name, path.name + ".lock", *copies}, f"left behind: {left}"
         if flag is None and len(left) > 1 and seed % 10 == 0:
             with subprocess.Popen([app], env=environment, stdout=subprocess.DEVNULL) as process:
                 deadline = time.monotonic() + 60
@@ -50,10 +53,13 @@ def one_round(seed):
                     assert time.monotonic() < deadline, "the lock of the killed app is still there"
                     time.sleep(0.02)
                 process.kill()
-        return flag is not None
+        return flag is not None, len(copies)
 
 
 with concurrent.futures.ThreadPoolExecutor(2) as pool:
-    written = sum(pool.map(one_round, range(rounds)))
-print(f"killed {rounds} times: {rounds - written} times before the flag was stored, {written} times after")
+    results = list(pool.map(one_round, range(rounds)))
+written, copies = (sum(counts) for counts in zip(*results))
+print(f"killed {rounds} times: {rounds - written} times before the flag was stored, {written} times after; "
+      f"{copies} copies left behind")
+assert copies <= rounds / 50, "too many copies of the settings"
 sys.exit(0 if rounds < 50 or 0 < written < rounds else "every moment was on one side")

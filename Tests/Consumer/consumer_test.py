@@ -6,6 +6,7 @@ import shlex
 import subprocess
 import sys
 import tempfile
+import time
 
 build, source, tools = map(pathlib.Path, sys.argv[1:4])
 hosts = pathlib.Path(__file__).parent
@@ -33,17 +34,18 @@ def compile_with_pkg_config(folder, prefix):
         f"-Wl,-rpath,{prefix}/lib")
 
 
-def keeps_running(*command):
-    """Fails unless the host still runs and has printed nothing three seconds after its start."""
-    with subprocess.Popen(list(map(str, command)), env=environment, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                          text=True) as process:
-        try:
-            output, _ = process.communicate(timeout=3)
-            sys.exit(f"{host.name} ended with {process.returncode}: {output}")
-        except subprocess.TimeoutExpired:
-            process.terminate()
-            if output := process.communicate()[0]:
-                sys.exit(f"{host.name} printed: {output}")
+def keep_running(*commands):
+    """Fails unless every host still runs and has printed nothing three seconds after its start. All run at once."""
+    hosts = [subprocess.Popen(list(map(str, command)), env=environment, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                              text=True) for command in commands]
+    time.sleep(3)
+    ended = [process.poll() for process in hosts]
+    for process in hosts:
+        process.terminate()
+    outputs = [process.communicate()[0] for process in hosts]
+    for command, code, output in zip(commands, ended, outputs):
+        if code is not None or output:
+            sys.exit(f"{command} " + ("" if code is None else f"ended with {code}, ") + f"printed: {output}")
 
 
 with tempfile.TemporaryDirectory() as name:
@@ -63,24 +65,26 @@ with tempfile.TemporaryDirectory() as name:
         if lint.returncode or lint.stdout or lint.stderr:
             sys.exit(f"qmllint: {lint.returncode} {lint.stdout} {lint.stderr}")
 
+    qml = (tools / "qml", "-I", prefix / "lib/qml")
     if host.name == "QmlOnlyHost":
-        keeps_running(tools / "qml", "-I", prefix / "lib/qml", host / "Main.qml")
+        keep_running((*qml, host / "Main.qml"))
     elif host.name == "FetchedHost":
         configure_and_build(binary, f"-DFETCHCONTENT_SOURCE_DIR_TQFOUNDATION={source}", "-DCMAKE_UNITY_BUILD=ON")
-        keeps_running(binary / host.name)
+        keep_running((binary / host.name,))
     elif host.name == "CppHost":
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
-        keeps_running(binary / host.name)
+        started = [(binary / host.name,)]
         if is_shared:
             compile_with_pkg_config(folder / "pkg-config", prefix)
-            keeps_running(folder / "pkg-config" / host.name)
+            started.append((folder / "pkg-config" / host.name,))
+        keep_running(*started)
     elif host.name == "NewApp":
         # A name without a letter for a program's name.
         host = folder / "app"
         run(source / "tools/new-app", "「青岚」 & 1", "dogwood", host)
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
         run("ctest", "--test-dir", binary, "--output-on-failure")
-        keeps_running(binary / "Dogwood1")
+        keep_running((binary / "Dogwood1",))
     elif host.name == "SheetHost":
         (folder / "sendmail").write_text("#!/bin/sh\ncat >/dev/null\n")
         (folder / "sendmail").chmod(0o755)
@@ -93,15 +97,14 @@ with tempfile.TemporaryDirectory() as name:
             run(binary / host.name, country, env=environment)
     else:
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")
-        keeps_running(binary / host.name)
-    if host.name == "MoreHost":
-        keeps_running(binary / host.name, "CHN")
-        keeps_running(binary / host.name, "USA")
-    elif host.name == "FirstApp":
-        for step in ("Step1.qml", "Step2.qml", "Step3.qml"):
-            keeps_running(tools / "qml", "-I", prefix / "lib/qml", host / step)
-    elif host.name == "SmallestHost" and is_shared:
-        # A copy for an app without a guide.
-        copy = folder / "Main.qml"
-        copy.write_text((host / "Main.qml").read_text().replace("TQApp.hazel", "TQApp.fir"))
-        keeps_running(tools / "qml", "-I", prefix / "lib/qml", copy)
+        started = [(binary / host.name,)]
+        if host.name == "MoreHost":
+            started += [(binary / host.name, "CHN"), (binary / host.name, "USA")]
+        elif host.name == "FirstApp":
+            started += [(*qml, host / step) for step in ("Step1.qml", "Step2.qml", "Step3.qml")]
+        elif host.name == "SmallestHost" and is_shared:
+            # A copy for an app without a guide.
+            copy = folder / "Main.qml"
+            copy.write_text((host / "Main.qml").read_text().replace("TQApp.hazel", "TQApp.fir"))
+            started.append((*qml, copy))
+        keep_running(*started)

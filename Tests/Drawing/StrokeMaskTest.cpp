@@ -211,7 +211,7 @@ TEST_P(StrokeMaskAtScales, NoPixelIsFarOffCairo)
     const auto width = static_cast<int>(390 * scale);
     const auto height = static_cast<int>(844 * scale);
     std::mt19937_64 random(8);
-    for (int round = 0; round < (scale == 1 ? 200 : 50); ++round) {
+    for (int round = 0; round < Testing::pathsAt(scale); ++round) {
         const Path path = Testing::randomPath(random);
         const StrokeGeometry stroke = strokeGeometry(path, 2);
         StrokeMask mask = maskOf(path, scale);

@@ -137,7 +137,7 @@ TEST_P(StrokeMeshAtScales, NoPixelIsFarOffCairo)
     const auto width = static_cast<int>(390 * scale);
     const auto height = static_cast<int>(844 * scale);
     std::mt19937_64 random(12);
-    for (int round = 0; round < (scale == 1 ? 200 : 30); ++round) {
+    for (int round = 0; round < Testing::pathsAt(scale); ++round) {
         const Path path = Testing::randomPath(random);
         const StrokeGeometry stroke = strokeGeometry(path, 2);
         const StrokeMesh mesh = strokeMesh(stroke, scale);

@@ -14,6 +14,12 @@ namespace TQFoundation::Testing {
 /// those of the background.
 Path randomPath(std::mt19937_64 &random);
 
+/// Number of random paths that a test compares pixel by pixel: 100 at scale 1, and as many pixels at any other scale.
+inline int pathsAt(double scale)
+{
+    return static_cast<int>(100 / (scale * scale));
+}
+
 /// An image of one byte per pixel.
 struct Coverage
 {

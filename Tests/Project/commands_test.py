@@ -21,6 +21,7 @@ EXCEPTIONS = {
     "cmake --preset release -DCMAKE_PREFIX_PATH=/usr": "configures the tree as for this test",
     "cmake --build --preset release": "builds the tree as for this test",
     "ctest --preset release": "runs this test",
+    "build/MoreHost CHN\nbuild/MoreHost USA": "the test MoreHost runs them",
     "git tag -s v1.0.0": "needs the key of the one who makes the release",
     "sudo apt-get install ./build/packages/packages/*.deb": "tools/try-packages installs them in a system of its own",
 }
@@ -39,22 +40,22 @@ def commands_of(page):
 
 
 def run(command, folder, **environment):
-    """Runs the block in a shell. A host that still runs after five seconds is well."""
-    command = re.sub(r"^(build/\w+Host.*|build/FirstApp)$", r"timeout 5 \1 || test $? = 124", command, flags=re.MULTILINE)
+    """Runs the block in a shell. A host that still runs after three seconds is well."""
+    command = re.sub(r"^(build/FirstApp)$", r"timeout 3 \1 || test $? = 124", command, flags=re.MULTILINE)
     result = subprocess.run(["sh", "-ec", command], cwd=folder, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
                             timeout=300, env=dict(os.environ, QT_QPA_PLATFORM="offscreen", **environment))
     if result.returncode:
         failures.append(f"{command}: {result.returncode}\n{result.stdout[-600:]}")
 
 
-def try_in_host(command, host, build_first=""):
+def try_in_host(command, host):
     folder = scratch / host
     if not folder.exists():
         shutil.copytree(root / "Tests/Consumer" / host, folder)
     prefix = scratch / "prefix"
     if not prefix.exists():
         run(f"cmake --install '{build}' --prefix '{prefix}'", scratch)
-    run(build_first + command, folder, CMAKE_PREFIX_PATH=str(prefix), PKG_CONFIG_PATH=str(prefix / "lib/pkgconfig"))
+    run(command, folder, CMAKE_PREFIX_PATH=str(prefix), PKG_CONFIG_PATH=str(prefix / "lib/pkgconfig"))
 
 
 def try_in_tree(command):
@@ -81,8 +82,6 @@ def try_one(command):
         try_in_host(command, "CppHost")
     elif "build/FirstApp" in command:
         try_in_host(command, "FirstApp")
-    elif "build/MoreHost" in command:
-        try_in_host(command, "MoreHost", "cmake -S . -B build\ncmake --build build\n")
     elif command.startswith("qmllint "):
         run(f"{command.replace('<prefix>/lib/qml', f'{build}/qml')} Main.qml", root / "Tests/Consumer/FirstApp",
             PATH=f"{qt_tools}:{os.environ['PATH']}")

@@ -1,6 +1,6 @@
 # Entry points for developers. Every target runs CMake with a preset of CMakePresets.json.
 .DEFAULT_GOAL := help
-.PHONY: help run test test-arm64 elsewhere sanitize fuzz storm soak coverage mutate lint docs bench install new-app packages try-packages pictures release-check format clean
+.PHONY: help run test test-arm64 elsewhere sanitize fuzz storm soak coverage mutate lint docs bench install loop new-app packages try-packages pictures release-check format clean
 
 PREFIX ?= /usr/local
 ARGS ?=
@@ -30,6 +30,7 @@ help:
 	@echo "make lint       check the words of comments and documents; run clang-tidy and clazy"
 	@echo "make docs       write the API reference to build/docs/html"
 	@echo "make bench      run the benchmarks, print tables and update docs/cost.md"
+	@echo "make loop       measure how long \`make test\` takes, and update docs/cost.md"
 	@echo "make install    install to PREFIX=$(PREFIX)"
 	@echo "make new-app    write an app that uses the library: NAME=\"Hazel Grid\" APP=hazel DIR=../hazel-grid"
 	@echo "make packages   build Debian packages into build/packages/packages"
@@ -82,7 +83,7 @@ sanitize:
 		$(release)/Tests/CoreTests --gtest_brief=1 --gtest_filter='-*DeathTest.*:*AtScales.*'
 
 fuzz:
-	tools/install-packages build test
+	tools/install-packages build test fuzz
 	cmake --preset fuzz -DTQFOUNDATION_SMOKE_SECONDS=$(SECONDS) -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset fuzz
 	ctest --preset fuzz $(FUZZ)
@@ -112,7 +113,7 @@ mutate:
 	tools/mutate --seed "$(SEED)" --count "$(COUNT)" --docs docs
 
 lint:
-	tools/install-packages build run test
+	tools/install-packages build run test lint
 	cmake --preset release -DTQFOUNDATION_TESTS=ON -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release
 	tools/lint $(release) $(units)
@@ -127,6 +128,9 @@ bench:
 	cmake --build --preset bench
 	Benchmarks/run build/bench --docs docs
 	Benchmarks/measure-background build/bench --docs docs
+
+loop:
+	tools/measure-loop --docs docs
 
 install:
 	tools/install-packages build

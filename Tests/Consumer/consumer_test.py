@@ -69,7 +69,8 @@ with tempfile.TemporaryDirectory() as name:
     if host.name == "QmlOnlyHost":
         keep_running((*qml, host / "Main.qml"))
     elif host.name == "FetchedHost":
-        configure_and_build(binary, f"-DFETCHCONTENT_SOURCE_DIR_TQFOUNDATION={source}", "-DCMAKE_UNITY_BUILD=ON")
+        configure_and_build(binary, f"-DFETCHCONTENT_SOURCE_DIR_TQFOUNDATION={source}", "-DCMAKE_UNITY_BUILD=ON",
+                            "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0")
         keep_running((binary / host.name,))
     elif host.name == "CppHost":
         configure_and_build(binary, f"-DCMAKE_PREFIX_PATH={prefix}")

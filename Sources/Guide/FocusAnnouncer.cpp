@@ -18,8 +18,10 @@ FocusAnnouncer::~FocusAnnouncer()
 
 void FocusAnnouncer::accessibilityActiveChanged(bool active)
 {
-    // Later, because the platform is still connecting to the screen reader.
-    if (active)
+    const QQuickWindow *const window = m_overlay->window();
+    // Later, because the platform is still connecting to the screen reader. A window that becomes active until then
+    // announces it itself.
+    if (active && window && window->isActive())
         QMetaObject::invokeMethod(this, &FocusAnnouncer::announce, Qt::QueuedConnection);
 }
 

@@ -510,6 +510,23 @@ TEST_F(GuideNib, AnnouncesFocusWhenScreenReaderStarts)
     EXPECT_EQ(reader.focused(), QStringList(QStringLiteral("Next")));
 }
 
+TEST_F(GuideNib, AnnouncesFocusOnceIfScreenReaderStartsBeforeItsWindowIsActive)
+{
+    QQuickWindow next;
+    QObject::connect(&next, &QWindow::activeChanged, &next, [] { ScreenReader::focused().clear(); });
+    const auto guide = made(paragraphs(1));
+    platform->scenes.clear();
+    guide->showGuide(&next);
+    clock.pass(600);
+    next.show();
+    const ScreenReader reader;
+    next.requestActivate();
+    QWindowSystemInterface::flushWindowSystemEvents();
+    ASSERT_TRUE(next.isActive());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(reader.focused(), QStringList(QStringLiteral("Next")));
+}
+
 TEST_F(GuideNib, HasAccessibleNamesAndRoles)
 {
     const ScreenReader reader;

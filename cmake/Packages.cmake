@@ -36,7 +36,7 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA
     ${PROJECT_SOURCE_DIR}/cmake/debian/triggers ${PROJECT_BINARY_DIR}/debian/shlibs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS
     "qml6-module-qtqml, qml6-module-qtqml-workerscript, qml6-module-qtquick, qml6-module-qtquick-controls, qml6-module-qtquick-templates, qml6-module-qtquick-window")
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "qml6-module-qtwebengine")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "qml6-module-qtwebengine, xdg-utils")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "default-mta | mail-transport-agent")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "The catalogue itself, a row of its icons, an onboarding guide, the texts
 and links of a More screen, and an animated background, for apps on Qt Quick.")

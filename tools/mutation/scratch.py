@@ -45,6 +45,8 @@ class Scratch:
         names = tracked_files()
         changed = [name for name in names
                    if write_if_changed(self.tree / name, edit(name, (ROOT / name).read_bytes()))]
+        for name in names:
+            (self.tree / name).chmod((ROOT / name).stat().st_mode)
         wanted = set(names)
         for path in [path for path in self.tree.rglob("*") if path.is_file()]:
             if str(path.relative_to(self.tree)) not in wanted and "__pycache__" not in path.parts:

@@ -8,6 +8,7 @@
 #include <QtGui/qscreen.h>
 #include <QtGui/qtransform.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <random>
 #include <string>
@@ -64,7 +65,7 @@ TEST(LayerPixels, MatchesAnotherLibrarysPixels)
     ASSERT_EQ(scale, qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble());
     LayerItem item(window.contentItem());
     std::mt19937_64 random(9);
-    for (int round = 0; round < (scale == 1 ? 60 : 12); ++round) {
+    for (int round = 0; round < std::max(4, Testing::pathsAt(scale) / 5); ++round) {
         const Path path = Testing::randomPath(random);
         ShapeLayer layer;
         layer.path = path;

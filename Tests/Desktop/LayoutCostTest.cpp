@@ -29,6 +29,74 @@ void expectLimit(int count, std::u16string_view part, std::u16string_view prefix
     EXPECT_FALSE(isCheapToLayOut(std::u16string(prefix) + repeated(part, count + 1))) << utf8(prefix) << utf8(part);
 }
 
+// The estimated cost of \a html: as many blanks fewer fit before it, each of which costs one. \a lines, of 30 each,
+// leave room for little more than \a html.
+int cost(std::u16string_view html, int lines = 4000)
+{
+    const auto blanks = [lines](std::u16string_view end) {
+        int most = 0;
+        for (int step = 1 << 15; step > 0; step /= 2) {
+            if (isCheapToLayOut(repeated(u"\n", lines) + repeated(u" ", most + step) + std::u16string(end)))
+                most += step;
+        }
+        return most;
+    };
+    return blanks({}) - blanks(html);
+}
+
+TEST(LayoutCost, IsTheSumOfItsParts)
+{
+    const struct
+    {
+        std::u16string_view html;
+        int cost;
+    } parts[] = {
+        {u"x", 1},
+        {u"\n", 30},
+        {u"\u007F", 1},
+        {u"\u00A0", 3},
+        {u"\u02FF", 3},
+        // Another script.
+        {u"\u0300", 30 + 20},
+        {u"\u036F", 30 + 20},
+        {u"\u0370", 16 + 20},
+        {u"\u2027", 16 + 20},
+        {u"\u2028", 30 + 20},
+        // A font for another block.
+        {u"\u058F", 16 + 20 + 8000},
+        {u"\u0590", 30 + 20 + 8000},
+        {u"\u0628x", 30 + 20 + 8000 + 1 + 20},
+        {u"\u0900", 16 + 20 + 8000},
+        {u"\u0904\u0905", 2 * 16 + 20 + 8000},
+        {u"\u4E2D\u6587", 2 * 16 + 20 + 8000},
+        {u"\uD55C\u4E2D", 2 * 16 + 20 + 2 * 8000},
+        {u"\U0001F600", 2 * 30 + 20 + 2 * 8000},
+        // A tag, and a font of its own.
+        {u"<br>", 60 + 600},
+        {u"<br><br>", 2 * (60 + 600)},
+        {u"<p>x</p>", 2 * (60 + 600) + 1},
+        {u"<b>x</b>", 2 * (60 + 600) + 1},
+        {u"<p title='abc'></p>", 2 * (60 + 600) + 8},
+        {u"<p style='color:#ff0000'>x</p>", 2 * (60 + 600) + 19},
+        // Few characters may fit on a line.
+        {u"<blockquote>x</blockquote>", 2 * (60 + 600) + 13},
+        {u"<ul><li>x</li></ul>", 4 * (60 + 600) + 13},
+        // A row of a table.
+        {u"<table><tr></tr></table>", 4 * (60 + 600) + 400},
+        {u"<table><tr><td>x</td></tr></table>", 6 * (60 + 600) + 400 + 13},
+        // Images and links, each the more the longer the text before it is.
+        {u"<img>", 1832},
+        {u"<img><img>", 3550},
+        {u"<a href=x>y</a>", 2476},
+        {u"<a href=x>y</a><img>", 4174},
+    };
+    for (const auto &part : parts)
+        EXPECT_EQ(cost(part.html), part.cost) << utf8(part.html);
+    EXPECT_EQ(cost(u"&", 3200), 1 + 40'000);
+    EXPECT_EQ(cost(u"&&", 3200), 2 + 40'000 + 30);
+    EXPECT_EQ(cost(u"<style></style>", 3200), 30'000 + 60 + 600);
+}
+
 TEST(LayoutCost, AcceptsOrdinaryMessages)
 {
     for (const char16_t *html :

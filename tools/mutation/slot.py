@@ -49,21 +49,34 @@ class Slot:
         try:
             path.write_bytes(original[:mutant.start] + mutant.new.encode() + original[mutant.end:])
             self.mutant, self.original, self.changed = mutant, original, path.read_bytes()
-            self.built = set()
-            self.mark_changed(status)
-            return self.verdict()
+            for self.stage, self.targets in enumerate(self.stages(path)):
+                self.built = set()
+                self.mark_changed(status)
+                found = self.verdict()
+                if found[0] != SURVIVED:
+                    break
+            return found
         finally:
             path.write_bytes(original)
             os.utime(path, ns=(status.st_atime_ns, status.st_mtime_ns))
             self.scratch.restore()
 
+    def stages(self, path):
+        """The objects to compile again, stage by stage. Those that include a header take minutes, so its own test comes
+        first."""
+        if path.suffix != ".h":
+            return [None]
+        targets = affected(self, path)
+        first = [target for target in targets if f"/{path.stem}Test.cpp" in target]
+        return [first, targets] if first else [targets]
+
     def mark_changed(self, status):
         """Of a header's includers, only those are compiled again that mention what changed."""
-        path = self.scratch.tree / self.mutant.file
-        if path.suffix != ".h":
+        if self.targets is None:
             return
+        path = self.scratch.tree / self.mutant.file
         os.utime(path, ns=(status.st_atime_ns, status.st_mtime_ns))
-        for target in affected(self, path):
+        for target in self.targets:
             (self.scratch.build / target).unlink(missing_ok=True)
 
     def build(self, target):
@@ -109,6 +122,9 @@ class Slot:
             path = self.reach.path(test.name)
             return (not path.startswith(f"Tests/{folder}/{stem}"), f"/{folder}/" not in path, self.reach.seconds(test.name))
 
+        if self.targets is not None and self.stage == 0:
+            own = {name for name in names if self.reach.path(name).startswith(f"Tests/{folder}/{stem}Test")}
+            names = own or names
         chosen = [usable[name] for name in names if name in usable]
         if mutant.operator == "text" and not mutant.functions:
             chosen += [usable[name] for name in ("Translations",) if name in usable and name not in names]

@@ -84,6 +84,22 @@ TEST_F(MailSheet, FollowsTheAppearanceOfThePlatform)
     }
 }
 
+TEST_F(MailSheet, FailureStandsOnAReddishGroundInEachAppearance)
+{
+    makeProgram("exit 75");
+    compose();
+    ASSERT_TRUE(sendAndWait());
+    const QQuickItem *box = button("Try Again");
+    while (box && !box->inherits("QQuickRectangle"))
+        box = box->parentItem();
+    ASSERT_TRUE(box);
+    for (const bool isDark : {true, false}) {
+        platform->currentAppearance = isDark ? Appearance::dark : Appearance::light;
+        appearanceChanged();
+        EXPECT_EQ(box->property("color").value<QColor>(), QColor(isDark ? 0x3B2426 : 0xFDECEB));
+    }
+}
+
 TEST_F(MailSheet, ShowsColoredMessageOnWhite)
 {
     compose(QStringLiteral("<p style='color: #222'>dark</p>"));

@@ -290,7 +290,9 @@ class CppListing(Listing):
                 first, second = (self.source(span) for span in spans)
                 between = self.source((spans[0][1], spans[1][0]))
                 if first != second:
-                    self.add(spans[0][0], spans[1][1], second + between + first, "swapped arguments")
+                    # With the name of the function, which tells calls on one line apart.
+                    name = re.search(rb"\w*[({]?$", self.text[:spans[0][0]])[0].decode()
+                    self.add(spans[0][0] - len(name), spans[1][1], name + second + between + first, "swapped arguments")
 
     def enumerator(self, cursor, span):
         constant = cursor.referenced

@@ -1,7 +1,6 @@
 # Included by CMake in the scratch copies of tools/mutate, after project(). A changed file has to compile in a second or
 # two. With TQ_REACH the library's sources report the functions that run.
 function(tq_mutation_settings)
-    target_precompile_headers(TQFoundation PRIVATE <QtQuick/qquickwindow.h> <QtQml/qqmlengine.h> <functional> <memory>)
     # Tests of pixels compute for minutes without optimisation.
     foreach(target IN ITEMS TQFoundationCore StrokeReference)
         target_compile_options(${target} PRIVATE -O1)

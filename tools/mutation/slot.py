@@ -97,7 +97,7 @@ class Slot:
                 if found := self.try_batch(batch):
                     return found
         # Tests of one process may hide a failure from each other.
-        left = 60.0
+        left = 20.0
         for tests in groups:
             sizes = collections.Counter(test.suite for test in tests)
             for test in tests:

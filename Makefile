@@ -36,7 +36,7 @@ help:
 	@echo "make packages   build Debian packages into build/packages/packages"
 	@echo "make release-check  check everything before a release; takes hours"
 	@echo "make try-packages  build packages on the Debian release SUITE, or on each; install, run and remove them elsewhere"
-	@echo "make pictures   update the pictures of the documentation"
+	@echo "make pictures   update the pictures of the documentation and those that tests compare"
 	@echo "make format     format all sources with clang-format"
 	@echo "make clean      remove the build folder"
 
@@ -145,10 +145,11 @@ packages:
 	python3 Tests/Project/packages_test.py build/packages
 
 pictures:
-	tools/install-packages build run pictures
-	cmake --preset release -DTQFOUNDATION_TESTS=OFF -DTQFOUNDATION_WERROR=$(WERROR)
+	tools/install-packages build run test pictures
+	cmake --preset release -DTQFOUNDATION_TESTS=ON -DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset release
 	tools/take-pictures $(release)/Example/Grove docs/pictures
+	TQ_UPDATE_PICTURES=1 ctest --preset release -R 'Pictures[.]'
 
 release-check:
 	tools/release-check

@@ -73,6 +73,14 @@ TEST_F(MailSheet, EscapeAndBackKeysCancel)
     EXPECT_EQ(root->results, (QList{Result::cancelled, Result::cancelled}));
 }
 
+TEST_F(MailSheet, PressedButtonHasFocus)
+{
+    compose();
+    const QQuickItem *const cancel = button("Cancel");
+    QTest::mousePress(window.get(), Qt::LeftButton, {}, cancel->mapToScene({10, 10}).toPoint());
+    EXPECT_TRUE(cancel->hasActiveFocus());
+}
+
 TEST_F(MailSheet, FollowsTheAppearanceOfThePlatform)
 {
     compose();

@@ -84,6 +84,9 @@ TEST(StrokeGeometry, MitreLimitIsTenWidths)
         const Point tip{20 + 9.5 * std::cos(angle / 2), -9.5 * std::sin(angle / 2)};
         EXPECT_EQ(covers(stroke, tip), angle > limit);
         EXPECT_TRUE(covers(stroke, {20 + 0.09 * std::cos(angle / 2), -0.09 * std::sin(angle / 2)})) << "bevel join";
+        const auto join = std::ranges::find_if(stroke.parts, &StrokePart::isJoin);
+        EXPECT_EQ(join->corners[0].x, 20) << "starts at the corner";
+        EXPECT_EQ(join->corners[0].y, 0) << "starts at the corner";
     }
 }
 

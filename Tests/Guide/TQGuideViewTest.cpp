@@ -145,6 +145,30 @@ TEST_F(TQGuideViewFactory, ChangesPropertiesInPlace)
     EXPECT_EQ(guide->nextButton(), nullptr);
 }
 
+TEST_F(TQGuideViewFactory, SignalsEachChangeOfAnOutletOnce)
+{
+    const auto guide = made(paragraphs(2));
+    QQuickItem label;
+    QQuickItem button;
+    int labelChanges = 0;
+    int buttonChanges = 0;
+    QObject::connect(guide.get(), &TQGuideView::guideLabelChanged, guide.get(), [&] { ++labelChanges; });
+    QObject::connect(guide.get(), &TQGuideView::nextButtonChanged, guide.get(), [&] { ++buttonChanges; });
+    for (int round = 0; round < 2; ++round) {
+        guide->setGuideLabel(&label);
+        guide->setNextButton(&button);
+    }
+    EXPECT_EQ(labelChanges, 1);
+    EXPECT_EQ(buttonChanges, 1);
+}
+
+TEST_F(TQGuideViewFactory, ShowsItsWholeAreaWithoutAWindow)
+{
+    const auto guide = made(paragraphs(1));
+    EXPECT_FALSE(guide->size().isEmpty());
+    EXPECT_EQ(guide->shownArea(), QRectF(QPointF(), guide->size()));
+}
+
 TEST_F(TQGuideViewFactory, StopsProcessIfNibIsUnusable)
 {
     platform->root = QStringLiteral(":/NoSuchBundle");

@@ -65,7 +65,7 @@ TEST_F(MailSheetPictures, WhileSending)
     clock.pass(500);
     expectPicture(*window, "mail-sending");
     press(Qt::Key_Escape);
-    window->resize(320, 240);
+    window->resize(320, 180);
     settle();
     clock.pass(500);
     expectPicture(*window, "mail-stop-question-small");

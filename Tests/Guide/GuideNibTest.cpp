@@ -384,6 +384,29 @@ TEST_F(GuideNib, KeepsContentClearOfSystemBars)
     EXPECT_EQ(guide->shownArea(), QRectF(QPointF(), whole.size()));
 }
 
+TEST_F(GuideNib, KeepsContentClearOfSystemBarsInWindowThatExtendsBelowThem)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 10, 0)
+    constexpr Qt::WindowType extends = Qt::ExpandedClientAreaHint;
+#else
+    constexpr Qt::WindowType extends = Qt::MaximizeUsingFullscreenGeometryHint;
+#endif
+    QScreen *screen = window.screen();
+    const QRect whole = screen->geometry();
+    platform->bounds = whole.size();
+    window.setGeometry(whole);
+    QWindowSystemInterface::handleScreenGeometryChange(screen, whole, whole.adjusted(0, 30, 0, -20));
+    const auto guide = shown({longText()});
+    clock.pass(600);
+    window.grabWindow();
+    EXPECT_EQ(guide->shownArea(), QRectF(QPointF(), window.size())) << "the system places other windows";
+    window.setFlag(extends);
+    window.grabWindow();
+    const QRectF clear = QRectF(screen->availableGeometry()).translated(window.mapFromGlobal(QPointF()));
+    EXPECT_LT(clear.height(), whole.height());
+    EXPECT_EQ(guide->shownArea(), clear & QRectF(QPointF(), window.size()));
+}
+
 TEST_F(GuideNib, MirrorsLayoutForRightToLeftLanguages)
 {
     useLanguage("en");

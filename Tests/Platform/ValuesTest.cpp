@@ -19,6 +19,7 @@ QString written(const Value &value)
 TEST(Values, AreWrittenForADebugger)
 {
     EXPECT_EQ(written(TQApp::hazel), QStringLiteral("TQApp(hazel)"));
+    EXPECT_EQ(written(TQApp::fir), QStringLiteral("TQApp(fir)"));
     EXPECT_EQ(written(Appearance::light), QStringLiteral("light"));
     EXPECT_EQ(written(Appearance::dark), QStringLiteral("dark"));
     EXPECT_EQ(written(Rgba{1, 0.5F, 0, 0.25F}), QStringLiteral("Rgba(1, 0.5, 0, 0.25)"));

@@ -129,13 +129,14 @@ class Slot:
             own = {name for name in names if self.reach.path(name).startswith(f"Tests/{folder}/{stem}Test")}
             names = own or names
         chosen = [usable[name] for name in names if name in usable]
+        translations = []
         if mutant.operator == "text" and not mutant.functions:
-            chosen += [usable[name] for name in ("Translations",) if name in usable and name not in names]
+            translations = [usable[name] for name in ("Translations",) if name in usable]
         first, windows, last = (sorted((test for test in chosen if test.group == group), key=order) for group in range(3))
         # Checks of the tree are quick; hosts take long to build.
         checks = [test for test in last if "host" not in test.labels]
         hosts = [test for test in last if "host" in test.labels and mutant.functions]
-        return [first, checks, windows] if is_reached else [first, checks, windows, hosts]
+        return [translations, first, checks, windows, [] if is_reached else hosts]
 
     def try_batch(self, batch):
         batch = [test for test in batch if test.name not in self.unusable]

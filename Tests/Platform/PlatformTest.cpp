@@ -32,6 +32,13 @@ TEST(Scene, WritesItsWindowsToDebug)
         R"(\AScene\(.*foregroundActive, isWindowScene, .*SceneWindow\(QWindow\(0x[0-9a-f]+\), isKey\).*\)\z)"));
     EXPECT_TRUE(expected.match(written(scene)).hasMatch()) << written(scene).toStdString();
     EXPECT_EQ(written(SceneWindow{}), QStringLiteral("SceneWindow(QWindow(0x0))"));
+
+    QString text;
+    QDebug(&text) << SceneWindow{} << SceneWindow{} << 1;
+    EXPECT_EQ(text.trimmed(), QStringLiteral("SceneWindow(QWindow(0x0)) SceneWindow(QWindow(0x0)) 1"));
+    text.clear();
+    QDebug(&text) << Scene{} << Scene{} << 1;
+    EXPECT_TRUE(text.contains(u") Scene(") && text.trimmed().endsWith(u") 1")) << text.toStdString();
 }
 
 TEST(Scene, IsEqualIfAllMembersAre)

@@ -30,7 +30,8 @@ struct Entry
 std::vector<Entry> entries()
 {
     QFile script(root + QStringLiteral("tools/take-pictures"));
-    script.open(QIODevice::ReadOnly | QIODevice::Text);
+    if (!script.open(QIODevice::ReadOnly | QIODevice::Text))
+        return {}; // GoogleTest reports that there is nothing to test
     std::vector<Entry> found;
     const QString text = QString::fromUtf8(script.readAll());
     for (const QString &line : text.mid(text.indexOf(u"gallery")).split(u'\n')) {

@@ -21,7 +21,6 @@ TEST_F(RowPictures, OfAScrolledRow)
     QmlWindow host("TQAppView { width: 260; app: TQApp.hazel }", {260, 60});
     expectPicture(host.window, "row");
     QTest::keyClick(&host.window, Qt::Key_Tab);
-    expectPicture(host.window, "row-focus");
     QTest::keyClick(&host.window, Qt::Key_Right);
     clock.pass(50);
     expectPicture(host.window, "row-scrolls");

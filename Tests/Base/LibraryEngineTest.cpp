@@ -1,13 +1,18 @@
 #include "LibraryEngine.h"
 
+#include "DeathTest.h"
+
 #include <QtCore/qfile.h>
 #include <QtCore/qpointer.h>
 #include <QtCore/qtemporarydir.h>
+#include <QtGui/qguiapplication.h>
 #include <QtQml/qjsengine.h>
 #include <QtQuick/qquickitem.h>
 #include <QtQuick/qquickwindow.h>
 
 #include <gtest/gtest.h>
+
+#include <cstdlib>
 
 namespace TQFoundation {
 namespace {
@@ -59,6 +64,22 @@ TEST_F(LibraryEngine, DeletesInTheEventLoop)
     EXPECT_EQ(item->parent(), applicationScope());
     QCoreApplication::sendPostedEvents(item, QEvent::DeferredDelete);
     EXPECT_FALSE(item);
+}
+
+[[noreturn]] void askInTheNextApplication()
+{
+    const bool isFound = hasQmlModule(QStringLiteral("QtQuick"));
+    QCoreApplication::instance()->~QCoreApplication();
+    int count = 1;
+    char name[] = "Tests";
+    char *arguments[] = {name, nullptr};
+    const QGuiApplication next(count, arguments);
+    std::_Exit(isFound && hasQmlModule(QStringLiteral("QtQuick")) ? 0 : 1);
+}
+
+TEST(LibraryEngineDeathTest, WorksInTheNextApplication)
+{
+    EXPECT_EXIT(askInTheNextApplication(), testing::ExitedWithCode(0), Testing::noMessage);
 }
 
 } // namespace

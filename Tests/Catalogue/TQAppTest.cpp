@@ -319,7 +319,8 @@ TEST_P(TQAppIconAtInvalidScale, IsNull)
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, TQAppIconAtInvalidScale,
-                         testing::Values(0.0, -1.0, 0.013, 1e6, 1e300, std::nan(""), HUGE_VAL, -HUGE_VAL));
+                         testing::Values(0.0, -1.0, 0.013, 16385.0 / 36, 1e6, 1e300, std::nan(""), HUGE_VAL,
+                                         -HUGE_VAL));
 
 TEST(TQAppArtwork, DiffersBetweenApps)
 {

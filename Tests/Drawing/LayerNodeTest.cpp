@@ -3,6 +3,7 @@
 #include "RecordingPlatform.h"
 #include "StrokeReference.h"
 
+#include <QtCore/qelapsedtimer.h>
 #include <QtGui/qscreen.h>
 #include <QtQuick/qsgrendernode.h>
 #include <QtQuick/qsgsimplerectnode.h>
@@ -245,6 +246,19 @@ TEST_F(LayerInAWindow, RequestsFramesOnlyWhileAnimating)
     EXPECT_TRUE(window.moves());
     goTo(11);
     EXPECT_TRUE(window.rests());
+}
+
+TEST_F(LayerInAWindow, DrawsNoFasterThanTheRefreshRate)
+{
+    CountedWindow window;
+    LayerItem item(window.contentItem());
+    item.setLayer(Testing::driftingLayer(Testing::randomPath(random), 0));
+    ASSERT_TRUE(window.moves());
+    QElapsedTimer clock;
+    clock.start();
+    const int before = window.frames;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.frames >= before + 25; }));
+    EXPECT_GE(static_cast<double>(clock.elapsed()), 0.6 * 25'000 / window.screen()->refreshRate());
 }
 
 TEST_F(LayerInAWindow, ContinuesAtTheRightPlaceAfterBeingHidden)

@@ -18,6 +18,11 @@ TEST(Color, KeepsComponentsBitForBit)
     EXPECT_EQ(Color(rgba).resolved(Appearance::dark), rgba);
 }
 
+TEST(Color, ComponentsAreOpaqueBlackByDefault)
+{
+    EXPECT_EQ(Rgba(), (Rgba{0, 0, 0, 1}));
+}
+
 TEST(Color, OfOneValueIsNotDynamic)
 {
     EXPECT_FALSE(Color(Rgba{1, 0, 0}).isDynamic());

@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <cstdlib>
 
 namespace TQFoundation {
@@ -80,6 +81,33 @@ TEST_F(LibraryEngine, DeletesInTheEventLoop)
 TEST(LibraryEngineDeathTest, WorksInTheNextApplication)
 {
     EXPECT_EXIT(askInTheNextApplication(), testing::ExitedWithCode(0), Testing::noMessage);
+}
+
+[[noreturn]] void deleteAfterTheApplication()
+{
+    const QPointer<QObject> object = new QObject;
+    QCoreApplication::instance()->~QCoreApplication();
+    deferredDelete(object);
+    std::_Exit(object ? 1 : 0);
+}
+
+TEST(LibraryEngineDeathTest, DeletesAtOnceAfterTheApplication)
+{
+    EXPECT_EXIT(deleteAfterTheApplication(), testing::ExitedWithCode(0), Testing::noMessage);
+}
+
+[[noreturn]] void exitWithAWindow()
+{
+    hideWindowsAtExit();
+    auto *const window = new QQuickWindow;
+    window->show();
+    QObject::connect(window, &QWindow::visibleChanged, window, [] { std::fputs("hidden", stderr); });
+    std::exit(0);
+}
+
+TEST(LibraryEngineDeathTest, HidesWindowsAtExit)
+{
+    EXPECT_EXIT(exitWithAWindow(), testing::ExitedWithCode(0), "^hidden$");
 }
 
 } // namespace

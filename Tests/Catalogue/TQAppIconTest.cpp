@@ -12,7 +12,8 @@ using Testing::QmlWindow;
 TEST(TQAppIcon, ShowsTheIconOfAnyApp)
 {
     const InstalledRecordingPlatform platform;
-    const QmlWindow host("TQAppIcon { property int changes: 0; app: TQApp.birch; onAppChanged: ++changes }");
+    const QmlWindow host("TQAppIcon { property int changes: 0; property var seen: app\n"
+                         "app: TQApp.birch; onAppChanged: ++changes }");
     EXPECT_EQ(host.item->size(), QSizeF(36, 36));
     EXPECT_FALSE(host.item->property("empty").toBool());
     const auto picture = [&] { return const_cast<QQuickWindow &>(host.window).grabWindow(); };
@@ -22,6 +23,7 @@ TEST(TQAppIcon, ShowsTheIconOfAnyApp)
     EXPECT_EQ(host.item->property("changes"), QVariant(changes));
     host.item->setProperty("app", QVariant::fromValue(TQApp(TQApp::fir)));
     EXPECT_EQ(host.item->property("changes"), QVariant(changes + 1));
+    EXPECT_EQ(host.item->property("seen").value<TQApp>(), TQApp::fir) << "bindings follow";
     EXPECT_NE(picture(), birch);
 }
 

@@ -54,6 +54,7 @@ TEST(LayoutCost, IsTheSumOfItsParts)
         {u"x", 1},
         {u"\n", 30},
         {u"\u007F", 1},
+        {u"\u0080", 30},
         {u"\u00A0", 3},
         {u"\u02FF", 3},
         // Another script.

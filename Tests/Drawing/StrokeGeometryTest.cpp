@@ -99,6 +99,7 @@ TEST(StrokeGeometry, ClosedPathHasJoinAtItsStart)
     EXPECT_TRUE(closed.parts.back().isJoin());
     EXPECT_EQ(closed.parts.back().from, closed.length) << "the join is the last part";
     EXPECT_TRUE(covers(closed, {-0.99, -0.99}));
+    EXPECT_EQ(joins(strokeGeometry(line({{0, 0}, {20, 0}}, true), 2)), 2) << "there and back";
 }
 
 TEST(StrokeGeometry, ClosingAddsMissingSegment)
@@ -184,6 +185,13 @@ TEST(StrokeGeometry, ZeroLengthCurveIsIgnored)
     ASSERT_EQ(withIt.parts.size(), plain.parts.size());
     for (std::size_t k = 0; k < plain.parts.size(); ++k)
         EXPECT_EQ(withIt.parts[k].corners, plain.parts[k].corners);
+}
+
+TEST(StrokeGeometry, RoundingErrorIsNoDirection)
+{
+    // A control point at the start of its curve, but for the rounding of its coordinates.
+    const Path path{{0, 0}, {{{10, 0}, {20, 0}, {30, 0}}, {{30, 1e-12}, {50, 0}, {60, 0}}}, false};
+    EXPECT_EQ(joins(strokeGeometry(path, 2)), 0);
 }
 
 TEST(StrokeGeometry, NonFiniteOrHugeNumbersGiveNoParts)

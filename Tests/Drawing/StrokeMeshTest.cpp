@@ -187,6 +187,15 @@ TEST_P(StrokeMeshAtScales, DrawsEndsAtAnyPosition)
     }
 }
 
+TEST(StrokeMesh, DrawsAJoinWhenTheLineReachesIt)
+{
+    constexpr Point corner{30, 10};
+    const Path path{{10, 10}, {{{10, 10}, corner, corner}, {corner, {30, 30}, {30, 30}}}, false};
+    const StrokeMesh mesh = strokeMesh(strokeGeometry(path, 4), 1);
+    EXPECT_EQ(Rasterizer(mesh, 19, 1, 40, 40).covered(31, 8), 0);
+    EXPECT_EQ(Rasterizer(mesh, 21, 1, 40, 40).covered(31, 8), 1);
+}
+
 INSTANTIATE_TEST_SUITE_P(StrokeMesh, StrokeMeshAtScales, testing::Values(1, 1.5, 2, 3),
                          [](const auto &scale) { return std::to_string(std::lround(10 * scale.param)) + "Tenths"; });
 

@@ -326,9 +326,13 @@ TEST_F(InputShield, RejectsDragFromAnotherApp)
     data.setText(QStringLiteral("dragged"));
     QDragEnterEvent enter({195, 300}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&host.window, &enter);
+    QDragMoveEvent move({195, 310}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&host.window, &move);
     QDropEvent drop(QPointF(195, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&host.window, &drop);
     EXPECT_EQ(received(), QString());
+    EXPECT_FALSE(move.isAccepted()) << "the other app shows that nothing can be dropped";
+    EXPECT_FALSE(drop.isAccepted()) << "the other app keeps what it moves";
 }
 
 // Older versions of Qt send these events to widgets only.

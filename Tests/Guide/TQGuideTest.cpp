@@ -19,6 +19,8 @@ Item {
     property int changes: 0
     readonly property bool asked: guide.shouldShowGuide()
     readonly property TQGuide guide: guide
+    readonly property int pages: guide.descriptions.length
+    readonly property var tint: guide.tintColor
     function start() { guide.showGuide(); }
     function startHere() { guide.showGuide(null, root); }
     width: 300; height: 300
@@ -85,6 +87,8 @@ TEST_F(TQGuide, EmitsChangesOnlyForNewValues)
     guide->setProperty("descriptions", QStringList());
     guide->setProperty("tintColor", QVariant::fromValue(Color::label()));
     EXPECT_EQ(app->item->property("changes"), QVariant(2));
+    EXPECT_EQ(app->item->property("pages"), QVariant(0)) << "bindings follow";
+    EXPECT_EQ(app->item->property("tint"), QVariant::fromValue(Color::label()));
 }
 
 TEST_F(TQGuide, PassesFallbacksOn)

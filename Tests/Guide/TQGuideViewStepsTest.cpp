@@ -395,8 +395,7 @@ TEST_F(TQGuideViewSteps, StopsProcessIfLabelIsDestroyedDuringFadeOut)
     const auto guide = shownRecording(paragraphs(2));
     guide->nextGuide();
     clock.pass(200);
-    delete guide->guideLabel();
-    EXPECT_EXIT(clock.pass(200), testing::KilledBySignal(trapSignal), "");
+    EXPECT_EXIT((delete guide->guideLabel(), clock.pass(200)), testing::KilledBySignal(trapSignal), "");
 }
 
 TEST_F(TQGuideViewSteps, ToleratesLabelDestroyedDuringFadeIn)
@@ -414,8 +413,7 @@ TEST_F(TQGuideViewSteps, StopsProcessIfButtonIsDestroyedDuringChange)
     const auto guide = shownRecording(paragraphs(2));
     guide->nextGuide();
     clock.pass(600);
-    delete guide->nextButton();
-    EXPECT_EXIT(clock.pass(200), testing::KilledBySignal(trapSignal), "");
+    EXPECT_EXIT((delete guide->nextButton(), clock.pass(200)), testing::KilledBySignal(trapSignal), "");
 }
 
 TEST_F(TQGuideViewSteps, EndsWithoutLabel)

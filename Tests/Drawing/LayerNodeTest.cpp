@@ -167,6 +167,12 @@ TEST_F(LayerInAWindow, ShowsTheLayersColour)
     EXPECT_NEAR(color.red(), 255, 1);
     EXPECT_NEAR(color.green(), 191, 1);
     EXPECT_NEAR(color.blue(), 128, 1);
+    // In a window of its own, since a colour may be kept from the frame before.
+    CountedWindow other({100, 40});
+    LayerItem black(other.contentItem());
+    layer.strokeColor = {0, 0, 0, 1};
+    black.setLayer(layer);
+    EXPECT_EQ(darkestOf(other.grabWindow()), 255);
 }
 
 TEST_F(LayerInAWindow, DrawsNothingWithoutALayer)

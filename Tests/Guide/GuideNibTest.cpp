@@ -60,11 +60,11 @@ QQuickItem *scroller(const TQGuideView &guide)
 class GuideNib : public Testing::GuideHost
 {
 protected:
-    std::shared_ptr<TQGuideView> shownIn(QSize size, const QString &text)
+    std::shared_ptr<TQGuideView> shownIn(QSize size, const QString &text, const QString &next = QStringLiteral("Two"))
     {
         window.resize(size);
         platform->bounds = size;
-        auto guide = shown({text, QStringLiteral("Second")});
+        auto guide = shown({text, next});
         clock.pass(600);
         window.grabWindow();
         return guide;
@@ -193,7 +193,7 @@ TEST_F(GuideNib, KeepsScrollPositionAtTouchCancel)
 
 TEST_F(GuideNib, StartsNextParagraphAtTop)
 {
-    const auto guide = shownIn({320, 480}, longText());
+    const auto guide = shownIn({320, 480}, longText(), longText() + u'.');
     QTest::keyClick(&window, Qt::Key_End);
     guide->nextGuide();
     clock.pass(400);
@@ -473,7 +473,7 @@ TEST_F(GuideNib, ShowsAndLeavesHugeParagraph)
     window.grabWindow();
     guide->nextGuide();
     clock.pass(800);
-    EXPECT_EQ(textOf(*guide), QStringLiteral("Second"));
+    EXPECT_EQ(textOf(*guide), QStringLiteral("Two"));
 }
 
 TEST_F(GuideNib, ShowsEmptyParagraph)
@@ -482,7 +482,7 @@ TEST_F(GuideNib, ShowsEmptyParagraph)
     EXPECT_EQ(textOf(*guide), QString());
     guide->nextGuide();
     clock.pass(800);
-    EXPECT_EQ(textOf(*guide), QStringLiteral("Second"));
+    EXPECT_EQ(textOf(*guide), QStringLiteral("Two"));
 }
 
 // Assistive technology.

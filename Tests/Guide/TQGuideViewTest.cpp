@@ -145,7 +145,7 @@ TEST_F(TQGuideViewFactory, ChangesPropertiesInPlace)
     EXPECT_EQ(guide->nextButton(), nullptr);
 }
 
-TEST_F(TQGuideViewFactory, SignalsEachChangeOfAnOutletOnce)
+TEST_F(TQGuideViewFactory, SignalsEachChangeOnce)
 {
     const auto guide = made(paragraphs(2));
     QQuickItem label;
@@ -155,11 +155,15 @@ TEST_F(TQGuideViewFactory, SignalsEachChangeOfAnOutletOnce)
                      [&] { seen.push_back(guide->guideLabel()); });
     QObject::connect(guide.get(), &TQGuideView::nextButtonChanged, guide.get(),
                      [&] { seen.push_back(guide->nextButton()); });
+    int colors = 0;
+    QObject::connect(guide.get(), &TQGuideView::backgroundColorChanged, guide.get(), [&] { ++colors; });
     for (int round = 0; round < 2; ++round) {
         guide->setGuideLabel(&label);
         guide->setNextButton(&button);
+        guide->setBackgroundColor(Color::label());
     }
     EXPECT_EQ(seen, (std::vector{&label, &button}));
+    EXPECT_EQ(colors, 1);
 }
 
 TEST_F(TQGuideViewFactory, ShowsItsWholeAreaWithoutAWindow)

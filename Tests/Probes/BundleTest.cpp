@@ -191,6 +191,17 @@ TEST(Bundle, LoadsTheFullSizeOfImagesThatAreNotStoredSmaller)
     EXPECT_EQ(Bundle(folder.path()).image(QStringLiteral("fir"), 36).size(), QSize(216, 216));
 }
 
+// Looking for other formats would load their plugins.
+TEST(Bundle, ReadsPngAlone)
+{
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("Icons")));
+    QImage bitmap(108, 108, QImage::Format_RGB32);
+    bitmap.fill(Qt::red);
+    ASSERT_TRUE(bitmap.save(folder.filePath(QStringLiteral("Icons/fir.png")), "BMP"));
+    EXPECT_TRUE(Bundle(folder.path()).image(QStringLiteral("fir"), 36).isNull());
+}
+
 TEST(Bundle, ReturnsNullForMissingImages)
 {
     EXPECT_TRUE(libraryBundle().image(QStringLiteral("baobab"), 36).isNull());

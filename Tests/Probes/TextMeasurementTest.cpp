@@ -203,6 +203,13 @@ TEST_F(TextMeasurement, MeasuresLinesBeyondFixedPoint)
     EXPECT_EQ(heightOfString(text + u'\n' + text, huge), heightOfString(QStringLiteral("W\nW"), huge));
 }
 
+TEST_F(TextMeasurement, MeasuresShortTextInAHugeFont)
+{
+    QFont huge = font;
+    huge.setPixelSize(100'000);
+    EXPECT_NEAR(widthOfString(QString(40, u'n'), huge) / widthOfString(QStringLiteral("n"), huge), 40, 0.5);
+}
+
 TEST_F(TextMeasurement, ShapesAcrossThePartsOfLongLines)
 {
     // A huge font makes the parts short.

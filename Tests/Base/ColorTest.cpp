@@ -149,6 +149,11 @@ TEST(Color, CompositesTranslucentColorsForText)
     constexpr Color clear(Rgba{0, 0, 0, 0});
     EXPECT_EQ(clear.textColor(Appearance::light), (Rgba{0, 0, 0}));
     EXPECT_EQ(clear.textColor(Appearance::dark), (Rgba{1, 1, 1}));
+    // Greys next to the one on which black and white are equally legible.
+    EXPECT_EQ(Color(Rgba{0, 0, 0, 0.53F}).textColor(Appearance::light), (Rgba{0, 0, 0}));
+    EXPECT_EQ(Color(Rgba{0, 0, 0, 0.55F}).textColor(Appearance::light), (Rgba{1, 1, 1}));
+    EXPECT_EQ(Color(Rgba{1, 1, 1, 0.47F}).textColor(Appearance::dark), (Rgba{0, 0, 0}));
+    EXPECT_EQ(Color(Rgba{1, 1, 1, 0.45F}).textColor(Appearance::dark), (Rgba{1, 1, 1}));
 }
 
 } // namespace

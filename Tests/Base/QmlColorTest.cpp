@@ -21,6 +21,17 @@ TEST(QmlColor, ResolvesForLightAndDark)
     EXPECT_EQ(qmlValue("tqColor", "TQApp.fir.tintColor").value<Color>(), Color::systemGray());
 }
 
+TEST(QmlColor, FindsLegibleColorsForEachBackground)
+{
+    const InstalledRecordingPlatform platform;
+    for (const char *background : {"white", "black"}) {
+        const auto legible =
+            qmlValue("color", QByteArray("TQApp.fir.tintColor.legibleOn('") + background + "', false)").value<QColor>();
+        const auto isWhite = QByteArray(background) == "white";
+        EXPECT_EQ(legible.lightnessF() < 0.5, isWhite) << background;
+    }
+}
+
 // The types with a colour property, and that property.
 class ColorProperty : public testing::TestWithParam<std::pair<const char *, const char *>>
 {

@@ -66,6 +66,8 @@ TEST_F(BrowserSheet, ShowsASlowPageOnceItHasLoaded)
 {
     browse(plain + u"/slow");
     ASSERT_TRUE(isLoading());
+    const std::string tree = ScreenReader::tree(Layout::popupOf(button("Close")));
+    EXPECT_NE(tree.find("ProgressBar '"), std::string::npos) << tree;
     EXPECT_TRUE(isTitled("slow"));
     EXPECT_TRUE(comes([this] { return !isLoading(); }));
 }

@@ -29,7 +29,7 @@ TEST(Scene, WritesItsWindowsToDebug)
     QWindow window;
     const Scene scene = Testing::scene(ActivationState::foregroundActive, {&window}, &window);
     static const QRegularExpression expected(QStringLiteral(
-        R"(\AScene\([\w:]*foregroundActive, isWindowScene, [\w:<>]*\(SceneWindow\(QWindow\(0x[0-9a-f]+\), isKey\)\)\)\z)"));
+        R"(\AScene\([\w:]*foregroundActive, isWindowScene, QList\(SceneWindow\(QWindow\(0x[0-9a-f]+\), isKey\)\)\)\z)"));
     EXPECT_TRUE(expected.match(written(scene)).hasMatch()) << written(scene).toStdString();
     EXPECT_EQ(written(SceneWindow{}), QStringLiteral("SceneWindow(QWindow(0x0))"));
 
@@ -38,8 +38,7 @@ TEST(Scene, WritesItsWindowsToDebug)
     EXPECT_EQ(text.trimmed(), QStringLiteral("SceneWindow(QWindow(0x0)) SceneWindow(QWindow(0x0)) 1"));
     text.clear();
     QDebug(&text) << Scene{} << Scene{} << 1;
-    static const QRegularExpression unattached(
-        QStringLiteral(R"(\A(Scene\([\w:]*unattached, [\w:<>]*\(\)\) ){2}1\s*\z)"));
+    static const QRegularExpression unattached(QStringLiteral(R"(\A(Scene\([\w:]*unattached, QList\(\)\) ){2}1\s*\z)"));
     EXPECT_TRUE(unattached.match(text).hasMatch()) << text.toStdString();
 }
 

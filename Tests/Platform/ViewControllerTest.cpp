@@ -142,6 +142,29 @@ TEST(ViewController, DismissesAllControllersAbove)
     EXPECT_EQ(third->presentedViewController(), first);
 }
 
+TEST(ViewController, IsDismissedBeforeItDisappears)
+{
+    class Leaving final : public ViewController
+    {
+    public:
+        using ViewController::ViewController;
+        bool isDismissed = false;
+
+    protected:
+        void disappear() override
+        {
+            dismiss(); // without effect
+            isDismissed = true;
+        }
+    };
+    const Controller root = controller();
+    const auto leaving = std::make_shared<Leaving>(nullptr);
+    root->present(leaving);
+    leaving->dismiss();
+    EXPECT_TRUE(leaving->isDismissed);
+    EXPECT_EQ(root->presentedViewController(), nullptr);
+}
+
 TEST(ViewController, RefusesUnpresentableControllers)
 {
     const Controller root = controller();

@@ -201,6 +201,10 @@ TEST_F(TextMeasurement, MeasuresLinesBeyondFixedPoint)
     EXPECT_EQ(heightOfString(text, huge), heightOfString(QStringLiteral("W"), huge));
     EXPECT_EQ(widthOfString(QStringLiteral("a\n") + text + QStringLiteral("\nb"), huge), widthOfString(text, huge));
     EXPECT_EQ(heightOfString(text + u'\n' + text, huge), heightOfString(QStringLiteral("W\nW"), huge));
+    const double mixed = heightOfString(QStringLiteral("W汉"), huge); // in two fonts
+    EXPECT_GT(mixed, heightOfString(QStringLiteral("W"), huge));
+    EXPECT_EQ(heightOfString(text + u'汉', huge), mixed);
+    EXPECT_EQ(heightOfString(u'汉' + text, huge), mixed);
 }
 
 TEST_F(TextMeasurement, MeasuresShortTextInAHugeFont)

@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <set>
 
@@ -221,6 +223,19 @@ TEST_F(AnimationViewDeathTest, StopsOnAScreenThatIsNotFiniteOrNegative)
         EXPECT_EXIT((platform->bounds = bounds, AnimationView::initWithFrame({})), testing::KilledBySignal(trapSignal),
                     "");
     }
+}
+
+// So that no render thread draws a background while the process ends.
+TEST_F(AnimationViewDeathTest, HidesWindowsAtExit)
+{
+    const auto exitWithAWindow = [] {
+        auto *const window = new QQuickWindow;
+        new AnimationView(window->contentItem());
+        window->show();
+        QObject::connect(window, &QWindow::visibleChanged, window, [] { std::fputs("hidden", stderr); });
+        std::exit(0);
+    };
+    EXPECT_EXIT(exitWithAWindow(), testing::ExitedWithCode(0), "^hidden$");
 }
 
 TEST_F(AnimationViewDeathTest, StopsOnOverflow)

@@ -83,6 +83,7 @@ TEST_F(TQRandomBackgroundViewTest, StartsWithParentInWindow)
     TQRandomBackgroundView background(Color(red), window.contentItem());
     EXPECT_EQ(background.color(), Color(red));
     EXPECT_EQ(background.parentItem(), window.contentItem());
+    EXPECT_EQ(background.parent(), window.contentItem()) << "which therefore owns it";
     EXPECT_EQ(drawnColor(viewIn(&background)), strokeColor(red));
 }
 

@@ -25,6 +25,21 @@ TEST(Topmost, CoversSiblingsAndPopups)
     EXPECT_LT(later.z(), item.z());
 }
 
+TEST(Topmost, CoversPopupsThatOpenLater)
+{
+    Testing::QmlWindow host("import QtQuick.Controls\nLoader {\n"
+                            "active: false; sourceComponent: Item { Popup { visible: true; modal: true } } }");
+    QQuickItem *const content = host.window.contentItem();
+    QQuickItem item;
+    addAsTopmostChild(&item, content);
+    const qsizetype before = content->childItems().size();
+    host.item->setProperty("active", true);
+    const QList<QQuickItem *> siblings = content->childItems();
+    ASSERT_GT(siblings.size(), before) << "the popup overlay";
+    for (const QQuickItem *sibling : siblings)
+        EXPECT_TRUE(sibling == &item || isAbove(&item, sibling));
+}
+
 TEST(Topmost, CoversSiblingsWithInfiniteZ)
 {
     QQuickItem host;

@@ -106,6 +106,8 @@ TEST(QmlMore, BeginsAFeedbackMail)
     const QmlWindow host("Item { Component.onCompleted: TQMore.sendFeedbackEmail(Qt.rgba(1, 0, 0, 1), 'a\nb') }");
     EXPECT_TRUE(platform->calls.contains(QStringLiteral("composer.setNavigationBarTintColor(#ffff0000 #ffff0000)")));
     EXPECT_TRUE(platform->calls.contains(QStringLiteral("composer.setMessageBody(a\nb, html)")));
+    const QmlWindow next("Item { Component.onCompleted: TQMore.sendFeedbackEmail('#ff00ff00', '') }");
+    EXPECT_TRUE(platform->calls.contains(QStringLiteral("composer.setNavigationBarTintColor(#ff00ff00 #ff00ff00)")));
 }
 
 } // namespace

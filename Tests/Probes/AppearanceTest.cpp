@@ -21,6 +21,11 @@ QPalette palette(Qt::GlobalColor ground, Qt::GlobalColor text)
     QPalette made;
     made.setColor(QPalette::Window, ground);
     made.setColor(QPalette::WindowText, text);
+    // Other roles, as of a style with dark buttons in a light window, do not matter.
+    for (const auto role : {QPalette::Base, QPalette::Button})
+        made.setColor(role, text);
+    for (const auto role : {QPalette::Text, QPalette::ButtonText})
+        made.setColor(role, ground);
     return made;
 }
 

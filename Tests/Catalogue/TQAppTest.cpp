@@ -304,9 +304,9 @@ TEST_P(TQAppIconAtScale, IsThirtySixPointsSquare)
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, TQAppIconAtScale,
-                         testing::Values(std::pair(1.0, 36), std::pair(1.1, 40), std::pair(1.25, 45),
-                                         std::pair(1.5, 54), std::pair(2.0, 72), std::pair(3.0, 108),
-                                         std::pair(4.0, 144)));
+                         testing::Values(std::pair(1.0 / 36, 1), std::pair(1.0, 36), std::pair(1.1, 40),
+                                         std::pair(1.25, 45), std::pair(1.5, 54), std::pair(2.0, 72),
+                                         std::pair(3.0, 108), std::pair(4.0, 144)));
 
 class TQAppIconAtInvalidScale : public testing::TestWithParam<double>
 {};

@@ -33,6 +33,12 @@ TEST_F(GuidePictures, OfAScrolledParagraph)
     expectPicture(window, "guide-scrolled");
 }
 
+TEST_F(GuidePictures, OfAHugeParagraph)
+{
+    const auto guide = shownIn({320, 240}, Color::systemBlue(), longText().repeated(5));
+    expectPicture(window, "guide-huge");
+}
+
 TEST_F(GuidePictures, OfAPulse)
 {
     const auto guide = shownIn({390, 700}, Rgba{1, 0.58F, 0}, QStringLiteral("A short paragraph"));

@@ -1,5 +1,6 @@
 #include "StrokeMesh.h"
 
+#include "MeshPart.h"
 #include "StrokeReference.h"
 
 #include <gtest/gtest.h>
@@ -185,6 +186,15 @@ TEST_P(StrokeMeshAtScales, DrawsEndsAtAnyPosition)
             }
         }
     }
+}
+
+TEST(MeshPart, TouchesWhatPixelsAroundADiscMaySee)
+{
+    StrokePart disc{{{{10, 10}, {12, 10}, {11, 11}, {10, 12}}}};
+    disc.isBend = true;
+    const MeshPart part(disc, 0.5);
+    EXPECT_TRUE(part.touches({12.4, 9, 20, 11}));
+    EXPECT_FALSE(part.touches({12.6, 9, 20, 11}));
 }
 
 TEST(StrokeMesh, DrawsAJoinWhenTheLineReachesIt)

@@ -186,9 +186,15 @@ TEST(Bundle, LoadsTheFullSizeOfImagesThatAreNotStoredSmaller)
 {
     const QTemporaryDir folder;
     ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("Icons")));
-    ASSERT_TRUE(QFile::copy(QStringLiteral(":/qt-project.org/imports/TQFoundation/Icons/fir.png"),
-                            folder.filePath(QStringLiteral("Icons/fir.png"))));
-    EXPECT_EQ(Bundle(folder.path()).image(QStringLiteral("fir"), 36).size(), QSize(216, 216));
+    const Bundle bundle(folder.path());
+    const auto stored = [&](const QString &name) {
+        const QString file = u"Icons/" + name + u".png";
+        EXPECT_TRUE(QFile::copy(u":/qt-project.org/imports/TQFoundation/" + file, folder.filePath(file)));
+        return bundle.image(name, 36);
+    };
+    const QImage fir = stored(QStringLiteral("fir"));
+    EXPECT_EQ(fir.size(), QSize(216, 216));
+    EXPECT_NE(stored(QStringLiteral("birch")), fir);
 }
 
 // Looking for other formats would load their plugins.

@@ -229,5 +229,22 @@ TEST_P(StrokeMaskAtScales, NoPixelIsFarOffCairo)
 INSTANTIATE_TEST_SUITE_P(StrokeMask, StrokeMaskAtScales, testing::Values(1, 1.25, 1.5, 2, 3),
                          [](const auto &scale) { return std::to_string(std::lround(100 * scale.param)) + "Percent"; });
 
+// Each tile and block costs time on every frame.
+TEST(StrokeMask, HasNoMoreThanItNeeds)
+{
+    std::mt19937_64 random(12);
+    std::size_t tiles = 0;
+    std::ptrdiff_t blocks = 0;
+    for (int round = 0; round < 20; ++round) {
+        StrokeMask mask = maskOf(Testing::randomPath(random), 2);
+        mask.drawUpTo(1e9);
+        tiles += mask.tiles().size();
+        for (const auto &[place, tile] : mask.tiles())
+            blocks += std::ranges::count_if(tile.blocks, [](std::int32_t block) { return block >= 0; });
+    }
+    EXPECT_NEAR(static_cast<double>(tiles), 2814, 10);
+    EXPECT_NEAR(static_cast<double>(blocks), 15'046, 50);
+}
+
 } // namespace
 } // namespace TQFoundation

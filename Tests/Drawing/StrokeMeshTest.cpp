@@ -197,6 +197,25 @@ TEST(MeshPart, TouchesWhatPixelsAroundADiscMaySee)
     EXPECT_FALSE(part.touches({12.6, 9, 20, 11}));
 }
 
+// Each vertex and square costs time on every frame.
+TEST(StrokeMesh, HasNoMoreThanItNeeds)
+{
+    std::mt19937_64 random(12);
+    std::size_t parts = 0;
+    std::size_t vertices = 0;
+    std::size_t corners = 0;
+    for (int round = 0; round < 100; ++round) {
+        const StrokeGeometry stroke = strokeGeometry(Testing::randomPath(random), 2);
+        const StrokeMesh mesh = strokeMesh(stroke, 2);
+        parts += stroke.parts.size();
+        vertices += mesh.band.size();
+        corners += mesh.squares.size();
+    }
+    EXPECT_NEAR(static_cast<double>(parts), 32'047, 100);
+    EXPECT_NEAR(static_cast<double>(vertices), 183'225, 500);
+    EXPECT_NEAR(static_cast<double>(corners), 40'560, 100);
+}
+
 TEST(StrokeMesh, DrawsAJoinWhenTheLineReachesIt)
 {
     constexpr Point corner{30, 10};

@@ -16,16 +16,13 @@
 namespace TQFoundation {
 namespace {
 
-QPalette palette(Qt::GlobalColor ground, Qt::GlobalColor text)
+QPalette palette(Qt::GlobalColor ground, Qt::GlobalColor text, Qt::GlobalColor others = Qt::gray)
 {
     QPalette made;
+    for (int role = 0; role < QPalette::NColorRoles; ++role)
+        made.setColor(static_cast<QPalette::ColorRole>(role), others);
     made.setColor(QPalette::Window, ground);
     made.setColor(QPalette::WindowText, text);
-    // Other roles, as of a style with dark buttons in a light window, do not matter.
-    for (const auto role : {QPalette::Base, QPalette::Button})
-        made.setColor(role, text);
-    for (const auto role : {QPalette::Text, QPalette::ButtonText})
-        made.setColor(role, ground);
     return made;
 }
 
@@ -62,10 +59,12 @@ private:
 
 TEST_F(AppearanceInQml, FollowsThePaletteIfThePlatformNamesNone)
 {
-    QGuiApplication::setPalette(palette(Qt::black, Qt::white));
-    EXPECT_TRUE(isDark());
-    QGuiApplication::setPalette(palette(Qt::white, Qt::black));
-    EXPECT_FALSE(isDark());
+    for (const Qt::GlobalColor others : {Qt::black, Qt::white}) {
+        QGuiApplication::setPalette(palette(Qt::black, Qt::white, others));
+        EXPECT_TRUE(isDark());
+        QGuiApplication::setPalette(palette(Qt::white, Qt::black, others));
+        EXPECT_FALSE(isDark());
+    }
 }
 
 TEST_F(AppearanceInQml, PrefersThePlatformToThePalette)

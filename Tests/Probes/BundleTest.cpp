@@ -61,6 +61,14 @@ TEST(Bundle, PrefersTheDefaultLocaleToTheSystemsLanguages)
     EXPECT_EQ(localizedInLibrary(version), QStringLiteral("版本"));
 }
 
+TEST(Bundle, TakesTheFirstLanguageThatHasATable)
+{
+    qputenv("LC_ALL", "sw_KE.UTF-8");
+    qputenv("LANGUAGE", "sw:zh_CN:de");
+    QLocale::setDefault(QLocale::system());
+    EXPECT_EQ(localizedInLibrary(version), QStringLiteral("版本"));
+}
+
 TEST(Bundle, ReturnsTextsWithoutEntryUnchanged)
 {
     useLanguage("zh-CN");

@@ -84,7 +84,8 @@ sanitize:
 
 fuzz:
 	tools/install-packages build test fuzz
-	cmake --preset fuzz -DTQFOUNDATION_SMOKE_SECONDS=$(SECONDS) -DTQFOUNDATION_WERROR=$(WERROR)
+	cmake --preset fuzz -DTQFOUNDATION_SMOKE_SECONDS=$(SECONDS) -DTQFOUNDATION_SMOKE_SEED=$(or $(SEED),0) \
+		-DTQFOUNDATION_WERROR=$(WERROR)
 	cmake --build --preset fuzz
 	ctest --preset fuzz $(FUZZ)
 

@@ -33,7 +33,7 @@ TEST(QmlColor, FindsLegibleColorsForEachBackground)
 }
 
 // The types with a colour property, and that property.
-class ColorProperty : public testing::TestWithParam<std::pair<const char *, const char *>>
+class ColorProperty : public testing::TestWithParam<std::pair<std::string, std::string>>
 {
 protected:
     ColorProperty()
@@ -59,8 +59,8 @@ protected:
         return object;
     }
 
-    static const char *type() { return GetParam().first; }
-    static const char *name() { return GetParam().second; }
+    static const char *type() { return GetParam().first.c_str(); }
+    static const char *name() { return GetParam().second.c_str(); }
 
     const InstalledRecordingPlatform platform;
     QQmlEngine engine;

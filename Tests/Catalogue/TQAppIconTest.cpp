@@ -27,6 +27,14 @@ TEST(TQAppIcon, ShowsTheIconOfAnyApp)
     EXPECT_NE(picture(), birch);
 }
 
+TEST(TQAppIcon, IsEmptyWithoutAnImage)
+{
+    const InstalledRecordingPlatform platform;
+    platform->scale = 0;
+    const QmlWindow host("TQAppIcon { app: TQApp.birch }");
+    EXPECT_TRUE(host.item->property("empty").toBool());
+}
+
 TEST(TQAppIcon, HasAUrlForImages)
 {
     const InstalledRecordingPlatform platform;

@@ -4,6 +4,8 @@
 
 #include <QtCore/qcoreapplication.h>
 #include <QtCore/qpointer.h>
+#include <QtQml/qqmlcomponent.h>
+#include <QtQml/qqmlengine.h>
 #include <QtTest/qsignalspy.h>
 
 #include <gtest/gtest.h>
@@ -96,6 +98,18 @@ TEST(BrowserPage, HasATextForEachProblem)
                            QStringLiteral("The connection to this site is not secure, so the page was not opened."),
                            QStringLiteral("This page has stopped working."),
                            QStringLiteral("This page takes too long to load.")}));
+}
+
+// The module has them for the sheets' own QML.
+TEST(BrowserPage, IsNotForAppsToMakeAndNeitherIsADraft)
+{
+    QQmlEngine engine;
+    for (const auto &[type, reason] : {std::pair("BrowserPage", "Not for apps: an in-app browser makes it."),
+                                       std::pair("MailDraft", "Not for apps: a mail composer makes it.")}) {
+        QQmlComponent component(&engine);
+        component.setData("import TQFoundation\n" + QByteArray(type) + " {}", QUrl());
+        EXPECT_TRUE(component.errorString().contains(QLatin1String(reason))) << component.errorString().toStdString();
+    }
 }
 
 // Qt WebEngine's threads may still use a profile when its view is destroyed.

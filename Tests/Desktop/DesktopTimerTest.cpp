@@ -102,6 +102,18 @@ TEST(DesktopTimer, CountsGridFromMakingNotFromScheduling)
     EXPECT_EQ(ticks, std::vector<double>{2005});
 }
 
+// A tick even a millisecond early would be followed by another one at the right time.
+TEST(DesktopTimer, NeverTicksEarly)
+{
+    std::vector<double> ticks;
+    const double start = now();
+    const auto timer = makeTimer(1.2, [&] { ticks.push_back(now()); });
+    timer->schedule();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !ticks.empty(); }));
+    timer->invalidate();
+    EXPECT_GE(ticks.front(), start + 1.2);
+}
+
 /// Calls \a begin and runs an event loop inside an event handler until a timer that was scheduled before has ticked
 /// three times, or for 5 s. The ticks inside that loop.
 int ticksInNestedLoop(const std::function<void()> &begin)

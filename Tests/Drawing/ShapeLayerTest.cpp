@@ -159,6 +159,14 @@ TEST(ShapeLayer, PresentsModelOnceNothingAnimates)
     }
 }
 
+TEST(ShapeLayer, IsAWholeOpaqueLineOfOnePoint)
+{
+    const ShapeLayer layer;
+    EXPECT_EQ(layer.lineWidth, 1);
+    EXPECT_EQ(layer.presentation(0), (Presentation{.opacity = 1, .strokeEnd = 1}));
+    EXPECT_FALSE(layer.isAnimating(0));
+}
+
 TEST(ShapeLayer, CopiesAreIndependentValues)
 {
     const ShapeLayer layer = line(1);

@@ -9,20 +9,20 @@ namespace {
 
 using Testing::InstalledRecordingPlatform;
 
-class EnvironmentRegion : public testing::TestWithParam<std::pair<const char *, bool>>
+class EnvironmentRegion : public testing::TestWithParam<std::pair<std::optional<std::string>, bool>>
 {};
 
 TEST_P(EnvironmentRegion, IsMainlandChinaForChnAndUnknown)
 {
     const InstalledRecordingPlatform platform;
     if (GetParam().first)
-        platform->storefront = QLatin1String(GetParam().first);
+        platform->storefront = QString::fromStdString(*GetParam().first);
     EXPECT_EQ(isChn(), GetParam().second);
     EXPECT_EQ(platform->calls, QStringList{QStringLiteral("storefrontCountryCode()")});
 }
 
 INSTANTIATE_TEST_SUITE_P(Storefronts, EnvironmentRegion,
-                         testing::Values(std::pair(nullptr, true), std::pair("CHN", true), std::pair("USA", false),
+                         testing::Values(std::pair(std::nullopt, true), std::pair("CHN", true), std::pair("USA", false),
                                          std::pair("HKG", false), std::pair("TWN", false), std::pair("chn", false),
                                          std::pair("", false), std::pair("CHN ", false), std::pair("CHN\n", false)));
 

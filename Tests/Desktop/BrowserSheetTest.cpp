@@ -198,6 +198,17 @@ TEST_F(BrowserSheet, AnswersDialogsWithoutAskingTheUser)
     EXPECT_TRUE(isTitled("no entry"));
 }
 
+TEST_F(BrowserSheet, OpensNoChoosers)
+{
+    for (const char *page : {"/chooser-of-colors", "/chooser-of-files"}) {
+        load(plain + QLatin1String(page));
+        ASSERT_TRUE(isTitled("chooser"));
+        EXPECT_TRUE(clickUntilTitled("asked")) << page;
+        EXPECT_EQ(QGuiApplication::topLevelWindows().size(), 1) << page;
+        close();
+    }
+}
+
 TEST_F(BrowserSheet, DeniesPermissions)
 {
     load(plain + u"/ask");

@@ -106,8 +106,8 @@ TEST(InfoPlist, RefusesDeepNesting)
     const auto nested = [](int depth) {
         return list("<key>k</key>" + QByteArray("<array>").repeated(depth) + QByteArray("</array>").repeated(depth));
     };
-    EXPECT_EQ(parseInfoPlist(nested(60)).size(), 1);
-    EXPECT_TRUE(parseInfoPlist(nested(65)).isEmpty());
+    EXPECT_EQ(parseInfoPlist(nested(63)).size(), 1);
+    EXPECT_TRUE(parseInfoPlist(nested(64)).isEmpty());
     EXPECT_TRUE(parseInfoPlist(nested(60'000)).isEmpty());
 }
 

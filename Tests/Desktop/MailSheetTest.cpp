@@ -8,6 +8,7 @@
 #include <QtGui/qpalette.h>
 #include <QtGui/qtextobject.h>
 
+#include <cmath>
 #include <sys/stat.h>
 
 namespace TQFoundation {
@@ -157,6 +158,30 @@ TEST_F(MailSheet, FitsWindowsOfAnySize)
         EXPECT_LE(message()->width(), 640);
         EXPECT_GE(message()->height(), message()->property("contentHeight").toDouble());
     }
+}
+
+TEST_F(MailSheet, ScrollsDownAndUpToTheCursor)
+{
+    compose(QStringLiteral("A line.<br>").repeated(300));
+    for (const double share : {1.0, 0.5, 0.25}) {
+        message()->setProperty("cursorPosition", std::floor(share * message()->property("length").toDouble()));
+        settle();
+        const QQuickItem *const page = itemOf("QQuickFlickable");
+        const QRectF cursor = message()->mapRectToItem(page, message()->property("cursorRectangle").toRectF());
+        EXPECT_TRUE(QRectF(QPointF(), page->size()).contains(cursor)) << share;
+    }
+}
+
+TEST_F(MailSheet, GrowsItsButtonsWithTheirText)
+{
+    QFont font = QGuiApplication::font();
+    font.setPointSizeF(24);
+    QGuiApplication::setFont(font);
+    compose();
+    const QQuickItem *const send = button("Send");
+    const double lineHeight = send->property("contentItem").value<QQuickItem *>()->implicitHeight();
+    EXPECT_GT(lineHeight, 44);
+    EXPECT_EQ(send->height(), lineHeight + 12);
 }
 
 TEST_F(MailSheet, IsMirroredInRightToLeftLanguages)

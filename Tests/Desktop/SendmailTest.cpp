@@ -47,6 +47,8 @@ TEST(Sendmail, IsSearchedInSystemFoldersThenPath)
     EXPECT_EQ(Platform().programFolders(),
               (QStringList{QStringLiteral("/usr/sbin"), QStringLiteral("/usr/lib"), QStringLiteral("/one"),
                            QStringLiteral("/two")}));
+    qputenv("PATH", "/three");
+    EXPECT_EQ(Platform().programFolders().last(), QStringLiteral("/three")) << "read each time";
 }
 
 } // namespace

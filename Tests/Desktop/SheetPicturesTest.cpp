@@ -34,7 +34,7 @@ protected:
 
 TEST_F(MailSheetPictures, OnAPhone)
 {
-    makeProgram("exit 75");
+    makeProgram("echo 'The server is full.' >&2; exit 75");
     TQMore::sendFeedbackEmail(Color::systemRed(), QStringLiteral("<b>Hello</b> <i>world</i>"));
     clock.pass(100);
     expectPicture(*window, "mail-slides-in");

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <numbers>
@@ -174,6 +175,17 @@ TEST(StrokeGeometry, PathWithoutLengthHasNoParts)
         EXPECT_TRUE(stroke.parts.empty());
         EXPECT_EQ(stroke.length, 0);
     }
+}
+
+TEST(StrokeGeometry, BoundsHoldAllOfItsLineAndNothingElse)
+{
+    const auto sides = [](const Path &path) {
+        const Bounds all = strokeGeometry(path, 2).bounds();
+        return std::array{all.left, all.top, all.right, all.bottom};
+    };
+    EXPECT_EQ(sides(line({{10, 20}, {40, 20}})), (std::array{10.0, 19.0, 40.0, 21.0}));
+    EXPECT_EQ(sides(line({{50, 90}, {50, 60}, {80, 60}})), (std::array{49.0, 59.0, 80.0, 90.0})) << "a line of its own";
+    EXPECT_EQ(sides(Path{}), (std::array{0.0, 0.0, 0.0, 0.0}));
 }
 
 TEST(StrokeGeometry, ZeroLengthCurveIsIgnored)

@@ -216,6 +216,17 @@ TEST(StrokeMesh, HasNoMoreThanItNeeds)
     EXPECT_NEAR(static_cast<double>(corners), 40'560, 100);
 }
 
+TEST(StrokeMesh, IsTheSameLeftOfTheOriginAndAbove)
+{
+    const auto squares = [](double shift) {
+        const Point start{10 + shift, 10 + shift};
+        const Path loop{start, {{{90 + shift, 90 + shift}, {10 + shift, 90 + shift}, {90 + shift, 10 + shift}}}, false};
+        return strokeMesh(strokeGeometry(loop, 2), 1).squares.size();
+    };
+    EXPECT_GT(squares(0), 0U);
+    EXPECT_EQ(squares(-2048), squares(0));
+}
+
 TEST(StrokeMesh, DrawsAJoinWhenTheLineReachesIt)
 {
     constexpr Point corner{30, 10};

@@ -14,6 +14,8 @@ import threading
 folder = pathlib.Path(sys.argv[1])
 asked = set()
 
+CHOOSER = ("<title>chooser</title><input type={} style='position:fixed;inset:0;width:100%;height:100%'"
+           "onclick='setTimeout(() => document.title = `asked`, 500)'>")
 PAGES = {
     "/": "<title>Bank of Anywhere</title><h1>Filing</h1><p>A page.",
     "/link": "<title>link</title><a href='/' style='position:fixed;inset:0'>all of the page leads on</a>",
@@ -29,6 +31,8 @@ PAGES = {
     "/programs": "<iframe src='mailto:a@b.example'></iframe><iframe src='tel:1'></iframe>"
                  "<script>location = 'mailto:a@b.example'; document.title = 'tried';</script>",
     "/files": "<script>try { location = 'file:///etc/passwd' } catch (e) {} document.title = 'tried';</script>",
+    "/chooser-of-colors": CHOOSER.format("color"),
+    "/chooser-of-files": CHOOSER.format("file"),
     "/download": "<title>download</title><iframe src='/attachment'></iframe>",
     "/ask": "<script>navigator.geolocation.getCurrentPosition(() => document.title = 'given',"
             "() => document.title = 'denied');</script>",

@@ -71,7 +71,7 @@ class Reach:
         with concurrent.futures.ThreadPoolExecutor(2) as pool:
             for number, (test, found) in enumerate(zip(waiting, pool.map(self.run, waiting)), 1):
                 self.tests[test.name] = dict(found, file=files.get(test.case, state["tests"]),
-                                              path=paths.get(test.case, ""))
+                                              path=paths.get(test.first_case, ""))
                 if number % 100 == 0:
                     # An interrupted run continues from here.
                     self.save(dict(state, tests=""))
@@ -128,7 +128,7 @@ class Reach:
         return self.tests[name]["seconds"] if name in self.tests else 30
 
     def path(self, name):
-        """The file of a test case, such as Tests/Guide/TQGuideTest.cpp; empty for other tests."""
+        """The file of a test's case or suite, such as Tests/Guide/TQGuideTest.cpp; empty for other tests."""
         return self.tests[name].get("path", "") if name in self.tests else ""
 
     def names_for(self, mutant):
@@ -142,7 +142,7 @@ class Reach:
 
 
 def files_of_cases(build):
-    """The hash and the path of the file that defines each test case."""
+    """The hash and the path of the file that defines each test case. Suites have a path too."""
     hashes, paths = {}, {}
     for program in ("Tests", "CoreTests"):
         listing = FOLDER / f"{program}.json"
@@ -156,4 +156,5 @@ def files_of_cases(build):
                         content[case["file"]] = hashlib.sha1(file.read()).hexdigest()[:16]
                 hashes[f"{each['name']}.{case['name']}"] = content[case["file"]]
                 paths[f"{each['name']}.{case['name']}"] = case["file"][case["file"].index("/tree/") + 6:]
+                paths[each["name"]] = paths[f"{each['name']}.{case['name']}"]
     return hashes, paths

@@ -204,7 +204,10 @@ def affected(slot, header):
     """The objects that change with a function or variable of a header."""
     includers = slot.includers[str(header)]
     owner = slot.mutant.owner
-    if not re.fullmatch(r"\w+", owner) or owner == header.stem:
+    line = header.read_text().splitlines()[slot.mutant.line - 1]
+    # Every constructor sets a member's default value, also those that the compiler writes.
+    is_default = re.match(rf" +(?!static|constexpr|inline)[\w:<>*, ]+ {re.escape(owner)}( = |\{{)", line)
+    if not re.fullmatch(r"\w+", owner) or owner == header.stem or is_default:
         return includers
     names = {owner}
     # Other functions of the header that use it.

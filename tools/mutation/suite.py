@@ -32,6 +32,12 @@ class Test:
         return match[1] if match else None
 
     @property
+    def first_case(self):
+        """The test case, or the suite that the test begins with."""
+        match = re.search(r"--gtest_filter=([\w/]+)\.", " ".join(self.command))
+        return self.case or match and match[1]
+
+    @property
     def suite(self):
         return (self.command[0], self.case.split(".")[0], self.environment) if self.case else self.name
 

@@ -49,6 +49,16 @@ TEST(SettingsStore, WritesValueOnceEventLoopRuns)
     EXPECT_EQ(SettingsStore().value(flag), QVariant(true));
 }
 
+TEST(SettingsStore, LeavesNothingBehind)
+{
+    {
+        const SettingsStore store;
+        EXPECT_FALSE(store.value(flag).isValid());
+        EXPECT_TRUE(QCoreApplication::instance()->findChild<QSettings *>());
+    }
+    EXPECT_FALSE(QCoreApplication::instance()->findChild<QSettings *>());
+}
+
 TEST(SettingsStore, ReadsOnlyTrueAndFalseAsBooleansFromText)
 {
     writeSettings("[General]\nyes=true\nno=false\none=1\nupper=True\nquoted=\"true \"\nword=yes\nlist=true, true\n");

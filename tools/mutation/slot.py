@@ -49,7 +49,9 @@ class Slot:
         try:
             path.write_bytes(original[:mutant.start] + mutant.new.encode() + original[mutant.end:])
             self.mutant, self.original, self.changed = mutant, original, path.read_bytes()
-            for self.stage, self.targets in enumerate(self.stages(path)):
+            stages = self.stages(path)
+            for self.targets in stages:
+                self.is_last = self.targets is stages[-1]
                 self.built = set()
                 self.mark_changed(status)
                 found = self.verdict()
@@ -90,8 +92,8 @@ class Slot:
         groups = self.candidates()
         if not any(groups) and not self.build("TQFoundation"):
             return INVALID, ""
-        # A mutant that no test notices in a minute of tests, the likeliest first, counts as a survivor.
-        left = 60.0
+        # A mutant that no test notices in 90 seconds of tests, the likeliest first, counts as a survivor.
+        left = 90.0
         for tests in groups:
             batches = collections.defaultdict(list)
             for test in tests:
@@ -126,7 +128,7 @@ class Slot:
             path = self.reach.path(test.name)
             return (not path.startswith(f"Tests/{folder}/{stem}"), f"/{folder}/" not in path, self.reach.seconds(test.name))
 
-        if self.targets is not None and self.stage == 0:
+        if not self.is_last:
             own = {name for name in names if self.reach.path(name).startswith(f"Tests/{folder}/{stem}Test")}
             names = own or names
         chosen = [usable[name] for name in names if name in usable]

@@ -24,7 +24,8 @@ TEST(ScrollIndicator, ShowsWhichPartIsVisible)
 {
     EXPECT_EQ(shownBeside(180, 0), QRectF(0, 10, 4, 45));
     EXPECT_EQ(shownBeside(180, 90), QRectF(0, 55, 4, 45));
-    EXPECT_EQ(shownBeside(90'000, 45'000), QRectF(0, 55, 4, 24)) << "large enough to see";
+    EXPECT_EQ(shownBeside(90'000, 0), QRectF(0, 10, 4, 24)) << "large enough to see";
+    EXPECT_EQ(shownBeside(90'000, 89'910), QRectF(0, 76, 4, 24)) << "and not below the page";
     EXPECT_EQ(shownBeside(90, 0), QRectF()) << "all is visible";
 }
 

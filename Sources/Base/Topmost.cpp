@@ -29,8 +29,6 @@ void addAsTopmostChild(QQuickItem *item, QQuickItem *host)
 
 bool isAbove(const QQuickItem *item, const QQuickItem *other)
 {
-    if (item->isAncestorOf(other) || other->isAncestorOf(item))
-        return false;
     while (item->parentItem() && !item->parentItem()->isAncestorOf(other))
         item = item->parentItem();
     const QQuickItem *const parent = item->parentItem();

@@ -85,24 +85,15 @@ WebEngineView {
             follow(request.requestedUrl);
     }
 
-    onAuthenticationDialogRequested: request => {
-        request.accepted = true;
-        request.dialogReject();
-    }
+    // A request that is answered here is not shown to the user.
+    onAuthenticationDialogRequested: request => request.dialogReject()
     onCertificateError: error => error.rejectCertificate()
-    onColorDialogRequested: request => {
-        request.accepted = true;
-        request.dialogReject();
-    }
+    onColorDialogRequested: request => request.dialogReject()
     onContextMenuRequested: request => request.accepted = true
-    onFileDialogRequested: request => {
-        request.accepted = true;
-        request.dialogReject();
-    }
+    onFileDialogRequested: request => request.dialogReject()
     onFileSystemAccessRequested: request => request.reject()
     onJavaScriptConsoleMessage: {}
     onJavaScriptDialogRequested: request => {
-        request.accepted = true;
         // The user may always leave a page.
         if (request.type === JavaScriptDialogRequest.DialogTypeBeforeUnload)
             request.dialogAccept();

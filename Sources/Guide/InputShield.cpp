@@ -306,7 +306,8 @@ void InputShield::redirectMouse(QMouseEvent &event)
     // Ends a gesture that began before the overlay was shown.
     event.setExclusiveGrabber(event.points().first(), nullptr);
     event.clearPassiveGrabbers(event.points().first());
-    event.setAccepted(resend(event.type(), event.points().first(), event.button(), event.buttons(), &event));
+    event.accept();
+    resend(event.type(), event.points().first(), event.button(), event.buttons(), &event);
 }
 
 // The first touch point becomes the mouse; others are consumed.
@@ -336,15 +337,15 @@ void InputShield::cancelPress()
     resend(QEvent::MouseButtonRelease, outside, Qt::LeftButton, Qt::NoButton);
 }
 
-// Whether an item accepted the event.
-bool InputShield::resend(QEvent::Type type, const QEventPoint &point, Qt::MouseButton button, Qt::MouseButtons buttons,
+void InputShield::resend(QEvent::Type type, const QEventPoint &point, Qt::MouseButton button, Qt::MouseButtons buttons,
                          const QInputEvent *source)
 {
     QMouseEvent event(type, point.scenePosition(), point.scenePosition(), point.globalPosition(), button, buttons,
                       source ? source->modifiers() : Qt::NoModifier, itemOnlyDevice());
     event.setTimestamp(source ? source->timestamp() : 0);
     m_pressed = buttons ? std::optional(point) : std::nullopt;
-    return m_window && QCoreApplication::sendEvent(m_window, &event) && event.isAccepted();
+    if (m_window)
+        QCoreApplication::sendEvent(m_window, &event);
 }
 
 } // namespace TQFoundation

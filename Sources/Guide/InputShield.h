@@ -53,7 +53,7 @@ private:
     void redirectMouse(QMouseEvent &event);
     void redirectTouch(QTouchEvent &event);
     void cancelPress();
-    bool resend(QEvent::Type type, const QEventPoint &point, Qt::MouseButton button, Qt::MouseButtons buttons,
+    void resend(QEvent::Type type, const QEventPoint &point, Qt::MouseButton button, Qt::MouseButtons buttons,
                 const QInputEvent *source = nullptr);
 
     QQuickItem *const m_overlay;

@@ -138,7 +138,7 @@ class Reach:
         for first, last in mutant.functions:
             if names := set().union(*(self.starts[mutant.file][line] for line in range(first, last + 1))):
                 return names
-        # What a header declares outside of functions belongs to the source of the same name.
+        # Declarations outside of functions belong to the source of the same name.
         source = self.starts.get(mutant.file.removesuffix(".h") + ".cpp", {})
         return set().union(*source.values()) if mutant.file.endswith(".h") else set()
 

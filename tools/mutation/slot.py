@@ -66,7 +66,7 @@ class Slot:
     def stages(self, path):
         """The objects to compile again, stage by stage. Those that include a header take minutes, so its own test comes
         first."""
-        # What moc reads changes a generated file, too.
+        # A macro that moc reads changes a generated file, too.
         if path.suffix != ".h" or self.mutant.text.startswith(("Q_", "QML_")):
             return [None]
         targets = affected(self, path)

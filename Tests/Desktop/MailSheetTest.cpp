@@ -3,6 +3,7 @@
 #include "MailHost.h"
 #include "ScreenReader.h"
 
+#include <QtCore/qscopeguard.h>
 #include <QtGui/qaccessible.h>
 #include <QtGui/qguiapplication.h>
 #include <QtGui/qpalette.h>
@@ -176,9 +177,11 @@ TEST_F(MailSheet, ScrollsDownAndUpToTheCursor)
 
 TEST_F(MailSheet, GrowsItsButtonsWithTheirText)
 {
-    QFont font = QGuiApplication::font();
-    font.setPointSizeF(24);
-    QGuiApplication::setFont(font);
+    const QFont usual = QGuiApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(24);
+    QGuiApplication::setFont(large);
+    const auto restore = qScopeGuard([&] { QGuiApplication::setFont(usual); });
     compose();
     const QQuickItem *const send = button("Send");
     const double lineHeight = send->property("contentItem").value<QQuickItem *>()->implicitHeight();

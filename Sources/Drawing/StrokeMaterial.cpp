@@ -49,9 +49,4 @@ QSGMaterialShader *StrokeMaterial::createShader(QSGRendererInterface::RenderMode
     return new Shader(m_kind);
 }
 
-int StrokeMaterial::compare(const QSGMaterial *other) const
-{
-    return this < other ? -1 : this > other ? 1 : 0;
-}
-
 } // namespace TQFoundation

@@ -19,7 +19,6 @@ public:
 
     QSGMaterialType *type() const override;
     QSGMaterialShader *createShader(QSGRendererInterface::RenderMode mode) const override;
-    int compare(const QSGMaterial *other) const override;
 
 private:
     class Shader;

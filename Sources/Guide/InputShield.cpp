@@ -292,11 +292,10 @@ bool InputShield::filterPointer(QEvent *pointerEvent)
     if (event.pointingDevice() == itemOnlyDevice() || !isPressedInside(*this, event)
         || (m_cover && isPressedInside(*m_cover, event)))
         return false;
-    if (m_cover)
-        event.accept();
-    else if (event.isSinglePointEvent())
+    event.accept();
+    if (!m_cover && event.isSinglePointEvent())
         redirectMouse(static_cast<QMouseEvent &>(event));
-    else
+    else if (!m_cover)
         redirectTouch(static_cast<QTouchEvent &>(event));
     return true;
 }
@@ -306,14 +305,12 @@ void InputShield::redirectMouse(QMouseEvent &event)
     // Ends a gesture that began before the overlay was shown.
     event.setExclusiveGrabber(event.points().first(), nullptr);
     event.clearPassiveGrabbers(event.points().first());
-    event.accept();
     resend(event.type(), event.points().first(), event.button(), event.buttons(), &event);
 }
 
 // The first touch point becomes the mouse; others are consumed.
 void InputShield::redirectTouch(QTouchEvent &event)
 {
-    event.accept();
     for (const QEventPoint &point : event.points()) {
         event.setExclusiveGrabber(point, nullptr);
         event.clearPassiveGrabbers(point);
